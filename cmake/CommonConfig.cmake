@@ -1,0 +1,30 @@
+# One target that only carries the flags, which every library and program of this tree links.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE}")
+endif()
+
+add_library(planovarium_flags INTERFACE)
+target_compile_options(planovarium_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
+
+if(PLANOVARIUM_SANITIZE)
+  target_compile_options(planovarium_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(planovarium_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(PLANOVARIUM_FUZZ)
+  target_compile_options(planovarium_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+find_program(MOLD mold)
+if(MOLD)
+  target_link_options(planovarium_flags INTERFACE -fuse-ld=mold)
+endif()

@@ -1,0 +1,225 @@
+// Dates, times and moments as texts: what the store holds and what a student or an old file may have written.
+#include "core/DateText.h"
+
+#include "core/RunTimeError.h"
+#include "core/Values.h"
+#include "platform/Formats.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+
+namespace {
+
+using std::chrono::day;
+using std::chrono::month;
+using std::chrono::year;
+using std::chrono::year_month_day;
+
+constexpr int LeastYear = 100;
+constexpr int GreatestYear = 9999;
+constexpr int FirstTwoDigitYearOf1900 = 30;
+constexpr std::string_view DateSeparators = "/-.";
+
+bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+// One to four digits; nothing for any other text.
+std::optional<int> Digits(std::string_view text) {
+    if (text.empty() || text.size() > 4 || !std::ranges::all_of(text, IsDigit)) {
+        return std::nullopt;
+    }
+    int value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+std::optional<Date> CalendarDate(int y, int m, int d) {
+    const year_month_day date{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}};
+    if (y < LeastYear || y > GreatestYear || !date.ok()) {
+        return std::nullopt;
+    }
+    return Date{date};
+}
+
+// The form in which the store keeps nearly every date, read without a search for its parts.
+std::optional<Date> StoredFormDate(std::string_view text) {
+    const bool fits = text.size() == 10 && text[4] == '/' && text[7] == '/';
+    if (!fits) {
+        return std::nullopt;
+    }
+    std::array<int, 10> digits{};
+    for (const std::size_t i : {0U, 1U, 2U, 3U, 5U, 6U, 8U, 9U}) {
+        if (!IsDigit(text[i])) {
+            return std::nullopt;
+        }
+        digits[i] = text[i] - '0';
+    }
+    return CalendarDate(digits[0] * 1000 + digits[1] * 100 + digits[2] * 10 + digits[3],
+                        digits[5] * 10 + digits[6], digits[8] * 10 + digits[9]);
+}
+
+int FullYear(int number, std::size_t digits) {
+    if (digits > 2) {
+        return number;
+    }
+    return number + (number < FirstTwoDigitYearOf1900 ? 2000 : 1900);
+}
+
+struct DatePieces {
+    std::array<std::string_view, 3> texts;
+    std::array<int, 3> numbers;
+};
+
+std::optional<DatePieces> SplitDate(std::string_view text) {
+    DatePieces pieces{};
+    for (std::size_t i = 0; i < pieces.texts.size(); ++i) {
+        const bool last = i + 1 == pieces.texts.size();
+        const std::size_t end = last ? text.size() : text.find_first_of(DateSeparators);
+        if (end == std::string_view::npos) {
+            return std::nullopt;
+        }
+        pieces.texts[i] = text.substr(0, end);
+        const std::optional<int> number = Digits(pieces.texts[i]);
+        if (!number) {
+            return std::nullopt;
+        }
+        pieces.numbers[i] = *number;
+        text.remove_prefix(last ? end : end + 1);
+    }
+    return pieces;
+}
+
+// Takes the number in front of the text off it; nothing when there is none of one or two digits.
+std::optional<int> TakeNumber(std::string_view& text) {
+    const std::size_t length = std::min(text.find_first_not_of("0123456789"), text.size());
+    const std::optional<int> number = length <= 2 ? Digits(text.substr(0, length)) : std::nullopt;
+    text.remove_prefix(length);
+    return number;
+}
+
+enum class HalfDay { None, Morning, Afternoon };
+
+// Takes "AM" or "PM" in any case off the end of the text, with the blanks before it.
+HalfDay TakeHalfDay(std::string_view& text) {
+    if (text.size() < 2) {
+        return HalfDay::None;
+    }
+    const std::string_view end = text.substr(text.size() - 2);
+    const bool morning = CompareFolded(end, "am") == 0;
+    if (!morning && CompareFolded(end, "pm") != 0) {
+        return HalfDay::None;
+    }
+    text = RightTrim(text.substr(0, text.size() - 2));
+    return morning ? HalfDay::Morning : HalfDay::Afternoon;
+}
+
+template <class Value>
+Value Required(std::optional<Value> value, std::string_view wanted, std::string_view text) {
+    if (!value) {
+        throw RunTimeError(wanted, text);
+    }
+    return *value;
+}
+
+} // namespace
+
+std::optional<Date> DateIn(std::string_view text) {
+    if (const std::optional<Date> date = StoredFormDate(text)) {
+        return date;
+    }
+    const std::optional<DatePieces> pieces = SplitDate(Trim(text));
+    if (!pieces) {
+        return std::nullopt;
+    }
+    const auto& [a, b, c] = pieces->numbers;
+    if (pieces->texts[0].size() == 4) {
+        return CalendarDate(a, b, c);
+    }
+    switch (LocaleDateOrder()) {
+    case DateOrder::MonthDayYear:
+        return CalendarDate(FullYear(c, pieces->texts[2].size()), a, b);
+    case DateOrder::DayMonthYear:
+        return CalendarDate(FullYear(c, pieces->texts[2].size()), b, a);
+    case DateOrder::YearMonthDay:
+        return CalendarDate(FullYear(a, pieces->texts[0].size()), b, c);
+    }
+    return std::nullopt;
+}
+
+std::optional<TimeOfDay> TimeIn(std::string_view text) {
+    text = Trim(text);
+    const HalfDay half = TakeHalfDay(text);
+    const std::optional<int> hour = TakeNumber(text);
+    std::array<int, 2> minuteAndSecond{};
+    std::size_t parts = 0;
+    while (hour && text.starts_with(':') && parts < minuteAndSecond.size()) {
+        text.remove_prefix(1);
+        const std::optional<int> number = TakeNumber(text);
+        if (!number || *number > 59) {
+            return std::nullopt;
+        }
+        minuteAndSecond[parts++] = *number;
+    }
+    const int greatestHour = half == HalfDay::None ? 23 : 12;
+    const bool bareNumber = half == HalfDay::None && parts == 0;
+    if (!hour || *hour > greatestHour || !text.empty() || bareNumber) {
+        return std::nullopt;
+    }
+    const int hours = half == HalfDay::None ? *hour : *hour % 12 + (half == HalfDay::Afternoon ? 12 : 0);
+    return std::chrono::hours{hours} + std::chrono::minutes{minuteAndSecond[0]} +
+           std::chrono::seconds{minuteAndSecond[1]};
+}
+
+std::optional<Moment> MomentIn(std::string_view text) {
+    text = Trim(text);
+    const std::size_t blank = text.find(' ');
+    const std::optional<Date> date = DateIn(text.substr(0, blank));
+    if (!date) {
+        return std::nullopt;
+    }
+    if (blank == std::string_view::npos) {
+        return Moment{*date};
+    }
+    const std::optional<TimeOfDay> time = TimeIn(text.substr(blank));
+    return time ? std::optional<Moment>(Moment{*date} + *time) : std::nullopt;
+}
+
+bool IsDate(std::string_view text) {
+    return DateIn(text).has_value();
+}
+
+bool IsTime(std::string_view text) {
+    return TimeIn(text).has_value();
+}
+
+Date DateValue(std::string_view text) {
+    return Required(DateIn(text), "Not a date", text);
+}
+
+TimeOfDay TimeValue(std::string_view text) {
+    return Required(TimeIn(text), "Not a time", text);
+}
+
+Moment MomentValue(std::string_view text) {
+    return Required(MomentIn(text), "Not a moment", text);
+}
+
+std::string StoredDate(Date date) {
+    const year_month_day parts{date};
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%04d/%02u/%02u", static_cast<int>(parts.year()),
+                  static_cast<unsigned>(parts.month()), static_cast<unsigned>(parts.day()));
+    return text.data();
+}
+
+std::string StoredMoment(Moment moment) {
+    const Date date = std::chrono::floor<std::chrono::days>(moment);
+    const std::chrono::hh_mm_ss time{moment - Moment{date}};
+    std::array<char, 16> text{};
+    std::snprintf(text.data(), text.size(), " %02d:%02d:00", static_cast<int>(time.hours().count()),
+                  static_cast<int>(time.minutes().count()));
+    return StoredDate(date) + text.data();
+}

@@ -1,0 +1,110 @@
+// Module1 owns all that the planner knows while it runs: the store, the active term and the id counters.
+#include "core/Module1.h"
+
+#include "core/DateText.h"
+#include "core/Values.h"
+
+using namespace std::chrono_literals;
+
+PlannerStore Store;
+TypeTableLists TypeTable;
+int NextTermID = 1;
+int NextClassID = 1;
+int NextAssignmentID = 1;
+int NextTaskID = 1;
+int NextEventID = 1;
+
+namespace {
+
+constexpr Date NoTermBound{2000y / 1 / 1};
+
+void TakeTerm(int position) {
+    ActiveTermName = Store.Term.name.Item(position);
+    ActiveTermID = ToInt16(Store.Term.id.Item(position));
+    ActiveTermStart = DateValue(Store.Term.start.Item(position));
+    ActiveTermEnd = DateValue(Store.Term.end.Item(position));
+}
+
+} // namespace
+
+std::string ActiveTermName;
+int ActiveTermID = 0;
+Date ActiveTermStart = NoTermBound;
+Date ActiveTermEnd = NoTermBound;
+ActiveClassLists ActiveClasses;
+
+std::filesystem::path DocumentFolder;
+std::filesystem::path DataFolder;
+std::filesystem::path BackupFolder;
+std::filesystem::path HelpFile;
+FileFlags FileWrittenFlags;
+
+bool AssignmentDBFirstOpen = false;
+bool SelectCourseScheduleDBFirstOpen = false;
+bool CourseScheduleDBFirstOpen = false;
+bool TaskDBFirstOpen = false;
+bool RecurrenceDBFirstOpen = false;
+bool EventDBFirstOpen = false;
+bool ColorsDBFirstOpen = false;
+bool ColorsNameDBFirstOpen = false;
+bool AboutDBFirstOpen = false;
+bool AlertDBFirstOpen = false;
+bool RemindersDBFirstOpen = false;
+bool GPADBFirstOpen = false;
+bool StartupComplete = false;
+bool CalledFromReminders = false;
+std::string ReminderOpenMode;
+int ReminderIndex = 0;
+bool ShuttingDown = false;
+
+void SetFirstOpenFlags() {
+    for (bool* flag : {&AssignmentDBFirstOpen, &SelectCourseScheduleDBFirstOpen, &CourseScheduleDBFirstOpen,
+                       &TaskDBFirstOpen, &RecurrenceDBFirstOpen, &EventDBFirstOpen, &ColorsDBFirstOpen,
+                       &ColorsNameDBFirstOpen, &AboutDBFirstOpen, &AlertDBFirstOpen, &RemindersDBFirstOpen,
+                       &GPADBFirstOpen}) {
+        *flag = true;
+    }
+}
+
+void ResetAssignmentLists() {
+    Store.Assignment = {};
+}
+
+void ChooseActiveTerm(std::string_view name) {
+    ActiveTermName.clear();
+    ActiveTermID = 0;
+    ActiveTermStart = NoTermBound;
+    ActiveTermEnd = NoTermBound;
+    ResetAssignmentLists();
+    const TextList& names = Store.Term.name;
+    for (int position = 1; position <= names.Count(); ++position) {
+        if (names.Item(position) == name) {
+            TakeTerm(position);
+        }
+    }
+    for (int position = names.Count(); position >= 1 && ActiveTermName.empty(); --position) {
+        if (names.Item(position) != DeletedRecord) {
+            TakeTerm(position);
+        }
+    }
+}
+
+bool ActiveTermIsLiving() {
+    return !ActiveTermName.empty() && ActiveTermName != DeletedRecord;
+}
+
+void SetupActiveClasses() {
+    ActiveClasses = {};
+    const ClassLists& classes = Store.ClassRecord;
+    for (int position = 1; position <= classes.name.Count(); ++position) {
+        const bool ofTerm = NumberIn(classes.term.Item(position)) == ActiveTermID;
+        if (ActiveTermID == 0 || !ofTerm || classes.name.Item(position) == DeletedRecord) {
+            continue;
+        }
+        ActiveClasses.id.Add(classes.id.Item(position));
+        ActiveClasses.name.Add(classes.name.Item(position));
+        ActiveClasses.credits.Add(classes.credits.Item(position));
+        ActiveClasses.forecolor.Add(classes.forecolor.Item(position));
+        ActiveClasses.backcolor.Add(classes.backcolor.Item(position));
+    }
+}

@@ -1,0 +1,17 @@
+// The general run-time error: a position outside a list, a text that does not convert, a 16-bit overflow.
+// The file procedures catch it and show their fixed messages; anywhere else it ends the program.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+struct RunTimeError : std::runtime_error {
+    explicit RunTimeError(std::string_view text, std::string_view offendingValue = {})
+        : std::runtime_error(offendingValue.empty()
+                                 ? std::string(text)
+                                 : std::string(text) + ": \"" + std::string(offendingValue) + "\""),
+          value(offendingValue) {}
+
+    std::string value; // the text or number at fault, empty when there is none
+};

@@ -1,0 +1,30 @@
+// What the program needs of the operating system beyond files: its own number, other processes, the environment,
+// special folders, and word that it has to end.
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <string_view>
+
+// The number of this process.
+long ProcessNumber();
+
+// The value of an environment variable; empty when it is not set.
+std::string EnvironmentValue(const char* name);
+
+// Opens a web address or a file with the program that the user has chosen for it. Failures are not reported.
+void ShellOpen(std::string_view address);
+
+// Starts a program and does not wait for it. Gives its process number, 0 when it could not be started.
+long StartProcess(const std::string& program, std::initializer_list<std::string> arguments);
+
+// The folder from which the desktop session starts programs.
+std::filesystem::path StartupFolder();
+
+// Calls the procedure, on the window thread, when a termination signal arrives or the desktop session ends.
+void OnTermination(std::function<void()> end);
+
+// Hands what was written to the file to the device; false when that failed.
+bool SyncToDevice(std::FILE* file);

@@ -1,0 +1,94 @@
+// Dates, times and moments as texts.
+#include "core/DateText.h"
+#include "core/RunTimeError.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr Date FirstOfMay{2009y / 5 / 1};
+
+class DateTexts : public testing::Test {
+protected:
+    void SetUp() override { ResetScript(); }
+};
+
+} // namespace
+
+TEST_F(DateTexts, AFourDigitYearInFrontDecides) {
+    EXPECT_EQ(DateIn("2009/05/01"), FirstOfMay);
+    EXPECT_EQ(DateIn("2009/5/1"), FirstOfMay);
+    EXPECT_EQ(DateIn("2009-05-01"), FirstOfMay);
+    EXPECT_EQ(DateIn("2009.05.01"), FirstOfMay);
+    EXPECT_EQ(DateIn(" 2009/05/01 "), FirstOfMay);
+}
+
+TEST_F(DateTexts, ElseTheOrderOfTheUserDecides) {
+    EXPECT_EQ(DateIn("5/1/2009"), FirstOfMay);
+    Script.dateOrder = DateOrder::DayMonthYear;
+    EXPECT_EQ(DateIn("1.5.2009"), FirstOfMay);
+    EXPECT_EQ(DateIn("01.05.09"), FirstOfMay);
+    Script.dateOrder = DateOrder::YearMonthDay;
+    EXPECT_EQ(DateIn("09-05-01"), FirstOfMay);
+}
+
+TEST_F(DateTexts, TwoDigitYearsTurnAtThirty) {
+    EXPECT_EQ(DateIn("5/1/29"), Date{2029y / 5 / 1});
+    EXPECT_EQ(DateIn("5/1/30"), Date{1930y / 5 / 1});
+    EXPECT_EQ(DateIn("5/1/00"), Date{2000y / 5 / 1});
+}
+
+TEST_F(DateTexts, WhatIsNoDayOfTheCalendarIsNoDate) {
+    for (const char* none : {"", "2009/02/29", "2009/13/01", "2009/00/01", "2009/04/31", "2009/05", "//", "abc",
+                             "2009/05/01x", "2009/05/01/", "20090501", "2009/05/01 10:00", "-2009/05/01",
+                             "99999/01/01", "0000/01/01"}) {
+        EXPECT_FALSE(IsDate(none)) << none;
+        EXPECT_THROW(DateValue(none), RunTimeError) << none;
+    }
+    EXPECT_TRUE(IsDate("2008/02/29"));
+}
+
+TEST_F(DateTexts, EveryDayOfSixCenturiesReadsBackAsItself) {
+    for (Date date{1600y / 1 / 1}; date < Date{2200y / 1 / 1}; date += std::chrono::days{1}) {
+        ASSERT_EQ(DateIn(StoredDate(date)), date) << StoredDate(date);
+    }
+}
+
+TEST_F(DateTexts, TimesAreReadInTheFormsThatPeopleWrite) {
+    EXPECT_EQ(TimeIn("9:00 AM"), 9h);
+    EXPECT_EQ(TimeIn("09:00 am"), 9h);
+    EXPECT_EQ(TimeIn("11:30PM"), 23h + 30min);
+    EXPECT_EQ(TimeIn("9 AM"), 9h);
+    EXPECT_EQ(TimeIn("14:05"), 14h + 5min);
+    EXPECT_EQ(TimeIn("14:05:59"), 14h + 5min + 59s);
+    EXPECT_EQ(TimeIn("12:00 AM"), 0h);
+    EXPECT_EQ(TimeIn("12:00 PM"), 12h);
+    EXPECT_EQ(TimeIn(" 1:05:07 pm "), 13h + 5min + 7s);
+    EXPECT_EQ(TimeIn("0:00"), 0h);
+}
+
+TEST_F(DateTexts, WhatIsNoTimeIsNone) {
+    for (const char* none : {"", "9", "25:00", "24:00", "13:00 PM", "9:60 AM", "9:00:60", "AM", ":30", "9:", "9:00 XM",
+                             "123:00", "9:00 AM x", "soon", "9:00:00:00"}) {
+        EXPECT_FALSE(IsTime(none)) << none;
+        EXPECT_THROW(TimeValue(none), RunTimeError) << none;
+    }
+}
+
+TEST_F(DateTexts, MomentsHaveADateAndMayHaveATime) {
+    EXPECT_EQ(MomentIn("2009/05/01 09:30:00"), Moment{FirstOfMay} + 9h + 30min);
+    EXPECT_EQ(MomentIn("2009/05/01 09:30 PM"), Moment{FirstOfMay} + 21h + 30min);
+    EXPECT_EQ(MomentIn("2009/05/01"), Moment{FirstOfMay});
+    EXPECT_EQ(MomentIn("5/1/2009 9:00 AM"), Moment{FirstOfMay} + 9h);
+    EXPECT_FALSE(MomentIn("2009/05/01 25:00").has_value());
+    EXPECT_FALSE(MomentIn("09:30:00").has_value());
+    EXPECT_THROW(MomentValue(""), RunTimeError);
+}
+
+TEST_F(DateTexts, TheStoredMomentDropsTheSeconds) {
+    EXPECT_EQ(StoredMoment(Moment{FirstOfMay} + 9h + 5min + 59s), "2009/05/01 09:05:00");
+    EXPECT_EQ(StoredMoment(Moment{FirstOfMay}), "2009/05/01 00:00:00");
+}

@@ -1,0 +1,5 @@
+target_sources(logic_tests PRIVATE
+  core/DateTextTest.cpp
+  core/Module1Test.cpp
+  core/ValuesTest.cpp
+)

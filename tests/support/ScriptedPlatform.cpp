@@ -1,0 +1,171 @@
+// The platform of the tests: a clock that they set, message boxes that answer from a queue and are remembered.
+#include "support/ScriptedPlatform.h"
+
+#include "platform/InstanceLink.h"
+#include "platform/Process.h"
+
+#include <array>
+#include <cstdlib>
+#include <unistd.h>
+
+ScriptedPlatform Script;
+
+namespace {
+
+using std::chrono::floor;
+
+constexpr std::array<const char*, 12> MonthNames{"January",   "February", "March",    "April",
+                                                 "May",       "June",     "July",     "August",
+                                                 "September", "October",  "November", "December"};
+constexpr std::array<const char*, 7> DayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                              "Thursday", "Friday", "Saturday"};
+
+std::string Padded(int number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+} // namespace
+
+void ResetScript() {
+    Script = {};
+    SetClock(2009, 10, 14);
+}
+
+void SetClock(int year, int month, int day, int hour, int minute, int second) {
+    const std::chrono::year_month_day date{std::chrono::year{year},
+                                           std::chrono::month{static_cast<unsigned>(month)},
+                                           std::chrono::day{static_cast<unsigned>(day)}};
+    Script.now = Moment{Date{date}} + std::chrono::hours{hour} + std::chrono::minutes{minute} +
+                 std::chrono::seconds{second};
+}
+
+Moment Now() {
+    return Script.now;
+}
+
+Date Today() {
+    return floor<std::chrono::days>(Script.now);
+}
+
+DateOrder LocaleDateOrder() {
+    return Script.dateOrder;
+}
+
+// The forms of US English.
+ScreenText FormatDate(Date date, std::string_view form) {
+    const std::chrono::year_month_day parts{date};
+    const int y = static_cast<int>(parts.year());
+    const auto m = static_cast<std::size_t>(static_cast<unsigned>(parts.month())) - 1;
+    const int d = static_cast<int>(static_cast<unsigned>(parts.day()));
+    const std::string month = MonthNames[m];
+    const std::string weekday = DayNames[std::chrono::weekday{date}.c_encoding()];
+    if (form == "Long Date") {
+        return {weekday + ", " + month + " " + std::to_string(d) + ", " + std::to_string(y)};
+    }
+    if (form == "Medium Date") {
+        return {Padded(d) + "-" + month.substr(0, 3) + "-" + Padded(y % 100)};
+    }
+    if (form == "Short Date") {
+        return {std::to_string(m + 1) + "/" + std::to_string(d) + "/" + std::to_string(y)};
+    }
+    if (form == "dddd, mmm d") {
+        return {weekday + ", " + month.substr(0, 3) + " " + std::to_string(d)};
+    }
+    if (form == "dddd, MMMM d") {
+        return {weekday + ", " + month + " " + std::to_string(d)};
+    }
+    if (form == "dddd") {
+        return {weekday};
+    }
+    if (form == "mmm") {
+        return {month.substr(0, 3)};
+    }
+    if (form == "MMMM") {
+        return {month};
+    }
+    return {std::to_string(d)};
+}
+
+ScreenText FormatTime(TimeOfDay time, std::string_view) {
+    const std::chrono::hh_mm_ss parts{time};
+    const int hour = static_cast<int>(parts.hours().count());
+    const int shown = hour % 12 == 0 ? 12 : hour % 12;
+    return {Padded(shown) + ":" + Padded(static_cast<int>(parts.minutes().count())) +
+            (hour < 12 ? " AM" : " PM")};
+}
+
+Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) {
+    Script.boxes.push_back({std::string(title), std::string(text), buttons, icon});
+    if (Script.whileBoxIsOpen) {
+        Script.whileBoxIsOpen(ShownBox(Script.boxes.back()));
+    }
+    if (Script.answers.empty()) {
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+    const Answer answer = Script.answers.front();
+    Script.answers.pop_front();
+    return answer;
+}
+
+void ShowFatalError(std::string_view text) {
+    Script.fatalErrors.emplace_back(text);
+}
+
+void AddTrayIcon(std::string_view tip, TrayEvents events) {
+    Script.trayTip = tip;
+    Script.trayEvents = std::move(events);
+}
+
+void RemoveTrayIcon() {
+    Script.trayTip.clear();
+}
+
+bool ClaimFirstInstance() {
+    return true;
+}
+
+LinkResult SendLinkCommand(std::string_view, std::string_view, std::string_view) {
+    return LinkResult::Failed;
+}
+
+bool ReceiveLinkCommands(std::string_view, std::string_view,
+                         std::function<bool(const std::string& command)> receive) {
+    Script.receiveLink = std::move(receive);
+    return true;
+}
+
+long ProcessNumber() {
+    return ::getpid();
+}
+
+std::string EnvironmentValue(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string{} : std::string(value);
+}
+
+void ShellOpen(std::string_view address) {
+    Script.opened.emplace_back(address);
+}
+
+long StartProcess(const std::string& program, std::initializer_list<std::string> arguments) {
+    Script.processes.push_back({program, arguments});
+    return 4711;
+}
+
+std::filesystem::path StartupFolder() {
+    return std::filesystem::temp_directory_path() / "planovarium-startup";
+}
+
+void OnTermination(std::function<void()>) {}
+
+bool SyncToDevice(std::FILE* file) {
+    return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
+}
+
+ScreenSize PrimaryScreenSize() {
+    return Script.screen;
+}
+
+WorkArea PrimaryWorkArea() {
+    return Script.workArea;
+}

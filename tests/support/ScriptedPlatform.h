@@ -1,0 +1,51 @@
+// The platform of the tests: a clock that they set, message boxes that answer from a queue and are remembered.
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/Formats.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Screen.h"
+#include "platform/Tray.h"
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+struct ShownBox {
+    std::string title;
+    std::string text;
+    Buttons buttons = Buttons::Ok;
+    Icon icon = Icon::None;
+
+    friend bool operator==(const ShownBox&, const ShownBox&) = default;
+};
+
+struct StartedProcess {
+    std::string program;
+    std::vector<std::string> arguments;
+};
+
+struct ScriptedPlatform {
+    Moment now{};
+    DateOrder dateOrder = DateOrder::MonthDayYear;
+    std::vector<ShownBox> boxes;        // every box shown, in order
+    std::deque<Answer> answers;         // given to the next boxes; a box without one answers Ok, or No to a question
+    std::function<void(const ShownBox&)> whileBoxIsOpen; // runs while a box is on the screen
+    std::vector<std::string> fatalErrors;
+    std::vector<std::string> opened; // addresses handed to the shell
+    std::vector<StartedProcess> processes;
+    std::string trayTip; // empty while there is no icon
+    TrayEvents trayEvents;
+    std::function<bool(const std::string&)> receiveLink;
+    ScreenSize screen{1280, 1024};
+    WorkArea workArea{0, 0, 1280, 994};
+};
+
+extern ScriptedPlatform Script;
+
+// A fresh platform whose clock stands at noon of 2009-10-14, a Wednesday.
+void ResetScript();
+
+// Sets the clock: SetClock(2009, 10, 14, 9, 30).
+void SetClock(int year, int month, int day, int hour = 12, int minute = 0, int second = 0);
