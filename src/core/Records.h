@@ -9,9 +9,9 @@
 
 // How the reader and the writer of the record files treat a field.
 enum class FieldRule {
-    Plain, // the text unchanged
-    Date,  // separators become "/" when read; formatted as yyyy/MM/dd when written
-    Id     // the text unchanged, and it raises the kind's id counter when read
+    Plain,    // the text unchanged
+    DateText, // separators become "/" when read; formatted as yyyy/MM/dd when written
+    Id        // the text unchanged, and it raises the kind's id counter when read
 };
 
 template <class Lists>
@@ -28,8 +28,8 @@ struct TermLists {
 inline constexpr std::array<Field<TermLists>, 4> TermFields{{
     {"id", &TermLists::id, FieldRule::Id},
     {"name", &TermLists::name},
-    {"start", &TermLists::start, FieldRule::Date},
-    {"end", &TermLists::end, FieldRule::Date},
+    {"start", &TermLists::start, FieldRule::DateText},
+    {"end", &TermLists::end, FieldRule::DateText},
 }};
 
 struct ClassLists {
@@ -54,7 +54,7 @@ struct AssignmentLists {
 inline constexpr std::array<Field<AssignmentLists>, 19> AssignmentFields{{
     {"id", &AssignmentLists::id, FieldRule::Id},
     {"class", &AssignmentLists::class_},
-    {"date", &AssignmentLists::date, FieldRule::Date},
+    {"date", &AssignmentLists::date, FieldRule::DateText},
     {"desc", &AssignmentLists::desc},
     {"type", &AssignmentLists::type},
     {"priority", &AssignmentLists::priority},
@@ -66,7 +66,7 @@ inline constexpr std::array<Field<AssignmentLists>, 19> AssignmentFields{{
     {"total", &AssignmentLists::total},
     {"grade", &AssignmentLists::grade},
     {"reminder", &AssignmentLists::reminder},
-    {"reminderdate", &AssignmentLists::reminderdate, FieldRule::Date},
+    {"reminderdate", &AssignmentLists::reminderdate, FieldRule::DateText},
     {"remindertime", &AssignmentLists::remindertime},
     {"reminderalarm", &AssignmentLists::reminderalarm},
     {"reminderlist", &AssignmentLists::reminderlist},
@@ -80,7 +80,7 @@ struct TaskLists {
 
 inline constexpr std::array<Field<TaskLists>, 14> TaskFields{{
     {"id", &TaskLists::id, FieldRule::Id},
-    {"date", &TaskLists::date, FieldRule::Date},
+    {"date", &TaskLists::date, FieldRule::DateText},
     {"desc", &TaskLists::desc},
     {"date_exists", &TaskLists::date_exists},
     {"type", &TaskLists::type},
@@ -88,7 +88,7 @@ inline constexpr std::array<Field<TaskLists>, 14> TaskFields{{
     {"percent_complete", &TaskLists::percent_complete},
     {"done", &TaskLists::done},
     {"reminder", &TaskLists::reminder},
-    {"reminder_date", &TaskLists::reminder_date, FieldRule::Date},
+    {"reminder_date", &TaskLists::reminder_date, FieldRule::DateText},
     {"reminder_time", &TaskLists::reminder_time},
     {"reminder_alarm", &TaskLists::reminder_alarm},
     {"reminder_list", &TaskLists::reminder_list},
@@ -103,7 +103,7 @@ struct EventLists {
 
 inline constexpr std::array<Field<EventLists>, 23> EventFields{{
     {"id", &EventLists::id, FieldRule::Id},
-    {"date", &EventLists::date, FieldRule::Date},
+    {"date", &EventLists::date, FieldRule::DateText},
     {"time", &EventLists::time},
     {"duration", &EventLists::duration},
     {"desc", &EventLists::desc},
@@ -116,7 +116,7 @@ inline constexpr std::array<Field<EventLists>, 23> EventFields{{
     {"repeat_day", &EventLists::repeat_day},
     {"repeat_daily", &EventLists::repeat_daily},
     {"end", &EventLists::end},
-    {"end_date", &EventLists::end_date, FieldRule::Date},
+    {"end_date", &EventLists::end_date, FieldRule::DateText},
     {"reminder", &EventLists::reminder},
     {"reminder_time", &EventLists::reminder_time},
     {"reminder_alarm", &EventLists::reminder_alarm},

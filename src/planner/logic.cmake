@@ -1,3 +1,6 @@
 target_sources(planovarium_logic PRIVATE
+  planner/ClassLink.cpp
   planner/DateHelpers.cpp
+  planner/EventOccursOn.cpp
+  planner/SeriesRule.cpp
 )

@@ -1,3 +1,5 @@
 target_sources(logic_tests PRIVATE
+  planner/ClassLinkTest.cpp
   planner/DateHelpersTest.cpp
+  planner/EventOccursOnTest.cpp
 )

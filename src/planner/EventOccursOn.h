@@ -1,0 +1,37 @@
+// The rule of whether an event falls on a date.
+#pragma once
+
+#include "planner/SeriesRule.h"
+#include "platform/Clock.h"
+
+#include <optional>
+#include <string_view>
+
+// True when the event at the position occurs on the day. A date that it has given up never counts, its first
+// date always does, and the days after it as the rule of the series says until its end. A deleted event never
+// occurs. The texts of the record are read in the order of these questions, none beyond the one that decides;
+// a bad text among those read raises the run-time error.
+bool EventOccursOn(Date day, int index);
+
+// What the rules ask of a day.
+struct DayFacts {
+    Date date;
+    int number = 0; // day of the month
+    int month = 0;
+    int weekday = 0;     // Sunday 1 to Saturday 7
+    int daysInMonth = 0; // of its month
+};
+
+DayFacts FactsOf(Date date);
+
+// True when the series that begins on the first date falls on a later day by its rule alone: its exceptions
+// and its end are not asked. The weekday of a rank is that of the first date, whatever the text of
+// `repeat_day` says; the walks take it from the text, and the difference is meant.
+bool RuleHolds(const SeriesRule& rule, const DayFacts& first, const DayFacts& day);
+
+// Takes the next date off the left end of a text of `exceptions`; nothing when none is left. Blanks separate;
+// a piece that is no date raises the run-time error.
+std::optional<Date> TakeException(std::string_view& exceptions);
+
+// True when the day is listed in a text of `exceptions`, which is read from the left as far as that day.
+bool IsException(std::string_view exceptions, Date day);

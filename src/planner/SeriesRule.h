@@ -1,0 +1,46 @@
+// The recurrence fields of an event, read once into plain values, and the days of a month that they name.
+#pragma once
+
+#include "platform/Clock.h"
+
+#include <string_view>
+
+// What `recurrence` says. A weekly event is a Day with some of the days of the week set.
+enum class Recurrence { None, Day, Month, Year, Unlisted };
+
+// What `repeat_number` says.
+enum class Rank { First, Second, Third, Fourth, Last, Unlisted };
+
+struct SeriesRule {
+    Recurrence recurrence = Recurrence::None;
+    unsigned weekdays = 0;      // of Day: bit n for the weekday number n, Sunday 1 to Saturday 7
+    bool sameDate = false;      // of Month and Year, as all that follows
+    Rank rank = Rank::Unlisted; // read where sameDate is false, as all that follows
+    bool countsDays = false;    // repeat_day is "Day": the days of the month are counted, not a weekday
+    int weekday = 0;            // weekday number in the text of repeat_day; any text but a day's name is 7
+};
+
+Recurrence RecurrenceIn(std::string_view text);
+Rank RankIn(std::string_view text);
+
+// The days of the week in `repeat_daily`, whose letters run from Monday to Sunday, as the bits of SeriesRule.
+// A missing letter and any other than "T" leave their day out.
+unsigned WeekdaysIn(std::string_view pattern);
+
+bool HasWeekday(unsigned weekdays, int weekdayNumber);
+
+// The weekday number that the text of `repeat_day` stands for: Sunday 1 to Friday 6, any other text 7.
+int WeekdayIn(std::string_view text);
+
+// Reads the fields that the event's recurrence looks at and no others; raises the run-time error where a
+// `same_date` among them is no boolean.
+SeriesRule ReadSeriesRule(int index);
+
+// The least day number of the rank in a month of that many days; the rank's seven days follow from it. The
+// last seven days of a month are those of Last. Not for Unlisted.
+int FirstDayOfRank(Rank rank, int daysInMonth);
+
+// The day of the rank that falls on the weekday. Not for Unlisted.
+Date RankDay(std::chrono::year_month month, Rank rank, int weekdayNumber);
+
+Date LastDayOf(std::chrono::year_month month);
