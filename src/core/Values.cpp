@@ -11,13 +11,14 @@
 namespace {
 
 constexpr int GreatestColor = 0xFFFFFF;
+constexpr std::size_t GreatestIdLength = 5;
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-// Letters beyond ASCII whose lower-case form is another byte: 0xC0 to 0xDE but for the multiplication sign are
-// 32 apart, and the letters of windows-1252 stand singly.
+// Letters beyond ASCII whose lower-case form is another byte: 0xC0 to 0xDE but for the multiplication sign
+// are 32 apart, and the letters of windows-1252 stand singly.
 unsigned char FoldLatin(unsigned char byte) {
     if (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7) {
         return static_cast<unsigned char>(byte + 0x20);
@@ -109,6 +110,21 @@ int ToInt16(std::string_view text) {
     return Int16Of(ToNumber(text));
 }
 
+std::optional<int> IdIn(std::string_view text) {
+    // Nearly every id is bare digits, which are read without the detour over a fraction.
+    if (!text.empty() && text.size() <= GreatestIdLength && std::ranges::all_of(text, IsDigit)) {
+        int id = 0;
+        std::from_chars(text.data(), text.data() + text.size(), id);
+        return id <= GreatestInt16 ? std::optional<int>(id) : std::nullopt;
+    }
+    const std::optional<double> number = NumberIn(text);
+    const bool fits = number && *number >= LeastInt16 && *number <= GreatestInt16;
+    if (!fits || static_cast<int>(*number) != *number) {
+        return std::nullopt;
+    }
+    return static_cast<int>(*number);
+}
+
 int ToColor(std::string_view text) {
     const double number = ToNumber(text);
     if (number < 0 || number > GreatestColor) {
@@ -138,8 +154,8 @@ unsigned char FoldByte(unsigned char byte) {
 int CompareFolded(std::string_view first, std::string_view second) {
     const std::size_t shared = std::min(first.size(), second.size());
     for (std::size_t i = 0; i < shared; ++i) {
-        const int difference = Folded[static_cast<unsigned char>(first[i])] -
-                               Folded[static_cast<unsigned char>(second[i])];
+        const int difference =
+            Folded[static_cast<unsigned char>(first[i])] - Folded[static_cast<unsigned char>(second[i])];
         if (difference != 0) {
             return difference;
         }

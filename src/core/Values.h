@@ -17,8 +17,8 @@ std::string_view Trim(std::string_view text);
 std::string_view LeftTrim(std::string_view text);
 std::string_view RightTrim(std::string_view text);
 
-// The number that a text holds: digits with an optional sign and point, blanks around them trimmed; nothing for
-// any other text. "5." is 5 and ".5" a half, "." is no number.
+// The number that a text holds: digits with an optional sign and point, blanks around them trimmed; nothing
+// for any other text. "5." is 5 and ".5" a half, "." is no number.
 std::optional<double> NumberIn(std::string_view text);
 
 // The same, raising the run-time error where the text is no number.
@@ -29,6 +29,10 @@ int Int16Of(double number);
 
 // The number in a text as a 16-bit integer; raises the run-time error where there is none or it does not fit.
 int ToInt16(std::string_view text);
+
+// The id in a text: a whole number of 16 bits, which may have a fraction of zeros and blanks around it;
+// nothing for any other text.
+std::optional<int> IdIn(std::string_view text);
 
 // The colour in a text: a decimal 0xBBGGRR of 24 bits; raises the run-time error where there is none.
 int ToColor(std::string_view text);
@@ -45,6 +49,6 @@ unsigned char FoldByte(unsigned char byte);
 // Below, at or above 0 as the first text sorts before, with or after the second, letters folded.
 int CompareFolded(std::string_view first, std::string_view second);
 
-// Gives the id of a new record from its kind's counter and raises the counter by one; raises the run-time error
-// when the counter would pass 32767, so 32766 is the greatest id given out.
+// Gives the id of a new record from its kind's counter and raises the counter by one; raises the run-time
+// error when the counter would pass 32767, so 32766 is the greatest id given out.
 int NextId(int& counter);

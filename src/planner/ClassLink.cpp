@@ -4,33 +4,10 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 
-#include <algorithm>
-#include <charconv>
-
 namespace {
 
 constexpr std::string_view TermWord = "TermID";
 constexpr std::string_view ClassWord = "ClassID";
-constexpr std::size_t GreatestIdLength = 5;
-
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
-// The id in a text. Nearly every id is bare digits, which are read without the detour over a fraction.
-std::optional<int> IdIn(std::string_view text) {
-    if (!text.empty() && text.size() <= GreatestIdLength && std::ranges::all_of(text, IsDigit)) {
-        int id = 0;
-        std::from_chars(text.data(), text.data() + text.size(), id);
-        return id;
-    }
-    const std::optional<double> number = NumberIn(text);
-    const bool fits = number && *number >= LeastInt16 && *number <= GreatestInt16;
-    if (!fits || static_cast<int>(*number) != *number) {
-        return std::nullopt;
-    }
-    return static_cast<int>(*number);
-}
 
 // The id behind the word with which the piece of a link begins.
 std::optional<int> IdBehind(std::string_view word, std::string_view piece) {

@@ -2,5 +2,6 @@ target_sources(planovarium_logic PRIVATE
   planner/ClassLink.cpp
   planner/DateHelpers.cpp
   planner/EventOccursOn.cpp
+  planner/RowLook.cpp
   planner/SeriesRule.cpp
 )

@@ -28,6 +28,17 @@ TEST(Numbers, RoundHalvesToEvenAndOverflowBeyondSixteenBits) {
     EXPECT_THROW(ToInt16("999999999999999999999999999999"), RunTimeError);
 }
 
+TEST(Numbers, IdsAreWholeNumbersOfSixteenBits) {
+    EXPECT_EQ(IdIn("7"), 7);
+    EXPECT_EQ(IdIn("00032767"), 32767);
+    EXPECT_EQ(IdIn("32767"), 32767);
+    EXPECT_EQ(IdIn(" 12.0 "), 12);
+    EXPECT_EQ(IdIn("-1"), -1);
+    for (const char* none : {"", "32768", "99999", "1.5", "-32769", "one", "1 2"}) {
+        EXPECT_FALSE(IdIn(none).has_value()) << none;
+    }
+}
+
 TEST(Numbers, ColorsHaveTwentyFourBits) {
     EXPECT_EQ(ToColor("16777215"), 0xFFFFFF);
     EXPECT_THROW(ToColor("16777216"), RunTimeError);
