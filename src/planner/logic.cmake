@@ -2,6 +2,7 @@ target_sources(planovarium_logic PRIVATE
   planner/ClassLink.cpp
   planner/DateHelpers.cpp
   planner/EventOccursOn.cpp
+  planner/EventWalk.cpp
   planner/RowLook.cpp
   planner/SeriesRule.cpp
 )
