@@ -5,10 +5,14 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/DateHelpers.h"
+#include "planner/SeriesRule.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace {
+
+using Row = std::span<const DayFacts>;
 
 // Day numbers above this one are lacking in some month, and move to the month's last day there.
 constexpr int GreatestDayOfEveryMonth = 28;
@@ -20,6 +24,8 @@ bool IsSameDayNumber(const DayFacts& first, const DayFacts& day) {
     return day.number == first.number || lastStandsIn;
 }
 
+// The weekday of a rank is that of the first date, whatever the text of `repeat_day` says; the walks take it
+// from the text, and the difference is meant.
 bool HoldsInMonth(const SeriesRule& rule, const DayFacts& first, const DayFacts& day) {
     if (rule.sameDate) {
         return IsSameDayNumber(first, day);
@@ -35,37 +41,7 @@ bool HoldsInMonth(const SeriesRule& rule, const DayFacts& first, const DayFacts&
     return day.weekday == first.weekday && daysIntoRank >= 0 && daysIntoRank < DaysInWeek;
 }
 
-bool IsAfterEnd(Date day, int index) {
-    const EventLists& events = Store.EventRecord;
-    return IsTrue(events.end.Item(index)) && day > DateValue(events.end_date.Item(index));
-}
-
-} // namespace
-
-bool EventOccursOn(Date day, int index) {
-    const EventLists& events = Store.EventRecord;
-    if (events.desc.Item(index) == DeletedRecord || IsException(events.exceptions.Item(index), day)) {
-        return false;
-    }
-    const Date first = DateValue(events.date.Item(index));
-    if (day == first) {
-        return true; // also where the first date does not match its own rule
-    }
-    const bool single = RecurrenceIn(events.recurrence.Item(index)) == Recurrence::None;
-    if (single || day < first || IsAfterEnd(day, index)) {
-        return false;
-    }
-    return RuleHolds(ReadSeriesRule(index), FactsOf(first), FactsOf(day));
-}
-
-DayFacts FactsOf(Date date) {
-    const std::chrono::year_month_day parts{date};
-    const std::chrono::year_month_day_last last{parts.year(), parts.month() / std::chrono::last};
-    return {date, static_cast<int>(static_cast<unsigned>(parts.day())),
-            static_cast<int>(static_cast<unsigned>(parts.month())), WeekdayNumber(date),
-            static_cast<int>(static_cast<unsigned>(last.day()))};
-}
-
+// True when a series with that first date falls on a later day by its rule alone.
 bool RuleHolds(const SeriesRule& rule, const DayFacts& first, const DayFacts& day) {
     switch (rule.recurrence) {
     case Recurrence::Day:
@@ -79,6 +55,81 @@ bool RuleHolds(const SeriesRule& rule, const DayFacts& first, const DayFacts& da
         return false;
     }
     return false;
+}
+
+DayBits BitsBelow(int count) {
+    return count >= GreatestDayBits ? ~DayBits{0} : (DayBits{1} << count) - 1;
+}
+
+// The days of the row up to the date and with it.
+DayBits DaysThrough(Row row, Date date) {
+    return BitsBelow(std::clamp(DayDiff(row.front().date, date) + 1, 0, static_cast<int>(row.size())));
+}
+
+// The days of the row that the exceptions leave; the text is read as far as a day is left.
+DayBits DaysNotGivenUp(Row row, std::string_view exceptions) {
+    DayBits open = BitsBelow(static_cast<int>(row.size()));
+    while (open != 0) {
+        const std::optional<Date> date = TakeException(exceptions);
+        if (!date) {
+            break;
+        }
+        open &= ~DayOf(row, *date);
+    }
+    return open;
+}
+
+DayBits DaysOfRule(Row row, DayBits open, Date first, int index) {
+    const SeriesRule rule = ReadSeriesRule(index);
+    const DayFacts firstFacts = FactsOf(first);
+    DayBits held = 0;
+    for (; open != 0; open &= open - 1) {
+        const int n = std::countr_zero(open);
+        if (RuleHolds(rule, firstFacts, row[static_cast<std::size_t>(n)])) {
+            held |= DayBits{1} << n;
+        }
+    }
+    return held;
+}
+
+} // namespace
+
+bool EventOccursOn(Date day, int index) {
+    const DayFacts facts = FactsOf(day);
+    return OccurringDays({&facts, 1}, index) != 0;
+}
+
+DayFacts FactsOf(Date date) {
+    const std::chrono::year_month_day parts{date};
+    const std::chrono::year_month_day_last last{parts.year(), parts.month() / std::chrono::last};
+    return {date, static_cast<int>(static_cast<unsigned>(parts.day())),
+            static_cast<int>(static_cast<unsigned>(parts.month())), WeekdayNumber(date),
+            static_cast<int>(static_cast<unsigned>(last.day()))};
+}
+
+DayBits DayOf(std::span<const DayFacts> row, Date date) {
+    return DaysThrough(row, date) & ~DaysThrough(row, date - std::chrono::days{1});
+}
+
+DayBits OccurringDays(std::span<const DayFacts> row, int index) {
+    const EventLists& events = Store.EventRecord;
+    if (events.desc.Item(index) == DeletedRecord) {
+        return 0;
+    }
+    DayBits open = DaysNotGivenUp(row, events.exceptions.Item(index));
+    if (open == 0) {
+        return 0;
+    }
+    const Date first = DateValue(events.date.Item(index));
+    const DayBits onFirst = open & DayOf(row, first); // also where its rule says no
+    open &= ~DaysThrough(row, first);
+    if (open == 0 || events.recurrence.Item(index) == "None") {
+        return onFirst;
+    }
+    if (IsTrue(events.end.Item(index))) {
+        open &= DaysThrough(row, DateValue(events.end_date.Item(index)));
+    }
+    return open == 0 ? onFirst : onFirst | DaysOfRule(row, open, first, index);
 }
 
 std::optional<Date> TakeException(std::string_view& exceptions) {

@@ -1,10 +1,11 @@
 // The rule of whether an event falls on a date.
 #pragma once
 
-#include "planner/SeriesRule.h"
 #include "platform/Clock.h"
 
+#include <cstdint>
 #include <optional>
+#include <span>
 #include <string_view>
 
 // True when the event at the position occurs on the day. A date that it has given up never counts, its first
@@ -24,10 +25,16 @@ struct DayFacts {
 
 DayFacts FactsOf(Date date);
 
-// True when the series that begins on the first date falls on a later day by its rule alone: its exceptions
-// and its end are not asked. The weekday of a rank is that of the first date, whatever the text of
-// `repeat_day` says; the walks take it from the text, and the difference is meant.
-bool RuleHolds(const SeriesRule& rule, const DayFacts& first, const DayFacts& day);
+// Bit n stands for the n-th day of a row, counted from 0.
+using DayBits = std::uint64_t;
+inline constexpr int GreatestDayBits = 64;
+
+// The days on which the event at the position occurs, out of 1 to 64 days in a row: the same answers as those
+// of EventOccursOn day by day, and the same errors, with each text of the record read only once.
+DayBits OccurringDays(std::span<const DayFacts> row, int index);
+
+// The bit of the date; none when it lies outside the row.
+DayBits DayOf(std::span<const DayFacts> row, Date date);
 
 // Takes the next date off the left end of a text of `exceptions`; nothing when none is left. Blanks separate;
 // a piece that is no date raises the run-time error.

@@ -88,7 +88,7 @@ void WalkSeries(int index, Date first, Span span, std::vector<Date>& dates) {
 }
 
 bool IsSingle(int index) {
-    return RecurrenceIn(Store.EventRecord.recurrence.Item(index)) == Recurrence::None;
+    return Store.EventRecord.recurrence.Item(index) == "None";
 }
 
 std::optional<Date> EndDate(int index) {

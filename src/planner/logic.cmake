@@ -1,6 +1,8 @@
 target_sources(planovarium_logic PRIVATE
   planner/ClassLink.cpp
   planner/DateHelpers.cpp
+  planner/EventFilter.cpp
+  planner/EventMarks.cpp
   planner/EventOccursOn.cpp
   planner/EventWalk.cpp
   planner/RowLook.cpp

@@ -1,0 +1,11 @@
+// Which events the words of the view menu keep.
+#pragma once
+
+#include "planner/ListFilter.h"
+
+#include <string_view>
+
+// True when an event of that type is taken: in Calendar mode always, else "All" takes every event, "Classes"
+// those of the type "Class", "Other Events" all the others, and any other word none. A class meeting counts
+// as an other event, its type being a link.
+bool IsEventTaken(std::string_view type, const ListFilter& filter);

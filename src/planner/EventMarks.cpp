@@ -1,0 +1,54 @@
+// The events of a month's 42 day cells.
+#include "planner/EventMarks.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "planner/ClassLink.h"
+#include "planner/EventFilter.h"
+#include "planner/EventOccursOn.h"
+
+#include <bit>
+
+namespace {
+
+using Cells = std::array<DayFacts, MonthCells>;
+
+// What the rules ask of the cells is found once, not once a series.
+Cells CellsFrom(Date firstCell) {
+    Cells cells;
+    for (int cell = 0; cell < MonthCells; ++cell) {
+        cells[static_cast<std::size_t>(cell)] = FactsOf(firstCell + std::chrono::days{cell});
+    }
+    return cells;
+}
+
+DayBits CellsOfEvent(const Cells& cells, int index) {
+    const EventLists& events = Store.EventRecord;
+    if (events.desc.Item(index) == DeletedRecord) {
+        return 0;
+    }
+    const bool single = events.recurrence.Item(index) == "None";
+    return single ? DayOf(cells, DateValue(events.date.Item(index))) : OccurringDays(cells, index);
+}
+
+} // namespace
+
+EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
+    const Cells cells = CellsFrom(firstCell);
+    EventMarks marks;
+    for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {
+        DayBits days = CellsOfEvent(cells, index);
+        const std::string& type = Store.EventRecord.type.Item(index);
+        if (days == 0 || !BelongsToActiveTerm(type)) {
+            continue;
+        }
+        const bool taken = IsEventTaken(type, filter);
+        for (; days != 0; days &= days - 1) {
+            const auto cell = static_cast<std::size_t>(std::countr_zero(days));
+            ++marks.count[cell];
+            marks.marked[cell] = marks.marked[cell] || taken;
+        }
+    }
+    return marks;
+}
