@@ -6,5 +6,6 @@ target_sources(planovarium_logic PRIVATE
   planner/EventOccursOn.cpp
   planner/EventWalk.cpp
   planner/RowLook.cpp
+  planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
 )

@@ -6,4 +6,5 @@ target_sources(logic_tests PRIVATE
   planner/EventOccursOnTest.cpp
   planner/EventWalkTest.cpp
   planner/RowLookTest.cpp
+  planner/SeriesEditsTest.cpp
 )
