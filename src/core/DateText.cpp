@@ -215,6 +215,15 @@ std::string StoredDate(Date date) {
     return text.data();
 }
 
+std::string StoredTime(TimeOfDay time) {
+    const std::chrono::hh_mm_ss parts{time};
+    const int hour = static_cast<int>(parts.hours().count());
+    std::array<char, 16> text{};
+    std::snprintf(text.data(), text.size(), "%02d:%02d %s", hour % 12 == 0 ? 12 : hour % 12,
+                  static_cast<int>(parts.minutes().count()), hour < 12 ? "AM" : "PM");
+    return text.data();
+}
+
 std::string StoredMoment(Moment moment) {
     const Date date = std::chrono::floor<std::chrono::days>(moment);
     const std::chrono::hh_mm_ss time{moment - Moment{date}};

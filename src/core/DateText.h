@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-// The date in a text: year, month, day with a four-digit year first, else in the order of the user's short dates,
-// where a two-digit year below 30 means 2000 and later. "/", "-" and "." separate; blanks around are trimmed.
-// Nothing when the text holds no date of the calendar.
+// The date in a text: year, month, day with a four-digit year first, else in the order of the user's short
+// dates, where a two-digit year below 30 means 2000 and later. "/", "-" and "." separate; blanks around are
+// trimmed. Nothing when the text holds no date of the calendar.
 std::optional<Date> DateIn(std::string_view text);
 
 // The time of day in a text: "9:00 AM", "09:00 am", "11:30PM", "9 AM", "14:05", with seconds or without.
@@ -28,6 +28,9 @@ Moment MomentValue(std::string_view text);
 
 // The stored form of a date: "yyyy/mm/dd".
 std::string StoredDate(Date date);
+
+// The stored form of a time: "09:00 AM". The seconds are dropped.
+std::string StoredTime(TimeOfDay time);
 
 // The stored form of a moment: "yyyy/mm/dd Hh:Nn:00". The seconds are dropped.
 std::string StoredMoment(Moment moment);

@@ -33,6 +33,10 @@ std::optional<ClassLink> ClassLinkIn(std::string_view type) {
     return ClassLink{*term, *class_};
 }
 
+std::string ClassLinkText(int term, std::string_view class_) {
+    return std::string(TermWord) + std::to_string(term) + "-" + std::string(ClassWord) + std::string(class_);
+}
+
 int ClassPosition(const ClassLink& link) {
     const ClassLists& classes = Store.ClassRecord;
     for (int position = 1; position <= classes.id.Count(); ++position) {

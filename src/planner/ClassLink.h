@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 struct ClassLink {
@@ -14,6 +15,9 @@ bool IsClassMeeting(std::string_view type);
 
 // The ids that a class meeting's type names; nothing for any other type, and for a link of any other form.
 std::optional<ClassLink> ClassLinkIn(std::string_view type);
+
+// The type of a meeting of the class.
+std::string ClassLinkText(int term, std::string_view class_);
 
 // Position in Store.ClassRecord of the class with that term and id, in whichever term; 0 when there is none.
 // Deleted classes are none.

@@ -29,20 +29,6 @@ std::string TwoDigits(int number) {
     return text.substr(text.size() - 2);
 }
 
-// The number and the unit of a duration, split at its first blank.
-struct DurationPieces {
-    std::string_view number;
-    std::string_view unit;
-};
-
-DurationPieces SplitDuration(std::string_view duration) {
-    const std::size_t blank = duration.find(' ');
-    if (blank == std::string_view::npos) {
-        return {duration, {}};
-    }
-    return {duration.substr(0, blank), duration.substr(blank + 1)};
-}
-
 } // namespace
 
 int DaysInMonth(int y, int m) {
@@ -77,6 +63,14 @@ int ClockToMinutes(std::string_view clock) {
     const int hours = ToInt16(clock.substr(0, width));
     const int minutes = ToInt16(clock.substr(clock.size() - width));
     return hours * MinutesPerHour + minutes;
+}
+
+DurationPieces SplitDuration(std::string_view duration) {
+    const std::size_t blank = duration.find(' ');
+    if (blank == std::string_view::npos) {
+        return {duration, {}};
+    }
+    return {duration.substr(0, blank), duration.substr(blank + 1)};
 }
 
 double DurationToMinutes(std::string_view duration) {

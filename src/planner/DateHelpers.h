@@ -9,12 +9,12 @@
 // Passed to a selection in place of a date, it means no date filter: 1953-08-12.
 inline constexpr Date AllDates{std::chrono::year{1953} / 8 / 12};
 
-// Number of days of the month. The last day of a month is day 0 of the following one, so month 13 is allowed and
-// is January of the next year.
+// Number of days of the month. The last day of a month is day 0 of the following one, so month 13 is allowed
+// and is January of the next year.
 int DaysInMonth(int year, int month);
 
-// Adds years, then months, then days. Each of the first two steps clamps to the last day of its target month, so
-// the order counts: 31 January of a leap year, 0 years, 1 month, 1 day is 1 March.
+// Adds years, then months, then days. Each of the first two steps clamps to the last day of its target month,
+// so the order counts: 31 January of a leap year, 0 years, 1 month, 1 day is 1 March.
 Date DateAddMulti(Date base, int years, int months, int days);
 
 // The calendar days from the first to the second date; negative when the second is earlier.
@@ -31,12 +31,21 @@ std::string MinutesToClock(int minutes);
 // Raises the run-time error where these are no numbers.
 int ClockToMinutes(std::string_view clock);
 
+// The number and the unit of a duration, split at its first blank; without a blank all of it is the number.
+struct DurationPieces {
+    std::string_view number;
+    std::string_view unit;
+};
+
+DurationPieces SplitDuration(std::string_view duration);
+
 // Minutes of a duration such as "1.5 Hours" where only the first letter of its unit counts: "H" is hours, any
 // other or none is minutes, so "1 Day" is one minute. Raises the run-time error where the number is none.
 double DurationToMinutes(std::string_view duration);
 
 // The hours and the minutes that a duration adds to a day's total, where the whole unit counts: "Hours" and
-// "Minutes" add, any other unit ("1 Hour", "1 Day") adds nothing. It differs from the rule above, and is meant to.
+// "Minutes" add, any other unit ("1 Hour", "1 Day") adds nothing. It differs from the rule above, and is
+// meant to.
 struct DurationParts {
     double hours = 0;
     double minutes = 0;

@@ -1,13 +1,20 @@
 target_sources(planovarium_logic PRIVATE
+  planner/AssignmentEntry.cpp
   planner/ClassLink.cpp
+  planner/ComboRows.cpp
   planner/DateHelpers.cpp
   planner/Decimal.cpp
+  planner/DurationEntry.cpp
   planner/EventFilter.cpp
   planner/EventMarks.cpp
   planner/EventOccursOn.cpp
   planner/EventWalk.cpp
   planner/Grades.cpp
+  planner/RecurrenceEntry.cpp
+  planner/ReminderEntry.cpp
   planner/RowLook.cpp
   planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
+  planner/TermEntry.cpp
+  planner/TypeEntry.cpp
 )

@@ -92,3 +92,13 @@ TEST_F(DateTexts, TheStoredMomentDropsTheSeconds) {
     EXPECT_EQ(StoredMoment(Moment{FirstOfMay} + 9h + 5min + 59s), "2009/05/01 09:05:00");
     EXPECT_EQ(StoredMoment(Moment{FirstOfMay}), "2009/05/01 00:00:00");
 }
+
+TEST_F(DateTexts, TheStoredTimeReadsBackForEveryMinuteOfTheDay) {
+    EXPECT_EQ(StoredTime(9h), "09:00 AM");
+    EXPECT_EQ(StoredTime(0h), "12:00 AM");
+    EXPECT_EQ(StoredTime(12h + 30min + 59s), "12:30 PM");
+    EXPECT_EQ(StoredTime(23h + 59min), "11:59 PM");
+    for (std::chrono::minutes time = 0min; time < 24h; ++time) {
+        ASSERT_EQ(TimeValue(StoredTime(time)), time);
+    }
+}

@@ -99,3 +99,12 @@ TEST_F(ClassLinks, KeepClassMeetingsToTheActiveTermAndLetAllOtherEventsPass) {
     EXPECT_TRUE(BelongsToActiveTerm("None"));
     EXPECT_TRUE(BelongsToActiveTerm("TermID5"));
 }
+
+TEST_F(ClassLinks, AreReadAsTheyWereWritten) {
+    EXPECT_EQ(ClassLinkText(4, "10"), "TermID4-ClassID10");
+    const std::optional<ClassLink> link = ClassLinkIn(ClassLinkText(4, "10"));
+    ASSERT_TRUE(link);
+    EXPECT_EQ(link->term, 4);
+    EXPECT_EQ(link->class_, 10);
+    EXPECT_EQ(ActiveClassPosition(ClassLinkText(4, "10")), 1);
+}

@@ -1,15 +1,22 @@
 target_sources(logic_tests PRIVATE
+  planner/AssignmentEntryTest.cpp
   planner/ClassLinkTest.cpp
+  planner/ComboRowsTest.cpp
   planner/DateHelpersTest.cpp
   planner/DecimalTest.cpp
+  planner/DurationEntryTest.cpp
   planner/EventFilterTest.cpp
   planner/EventMarksTest.cpp
   planner/EventOccursOnTest.cpp
   planner/EventWalkTest.cpp
   planner/GPATableTest.cpp
   planner/GradesTest.cpp
+  planner/RecurrenceEntryTest.cpp
   planner/RecurrenceOracle.cpp
   planner/RecurrenceOracleTest.cpp
+  planner/ReminderEntryTest.cpp
   planner/RowLookTest.cpp
   planner/SeriesEditsTest.cpp
+  planner/TermEntryTest.cpp
+  planner/TypeEntryTest.cpp
 )

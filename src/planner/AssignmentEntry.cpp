@@ -1,0 +1,75 @@
+// What the editors of assignments and tasks make of a typed text: percent, estimate, time left, and short
+// words.
+#include "planner/AssignmentEntry.h"
+
+#include "core/Values.h"
+#include "planner/DateHelpers.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view FallbackEstimate = "00 : 30";
+constexpr std::string_view ClockSeparator = " : ";
+constexpr std::size_t GreatestEstimateLength = 8;
+constexpr std::size_t GreatestPercentLength = 3;
+constexpr int GreatestHours = 99;
+constexpr int GreatestMinutes = 59;
+constexpr int FallbackMinutes = 30;
+constexpr std::size_t WordLimit = 10;
+
+// The minutes as the editors write a clock length: "01 : 45".
+std::string SpacedClock(int minutes) {
+    return MinutesToClock(minutes).replace(2, 1, ClockSeparator);
+}
+
+bool IsEstimateCharacter(char character) {
+    return character == ' ' || (character >= '0' && character <= ':');
+}
+
+// Half of a whole number's last two figures goes to the even hundred.
+int HundredthsToEven(int number) {
+    const int whole = number / 100;
+    const int rest = number % 100;
+    return whole + (rest > 50 || (rest == 50 && whole % 2 == 1) ? 1 : 0);
+}
+
+} // namespace
+
+std::string ValidatePercent(std::string_view text) {
+    std::string digits(text);
+    std::erase(digits, '%');
+    const bool allDigits = std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
+    if (digits.empty() || digits.size() > GreatestPercentLength || !allDigits) {
+        return "0%";
+    }
+    const int percent = ToInt16(digits);
+    return percent > 100 ? "0%" : std::to_string(percent) + "%";
+}
+
+std::string ValidateEstimate(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (text.size() > GreatestEstimateLength || colon == std::string_view::npos ||
+        !std::ranges::all_of(text, IsEstimateCharacter)) {
+        return std::string(FallbackEstimate);
+    }
+    const double typedHours = NumberIn(text.substr(0, colon)).value_or(0);
+    const double typedMinutes = NumberIn(text.substr(colon + 1)).value_or(FallbackMinutes);
+    const int hours = typedHours > GreatestHours ? GreatestHours : static_cast<int>(typedHours);
+    const int minutes = typedMinutes > GreatestMinutes ? 0 : static_cast<int>(typedMinutes);
+    return SpacedClock(hours == 0 && minutes == 0 ? 1 : hours * 60 + minutes);
+}
+
+std::string UpdateTimeLeft(bool finished, std::string_view estimate, std::string_view percent) {
+    if (finished) {
+        return SpacedClock(0);
+    }
+    std::string number(percent);
+    std::erase(number, '%');
+    const int left = HundredthsToEven(ClockToMinutes(estimate) * (100 - ToInt16(number)));
+    return SpacedClock(left == 0 ? 1 : left);
+}
+
+std::string_view CutToLimit(std::string_view text) {
+    return text.substr(0, WordLimit);
+}

@@ -1,0 +1,63 @@
+// What the recurrence dialog makes of an event's date.
+#include "planner/RecurrenceEntry.h"
+
+#include "planner/DateHelpers.h"
+
+#include <array>
+#include <string>
+
+namespace {
+
+constexpr int DaysInWeek = 7;
+constexpr std::array<std::string_view, 5> RankNumbers{"First", "Second", "Third", "Fourth", "Last"};
+constexpr std::array<std::string_view, DaysInWeek> WeekdayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                                "Thursday", "Friday", "Saturday"};
+
+int DayNumber(Date date) {
+    return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day{date}.day()));
+}
+
+bool IsLastOfMonth(Date date) {
+    return DayNumber(date + std::chrono::days{1}) == 1;
+}
+
+ScreenText Caption(const std::string& day, const std::string& period) {
+    return {"The " + day + " of every " + period};
+}
+
+} // namespace
+
+RankOfDate RankOf(Date date) {
+    if (IsLastOfMonth(date)) {
+        return {"Last", "Day"};
+    }
+    return {RankNumbers.at(static_cast<std::size_t>((DayNumber(date) - 1) / DaysInWeek)),
+            WeekdayNames.at(static_cast<std::size_t>(WeekdayNumber(date) - 1))};
+}
+
+std::string_view OrdinalSuffix(int dayNumber) {
+    switch (dayNumber) {
+    case 1:
+    case 21:
+    case 31:
+        return "st";
+    case 2:
+    case 22:
+        return "nd";
+    case 3:
+    case 23:
+        return "rd";
+    default:
+        return "th";
+    }
+}
+
+RecurrenceCaptions CaptionsOf(Date date) {
+    const std::string thisDate =
+        std::to_string(DayNumber(date)) + std::string(OrdinalSuffix(DayNumber(date)));
+    const RankOfDate rank = RankOf(date);
+    const std::string user = std::string(rank.number) + " " + std::string(rank.day);
+    const std::string month = FormatDate(date, "MMMM").utf8;
+    return {Caption(thisDate, "month"), Caption(user, "month"), Caption(thisDate, month),
+            Caption(user, month)};
+}

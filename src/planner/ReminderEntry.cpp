@@ -1,0 +1,39 @@
+// What the editors store of a reminder: its time, and the moments at which it fires.
+#include "planner/ReminderEntry.h"
+
+#include "core/DateText.h"
+#include "core/RunTimeError.h"
+#include "core/Values.h"
+#include "planner/DurationEntry.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr TimeOfDay FallbackTime = 9h;
+constexpr Moment FirstMoment{Date{100y / 1 / 1}};
+constexpr Moment BeyondLastMoment{Date{9999y / 12 / 31} + std::chrono::days{1}};
+
+} // namespace
+
+std::string ValidateTime(std::string_view text) {
+    return StoredTime(TimeIn(text).value_or(FallbackTime));
+}
+
+std::string ItemReminderAlarm(Date date, std::string_view time) {
+    return StoredMoment(Moment{date} + TimeValue(time));
+}
+
+EventReminder SetEventReminder(Date date, std::string_view time, std::string_view leadTime) {
+    const std::string day = StoredDate(date);
+    const std::string alarm = StoredMoment(AlarmBefore(Moment{date} + TimeValue(time), LeadOf(leadTime)));
+    return {alarm, BooleanText(false), day, day, alarm};
+}
+
+Moment AlarmBefore(Moment occurrence, std::chrono::seconds lead) {
+    const Moment alarm = occurrence - lead;
+    if (alarm < FirstMoment || alarm >= BeyondLastMoment) {
+        throw RunTimeError("Overflow", std::to_string(lead.count()));
+    }
+    return alarm;
+}
