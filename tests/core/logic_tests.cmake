@@ -1,5 +1,6 @@
 target_sources(logic_tests PRIVATE
   core/DateTextTest.cpp
   core/Module1Test.cpp
+  core/TextFilesTest.cpp
   core/ValuesTest.cpp
 )

@@ -1,0 +1,68 @@
+// The files of the data folder as bytes and lines: each is read whole and written whole.
+#include "core/TextFiles.h"
+
+#include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "platform/Process.h"
+
+#include <array>
+#include <filesystem>
+#include <system_error>
+
+void ChangeToDataFolder() {
+    std::error_code error;
+    std::filesystem::current_path(DataFolder, error);
+    if (error) {
+        throw RunTimeError("Folder cannot be entered", DataFolder.string());
+    }
+}
+
+std::string FileBytes(const std::string& name) {
+    const std::unique_ptr<std::FILE, FileCloser> file(std::fopen(name.c_str(), "rb"));
+    if (!file) {
+        throw RunTimeError("File cannot be opened", name);
+    }
+    std::string bytes;
+    std::array<char, 65536> block{};
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get())) {
+        bytes.append(block.data(), count);
+    }
+    if (std::ferror(file.get()) != 0) {
+        throw RunTimeError("File cannot be read", name);
+    }
+    return bytes;
+}
+
+std::optional<std::string_view> TakeLine(std::string_view& text) {
+    if (text.empty()) {
+        return std::nullopt;
+    }
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    if (end == std::string_view::npos) {
+        text.remove_prefix(text.size());
+        return line;
+    }
+    text.remove_prefix(end + 1);
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+OutputFile OpenForWriting(const std::string& name) {
+    OutputFile file(std::fopen(name.c_str(), "wb"));
+    if (!file) {
+        throw RunTimeError("File cannot be opened for writing", name);
+    }
+    return file;
+}
+
+void WriteAndClose(OutputFile file, std::string_view bytes) {
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    const bool synced = written && std::fflush(file.get()) == 0 && SyncToDevice(file.get());
+    const bool closed = std::fclose(file.release()) == 0;
+    if (!synced || !closed) {
+        throw RunTimeError("File cannot be written");
+    }
+}

@@ -1,0 +1,34 @@
+// The files of the data folder as bytes and lines: each is read whole and written whole.
+#pragma once
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+inline constexpr std::string_view LineEnd = "\r\n";
+
+// Makes the data folder the current one; from then on its files go by their bare names. Raises the run-time
+// error when the folder cannot be entered.
+void ChangeToDataFolder();
+
+// All bytes of the file; raises the run-time error when it cannot be opened or read.
+std::string FileBytes(const std::string& name);
+
+// Takes the first line off the text and gives it without its end, which is CR LF or a lone LF; a lone CR is a
+// character like any other. A last line needs no end. Nothing when the text is used up.
+std::optional<std::string_view> TakeLine(std::string_view& text);
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+using OutputFile = std::unique_ptr<std::FILE, FileCloser>;
+
+// Opens the file for writing and empties it; raises the run-time error when that fails.
+OutputFile OpenForWriting(const std::string& name);
+
+// Writes the bytes, hands them to the device and closes the file; raises the run-time error when any of it
+// fails.
+void WriteAndClose(OutputFile file, std::string_view bytes);

@@ -1,0 +1,49 @@
+// The backups: three generations of each record file, where a generation is a run in which the file was
+// saved.
+#include "persistence/modIO.h"
+
+#include <system_error>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A copy that fails leaves no half file, which would pass for the newest generation.
+void CopyFile(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (!fs::copy_file(from, to, error)) {
+        fs::remove(to, error);
+    }
+}
+
+// Errors are ignored throughout: each step takes what the ones before it left.
+void RotateFile(const std::string& name) {
+    const fs::path present = BackupFolder / (name + ".xml");
+    const auto generation = [&name](int number) {
+        return BackupFolder / (name + "_backup" + std::to_string(number) + ".xml");
+    };
+    std::error_code ignored;
+    fs::remove(present, ignored);
+    CopyFile(DataFolder / (name + ".xml"), present);
+    fs::remove(generation(3), ignored);
+    fs::rename(generation(2), generation(3), ignored);
+    fs::rename(generation(1), generation(2), ignored);
+    fs::rename(present, generation(1), ignored);
+}
+
+} // namespace
+
+void RotateBackups() {
+    std::error_code error;
+    fs::current_path(BackupFolder, error);
+    if (error) {
+        return;
+    }
+    const std::string assignments = "assignments_" + std::to_string(ActiveTermID);
+    for (const std::string& name : {std::string("terms"), std::string("classes"), assignments,
+                                    std::string("tasks"), std::string("events")}) {
+        if (*WrittenFlag(name)) {
+            RotateFile(name);
+        }
+    }
+}

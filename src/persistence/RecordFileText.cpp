@@ -1,0 +1,69 @@
+// Record files as text: the tags, and all that a kind's lists hold.
+#include "persistence/RecordFileText.h"
+
+#include "core/DateText.h"
+#include "core/TextFiles.h"
+
+namespace {
+
+constexpr std::string_view NoDate = "//";
+
+// What stands around the value of a field.
+struct FieldFrame {
+    std::string opening;
+    std::string closing;
+};
+
+std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
+    std::vector<FieldFrame> frames;
+    frames.reserve(fields.size());
+    for (const RecordField& field : fields) {
+        frames.push_back({"  " + OpeningTag(field.tag), ClosingTag(field.tag) + std::string(LineEnd)});
+    }
+    return frames;
+}
+
+// A text that is no date comes out three times, once for the year, the month and the day each. A text of
+// slashes is what an empty date became, and stays as it is so that the file does not grow from run to run.
+std::string FormattedDate(const std::string& text) {
+    if (const std::optional<Date> date = DateIn(text)) {
+        return StoredDate(*date);
+    }
+    if (text.find_first_not_of('/') == std::string::npos) {
+        return std::string(NoDate);
+    }
+    return text + "/" + text + "/" + text;
+}
+
+} // namespace
+
+std::string OpeningTag(std::string_view tag) {
+    return "<" + std::string(tag) + ">";
+}
+
+std::string ClosingTag(std::string_view tag) {
+    return "</" + std::string(tag) + ">";
+}
+
+std::string RecordFileText(const RecordFile& file) {
+    const std::vector<FieldFrame> frames = FramesOf(file.fields);
+    const std::string recordStart = OpeningTag(file.record) + std::string(LineEnd);
+    const std::string recordEnd = ClosingTag(file.record) + std::string(LineEnd);
+    std::string text(RecordFileHeader);
+    text.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
+    for (int position = 1; position <= file.counted->Count(); ++position) {
+        text.append(recordStart);
+        for (std::size_t i = 0; i < frames.size(); ++i) {
+            const std::string& value = file.fields[i].list->Item(position);
+            text.append(frames[i].opening);
+            if (file.fields[i].rule == FieldRule::DateText) {
+                text.append(FormattedDate(value));
+            } else {
+                text.append(value);
+            }
+            text.append(frames[i].closing);
+        }
+        text.append(recordEnd);
+    }
+    return text.append(ClosingTag(file.root)).append(LineEnd);
+}

@@ -1,0 +1,27 @@
+// The safe save: a file is replaced only once its new content is whole on the device under another name.
+#include "persistence/RecordFileText.h"
+
+#include "core/TextFiles.h"
+
+#include <system_error>
+#include <utility>
+
+bool SaveRecordFile(const RecordFile& file) {
+    if (!EnterDataFolder()) {
+        return false;
+    }
+    const std::string temporary = file.name + ".tmp";
+    try {
+        OutputFile output = OpenForWriting(temporary);
+        WriteAndClose(std::move(output), RecordFileText(file));
+    } catch (const RunTimeError&) {
+        ShowFileError(temporary, "writing");
+        return false;
+    }
+    *WrittenFlag(file.name) = true;
+    // Errors ignored: whatever happens here, the records are whole in one of the two files.
+    std::error_code ignored;
+    std::filesystem::remove(file.name, ignored);
+    std::filesystem::rename(temporary, file.name, ignored);
+    return true;
+}

@@ -1,0 +1,92 @@
+// The data folder and the files in it: folders, record files, the safe save, the backups, and the messages
+// shown when a file fails. None of the readers and writers raises an error: each shows its message and
+// returns.
+#pragma once
+
+#include "core/Module1.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// --- Folders
+// ---------------------------------------------------------------------------------------------------
+
+// Sets the help file and the three folders of the drive, creates those that are missing and enters the data
+// folder. False when it cannot be entered: the message has been shown, and the process is to end. Raises the
+// run-time error when a folder cannot be created.
+bool SetupFolders();
+
+// Enters the data folder, as each reader and writer does first; false after the directory message when that
+// fails.
+bool EnterDataFolder();
+
+// --- Messages
+// --------------------------------------------------------------------------------------------------
+
+// Tells that reading or writing a file failed (the action is "reading" or "writing"), and clears the file's
+// written flag, so that its backups stay as they are.
+void ShowFileError(std::string_view fileName, std::string_view action);
+
+// Tells that the data folder could not be entered.
+void ShowDirectoryError();
+
+// The written flag of a record file, told by how its name begins; null for any other file.
+bool* WrittenFlag(std::string_view fileName);
+
+// --- Record files
+// ----------------------------------------------------------------------------------------------
+
+// A field of a record file: its tag, the store's list that holds its values, and how they are read and
+// written.
+struct RecordField {
+    std::string_view tag;
+    TextList* list;
+    FieldRule rule;
+};
+
+struct RecordFile {
+    std::string name;                // the bare file name
+    std::string root;                // the tag around all records
+    std::string record;              // the tag around each
+    std::vector<RecordField> fields; // in the order in which they are written
+    const TextList* counted;         // the list whose count is the number of records written
+    int* nextId;                     // the kind's id counter
+};
+
+RecordFile TermFile();
+RecordFile ClassFile();
+RecordFile AssignmentFile(); // of the active term
+RecordFile TaskFile();
+RecordFile EventFile();
+
+// Reads the file's records behind those that its lists hold, and sets the id counter from this file alone. A
+// missing file is created without records. False after the reading or the directory message; what was read
+// stays.
+bool ScanRecordFile(const RecordFile& file);
+
+// Saves the file from its lists so that it is whole at every moment, under its own name or with ".tmp" behind
+// it, and sets its written flag. False after the writing or the directory message; the old file is then
+// untouched.
+bool SaveRecordFile(const RecordFile& file);
+
+// Both read and write the terms first; a failure there leaves the classes unread or unwritten.
+void ReadTermsAndClasses();
+void WriteTermsAndClasses();
+
+// The file of the active term.
+void ReadAssignments();
+void WriteAssignments();
+
+void ReadTasks();
+void WriteTasks();
+
+void ReadEvents();
+void WriteEvents();
+
+// --- Backups
+// ---------------------------------------------------------------------------------------------------
+
+// Moves the backups of each file that was written in this run on by one of three generations and makes the
+// present file the newest. Of the assignments that is the active term's file. All errors are ignored.
+void RotateBackups();

@@ -1,0 +1,61 @@
+// The lines of a text, and files read and written whole.
+#include "core/TextFiles.h"
+
+#include "persistence/DataFolderTest.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+Texts LinesIn(std::string_view text) {
+    Texts lines;
+    while (const std::optional<std::string_view> line = TakeLine(text)) {
+        lines.emplace_back(*line);
+    }
+    return lines;
+}
+
+class TextFiles : public DataFolderTest {};
+
+} // namespace
+
+TEST(TextLines, EndWithCarriageReturnAndLineFeedOrALoneLineFeed) {
+    EXPECT_EQ(LinesIn("a\r\nb\nc\r\n"), (Texts{"a", "b", "c"}));
+}
+
+TEST(TextLines, KeepALoneCarriageReturn) {
+    EXPECT_EQ(LinesIn("a\rb\r\r\nc\r"), (Texts{"a\rb\r", "c\r"}));
+}
+
+TEST(TextLines, MayBeEmptyAndTheLastNeedsNoEnd) {
+    EXPECT_EQ(LinesIn(""), Texts{});
+    EXPECT_EQ(LinesIn("\n"), Texts{""});
+    EXPECT_EQ(LinesIn("\r\n\r\na"), (Texts{"", "", "a"}));
+}
+
+TEST_F(TextFiles, HoldEveryByteThatIsWritten) {
+    std::string bytes;
+    for (int i = 0; i < 200000; ++i) {
+        bytes += static_cast<char>(i);
+    }
+    WriteAndClose(OpenForWriting("bytes"), bytes);
+    EXPECT_EQ(FileBytes("bytes"), bytes);
+    WriteAndClose(OpenForWriting("bytes"), "");
+    EXPECT_EQ(FileBytes("bytes"), "");
+}
+
+TEST_F(TextFiles, RaiseTheErrorWhereTheyCannotBeOpenedReadOrWritten) {
+    EXPECT_THROW(FileBytes("none"), RunTimeError);
+    EXPECT_THROW(FileBytes("Backup"), RunTimeError) << "a folder opens but does not read";
+    EXPECT_THROW(OpenForWriting("Backup"), RunTimeError);
+    EXPECT_THROW(WriteAndClose(OpenForWriting("/dev/full"), "x"), RunTimeError);
+}
+
+TEST_F(TextFiles, AreThoseOfTheDataFolderOnceItIsEntered) {
+    fs::current_path(drive.root);
+    ChangeToDataFolder();
+    EXPECT_EQ(fs::current_path(), fs::canonical(DataFolder));
+    fs::current_path(drive.root);
+    fs::rename(DataFolder, drive.root / "elsewhere");
+    EXPECT_THROW(ChangeToDataFolder(), RunTimeError);
+}
