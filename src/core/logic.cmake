@@ -1,6 +1,7 @@
 target_sources(planovarium_logic PRIVATE
   core/DateText.cpp
   core/Module1.cpp
+  core/Preferences.cpp
   core/RowLists.cpp
   core/TextFiles.cpp
   core/TypeTable.cpp

@@ -1,6 +1,7 @@
 target_sources(logic_tests PRIVATE
   core/DateTextTest.cpp
   core/Module1Test.cpp
+  core/PreferencesTest.cpp
   core/TextFilesTest.cpp
   core/ValuesTest.cpp
 )

@@ -1,0 +1,40 @@
+// Prefs.ini: where the main window stands, the active term, a few options, and the custom names and colours
+// of the type table. This is the file alone; who reads it places the window and sets the menus by what it
+// gives.
+#pragma once
+
+#include "platform/Screen.h"
+
+#include <optional>
+#include <string>
+
+enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
+
+// Named as the keys of the file. What is set here are the values that stand when the file or a key is
+// missing.
+struct PreferenceValues {
+    // When read, only normal or maximized; minimized is written and comes back as normal.
+    WindowState FormMainState = WindowState::Normal;
+
+    // In pixels. None leaves that side of the window where the design puts it, and is written as 0. A place
+    // or size belongs to the window's normal state, also where the file says that it is maximized.
+    std::optional<int> FormMainLocationX{}, FormMainLocationY{}, FormMainSizeX{}, FormMainSizeY{};
+
+    std::string ActiveTerm{};
+    std::string StartDayofWeek = "Sunday"; // or "Monday", "Saturday"
+    std::string ShowTipsAtStartup = "Yes"; // or "No"
+    std::string AutoStart = "Tray";        // or "Full", "Min", "No"
+    bool AutoStartChecked = true; // false after a bad value: then no item of the start menu is checked
+    int CurrentTip = 0;
+};
+
+// Reads Prefs.ini of the data folder line by line, giving the options and changing TypeTable in place. A
+// place or size counts when it lies above 0 and below the screen's size in its direction. A value that does
+// not convert, or a place above 2184 pixels that counts, ends the read at its line without a message; what
+// was read before stays.
+PreferenceValues ReadPreferencesFile(ScreenSize screen);
+
+// Writes Prefs.ini whole, from the values and TypeTable, into the data folder. The places and sizes of a
+// window that is not in its normal state, and those at which a later read would end, are written as 0. Raises
+// the run-time error when the file cannot be written.
+void WritePreferencesFile(const PreferenceValues& values);
