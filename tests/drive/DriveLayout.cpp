@@ -1,0 +1,29 @@
+// Runs the step that lays out a smart drive.
+#include "drive/DriveLayout.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesystem::path& target,
+                         const std::string& day) {
+    const std::string command = "'" PLANOVARIUM_SOURCE_DIR "/tools/lay-out-drive' '" + source.string() +
+                                "' '" + target.string() + "' " + day + " 2>&1";
+    LayoutResult result;
+    FILE* const pipe = ::popen(command.c_str(), "r");
+    if (pipe == nullptr) {
+        return result;
+    }
+    std::array<char, 4096> bytes{};
+    while (const std::size_t count = std::fread(bytes.data(), 1, bytes.size(), pipe)) {
+        result.output.append(bytes.data(), count);
+    }
+    result.succeeded = ::pclose(pipe) == 0;
+    return result;
+}
+
+std::string BytesOf(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}

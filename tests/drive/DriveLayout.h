@@ -1,0 +1,19 @@
+// Runs the step that lays out a smart drive, for the tests of that step and of the drive that comes with the
+// program.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+inline const std::filesystem::path SampleDrive = std::filesystem::path(PLANOVARIUM_SOURCE_DIR) / "drive";
+
+struct LayoutResult {
+    bool succeeded = false;
+    std::string output; // what the step said, errors included
+};
+
+// Lays the source out in the target; for today where the day ("2009-10-14") is empty.
+LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesystem::path& target,
+                         const std::string& day);
+
+std::string BytesOf(const std::filesystem::path& file);
