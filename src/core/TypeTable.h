@@ -7,7 +7,11 @@
 
 inline constexpr int TypeRows = 27;
 
-// Five parallel lists. A colour is a decimal 0xBBGGRR as text; an empty custom name means that the key is shown.
+// The type of an event that is scheduled study.
+inline constexpr std::string_view StudyTimeType = "Study Time";
+
+// Five parallel lists. A colour is a decimal 0xBBGGRR as text; an empty custom name means that the key is
+// shown.
 struct TypeTableLists {
     TextList category, key, customname, forecolor, backcolor;
 };

@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -48,6 +49,15 @@ std::array<unsigned char, 256> FoldTable() {
 }
 
 const std::array<unsigned char, 256> Folded = FoldTable();
+
+// The number rounded, halves to even; raises the run-time error beyond the limits.
+int WholeBetween(int least, int greatest, double number) {
+    const double rounded = std::nearbyint(number); // the default rounding mode takes halves to even
+    if (!(rounded >= least && rounded <= greatest)) {
+        throw RunTimeError("Overflow", std::to_string(number));
+    }
+    return static_cast<int>(rounded);
+}
 
 bool EqualsAscii(std::string_view text, std::string_view lowerCase) {
     return std::ranges::equal(text, lowerCase, [](char a, char b) {
@@ -99,11 +109,11 @@ double ToNumber(std::string_view text) {
 }
 
 int Int16Of(double number) {
-    const double rounded = std::nearbyint(number); // the default rounding mode takes halves to even
-    if (!(rounded >= LeastInt16 && rounded <= GreatestInt16)) {
-        throw RunTimeError("Overflow", std::to_string(number));
-    }
-    return static_cast<int>(rounded);
+    return WholeBetween(LeastInt16, GreatestInt16, number);
+}
+
+int Int32Of(double number) {
+    return WholeBetween(std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), number);
 }
 
 int ToInt16(std::string_view text) {

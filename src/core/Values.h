@@ -27,6 +27,9 @@ double ToNumber(std::string_view text);
 // The number as a 16-bit integer, halves to even; raises the run-time error beyond 16 bits.
 int Int16Of(double number);
 
+// The number as a 32-bit integer, halves to even; raises the run-time error beyond 32 bits.
+int Int32Of(double number);
+
 // The number in a text as a 16-bit integer; raises the run-time error where there is none or it does not fit.
 int ToInt16(std::string_view text);
 

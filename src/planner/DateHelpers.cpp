@@ -18,6 +18,7 @@ using std::chrono::year_month_day;
 using std::chrono::years;
 
 constexpr int MinutesPerHour = 60;
+constexpr int MinutesPerDay = 1440;
 
 Date Clamped(year_month_day date) {
     return date.ok() ? Date{date} : Date{date.year() / date.month() / last};
@@ -77,6 +78,12 @@ double DurationToMinutes(std::string_view duration) {
     const DurationPieces pieces = SplitDuration(duration);
     const double number = ToNumber(pieces.number);
     return pieces.unit.starts_with('H') ? number * MinutesPerHour : number;
+}
+
+double EventLength(std::string_view duration) {
+    const DurationPieces pieces = SplitDuration(duration);
+    return pieces.unit.starts_with('D') ? ToNumber(pieces.number) * MinutesPerDay
+                                        : DurationToMinutes(duration);
 }
 
 DurationParts DurationByWholeUnit(std::string_view duration) {

@@ -43,6 +43,9 @@ DurationPieces SplitDuration(std::string_view duration);
 // other or none is minutes, so "1 Day" is one minute. Raises the run-time error where the number is none.
 double DurationToMinutes(std::string_view duration);
 
+// Minutes that an event takes in a day's schedule: as above, but a unit that begins with "D" is days.
+double EventLength(std::string_view duration);
+
 // The hours and the minutes that a duration adds to a day's total, where the whole unit counts: "Hours" and
 // "Minutes" add, any other unit ("1 Hour", "1 Day") adds nothing. It differs from the rule above, and is
 // meant to.

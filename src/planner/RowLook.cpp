@@ -1,4 +1,5 @@
-// What a row shows of its record's class or type: a name and two colours.
+// What a row shows of its record: the name and the two colours of its class or type, and a text where the
+// description is empty.
 #include "planner/RowLook.h"
 
 #include "core/Module1.h"
@@ -55,4 +56,11 @@ RowLook EventTypeLook(std::string_view type) {
         return ClassLook(link ? ClassPosition(*link) : 0);
     }
     return TypeLook("Event", type);
+}
+
+std::string_view NewEventText(std::string_view type) {
+    if (IsClassMeeting(type)) {
+        return "Class";
+    }
+    return type == StudyTimeType ? StudyTimeType : "New Event";
 }

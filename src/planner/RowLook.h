@@ -1,4 +1,5 @@
-// What a row shows of its record's class or type: a name and two colours.
+// What a row shows of its record: the name and the two colours of its class or type, and a text where the
+// description is empty.
 #pragma once
 
 #include "planner/Colors.h"
@@ -33,3 +34,10 @@ RowLook TaskTypeLook(std::string_view type);
 // The shown name and the colours of an event's type, and for a class meeting those of its class, in whichever
 // term. A type that is not in the table, "None" among them, has no name.
 RowLook EventTypeLook(std::string_view type);
+
+// What stands for an empty description.
+inline constexpr std::string_view NewAssignmentText = "New Assignment";
+inline constexpr std::string_view NewTaskText = "New Task";
+
+// The same for an event of the type: "Class" for a class meeting, "Study Time" for study, else "New Event".
+std::string_view NewEventText(std::string_view type);

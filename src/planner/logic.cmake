@@ -1,8 +1,10 @@
 target_sources(planovarium_logic PRIVATE
+  planner/AlertMessage.cpp
   planner/AssignmentEntry.cpp
   planner/ClassLink.cpp
   planner/ComboRows.cpp
   planner/DateHelpers.cpp
+  planner/DayTotals.cpp
   planner/Decimal.cpp
   planner/DurationEntry.cpp
   planner/EventFilter.cpp
@@ -15,6 +17,10 @@ target_sources(planovarium_logic PRIVATE
   planner/RowLook.cpp
   planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
+  planner/StudyLog.cpp
+  planner/StudyTimeAlert.cpp
+  planner/StudyTimeByDay.cpp
+  planner/StudyTimeToday.cpp
   planner/TermEntry.cpp
   planner/TypeEntry.cpp
 )

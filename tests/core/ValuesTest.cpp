@@ -28,6 +28,13 @@ TEST(Numbers, RoundHalvesToEvenAndOverflowBeyondSixteenBits) {
     EXPECT_THROW(ToInt16("999999999999999999999999999999"), RunTimeError);
 }
 
+TEST(Numbers, OfThirtyTwoBitsRoundAndOverflowAlike) {
+    EXPECT_EQ(Int32Of(100000.5), 100000);
+    EXPECT_EQ(Int32Of(-2147483648.0), -2147483647 - 1);
+    EXPECT_THROW(Int32Of(2147483647.5), RunTimeError);
+    EXPECT_THROW(Int32Of(1e300), RunTimeError);
+}
+
 TEST(Numbers, IdsAreWholeNumbersOfSixteenBits) {
     EXPECT_EQ(IdIn("7"), 7);
     EXPECT_EQ(IdIn("00032767"), 32767);

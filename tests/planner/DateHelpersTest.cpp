@@ -81,6 +81,16 @@ TEST(Durations, ByFirstLetterTakeAnyHoursAndCallTheRestMinutes) {
     EXPECT_THROW(DurationToMinutes(""), RunTimeError);
 }
 
+TEST(Durations, OfADaysScheduleTakeDaysToo) {
+    EXPECT_EQ(EventLength("1 Day"), 1440);
+    EXPECT_EQ(EventLength("2.5 Days"), 3600);
+    EXPECT_EQ(EventLength("1.5 Hours"), 90);
+    EXPECT_EQ(EventLength("45 Minutes"), 45);
+    EXPECT_EQ(EventLength("20"), 20);
+    EXPECT_THROW(EventLength("soon"), RunTimeError);
+    EXPECT_THROW(EventLength("many Days"), RunTimeError);
+}
+
 TEST(Durations, ByWholeUnitTakeTheTwoPluralsOnly) {
     EXPECT_EQ(DurationByWholeUnit("1.5 Hours").hours, 1.5);
     EXPECT_EQ(DurationByWholeUnit("45 Minutes").minutes, 45);

@@ -80,3 +80,10 @@ TEST_F(RowLooks, FindAClassByTheNumberOfItsId) {
     EXPECT_EQ(ClassPositionOf(classes, "none"), 0);
     EXPECT_EQ(ClassPositionOf(classes, ""), 0);
 }
+
+TEST_F(RowLooks, CallAnEventWithoutDescriptionByItsKind) {
+    EXPECT_EQ(NewEventText("TermID4-ClassID12"), "Class");
+    EXPECT_EQ(NewEventText("Study Time"), "Study Time");
+    EXPECT_EQ(NewEventText("Class"), "New Event");
+    EXPECT_EQ(NewEventText("None"), "New Event");
+}

@@ -1,8 +1,10 @@
 target_sources(logic_tests PRIVATE
+  planner/AlertMessageTest.cpp
   planner/AssignmentEntryTest.cpp
   planner/ClassLinkTest.cpp
   planner/ComboRowsTest.cpp
   planner/DateHelpersTest.cpp
+  planner/DayTotalsTest.cpp
   planner/DecimalTest.cpp
   planner/DurationEntryTest.cpp
   planner/EventFilterTest.cpp
@@ -17,6 +19,10 @@ target_sources(logic_tests PRIVATE
   planner/ReminderEntryTest.cpp
   planner/RowLookTest.cpp
   planner/SeriesEditsTest.cpp
+  planner/StudyBalanceTest.cpp
+  planner/StudyTimeAlertTest.cpp
+  planner/StudyTimeByDayTest.cpp
+  planner/StudyTimeTodayTest.cpp
   planner/TermEntryTest.cpp
   planner/TypeEntryTest.cpp
 )

@@ -1,0 +1,80 @@
+// The counters beside the lists: the homework, the study time and the events of a day.
+#include "planner/DayTotals.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "planner/ClassLink.h"
+#include "planner/Colors.h"
+#include "planner/DateHelpers.h"
+#include "planner/EventOccursOn.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MinutesPerHour = 60;
+
+// The classes of any term with the id in the link, where the link names the active term.
+int LinkedClasses(std::string_view type) {
+    const std::optional<ClassLink> link = IsClassMeeting(type) ? ClassLinkIn(type) : std::nullopt;
+    if (!link || ActiveTermID == 0 || link->term != ActiveTermID) {
+        return 0;
+    }
+    const ClassLists& classes = Store.ClassRecord;
+    int count = 0;
+    for (int position = 1; position <= classes.id.Count(); ++position) {
+        const bool living = classes.name.Item(position) != DeletedRecord;
+        count += living && IdIn(classes.id.Item(position)) == link->class_ ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace
+
+HomeworkDayBoxes HomeworkDayTotals(Date day) {
+    const AssignmentLists& assignments = Store.Assignment;
+    int total = 0;
+    int left = 0;
+    int minutes = 0;
+    for (int position = 1; position <= assignments.date.Count(); ++position) {
+        if (assignments.desc.Item(position) == DeletedRecord ||
+            DateValue(assignments.date.Item(position)) != day) {
+            continue;
+        }
+        ++total;
+        if (!IsTrue(assignments.done.Item(position))) {
+            ++left;
+            minutes += ClockToMinutes(assignments.time_left.Item(position));
+        }
+    }
+    const int openColor = left > 0 ? ColorNotDone : ColorDone;
+    const int color = total == 0 ? ColorWhite : openColor;
+    return {
+        {std::to_string(total), ColorWhite}, {std::to_string(left), color}, {MinutesToClock(minutes), color}};
+}
+
+EventDayBoxes EventDayTotals(Date day) {
+    const EventLists& events = Store.EventRecord;
+    DurationParts study;
+    int classCount = 0;
+    int otherCount = 0;
+    for (int index = 1; index <= events.date.Count(); ++index) {
+        if (!EventOccursOn(day, index)) {
+            continue;
+        }
+        const std::string& type = events.type.Item(index);
+        if (type == StudyTimeType) {
+            const DurationParts parts = DurationByWholeUnit(events.duration.Item(index));
+            study.hours += parts.hours;
+            study.minutes += parts.minutes;
+            continue;
+        }
+        const int linked = LinkedClasses(type);
+        classCount += linked;
+        otherCount += linked == 0 ? 1 : 0; // also a meeting of another term's class
+    }
+    return {{MinutesToClock(Int32Of(study.hours * MinutesPerHour + study.minutes)), ColorWhite},
+            {std::to_string(classCount), ColorWhite},
+            {std::to_string(otherCount), ColorWhite}};
+}

@@ -1,0 +1,120 @@
+// The rows of the Homework and the Study Sessions lists.
+#include "planner/HomeworkSelection.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "core/Values.h"
+#include "planner/DateHelpers.h"
+#include "planner/RowLook.h"
+#include "planner/StudyLog.h"
+
+#include <unordered_map>
+#include <vector>
+
+namespace {
+
+void ClearRows() {
+    HomeworkRows.Clear();
+    RowClass.Clear();
+    RowForeColor.Clear();
+    RowBackColor.Clear();
+    RowTimeLeft.Clear();
+    StudyRowTime.Clear();
+    StudyRowDate.Clear();
+}
+
+bool IsOfDay(std::string_view date, Date day) {
+    return day == AllDates || DateValue(date) == day;
+}
+
+Date RangeDay(const ListFilter& filter) {
+    return filter.comboDateRange == "Day" ? filter.clickedDate : AllDates;
+}
+
+// Gives each of HomeworkRows the name and colours of its class. A row whose class has gone takes those of the
+// row after it, and the last one an empty name, black on white; that is meant.
+void AddClassLooks() {
+    const ClassPositions classes = ClassPositionsById();
+    std::vector<int> positions;
+    for (const int row : HomeworkRows) {
+        positions.push_back(ClassPositionOf(classes, Store.Assignment.class_.Item(row)));
+    }
+    int positionBehind = 0;
+    for (auto position = positions.rbegin(); position != positions.rend(); ++position) {
+        *position = *position == 0 ? positionBehind : *position;
+        positionBehind = *position;
+    }
+    for (const int position : positions) {
+        RowLook look = ClassLook(position);
+        RowClass.Add(std::move(look.name));
+        RowForeColor.Add(look.forecolor);
+        RowBackColor.Add(look.backcolor);
+    }
+}
+
+std::unordered_map<int, int> AssignmentPositionsById() {
+    const TextList& ids = Store.Assignment.id;
+    std::unordered_map<int, int> positions;
+    for (int position = 1; position <= ids.Count(); ++position) {
+        if (const std::optional<int> id = IdIn(ids.Item(position))) {
+            positions.emplace(*id, position);
+        }
+    }
+    return positions;
+}
+
+} // namespace
+
+HomeworkCounts HomeworkDayList(Date day, const ListFilter& filter) {
+    const AssignmentLists& assignments = Store.Assignment;
+    const LoggedMinutes logged = LoggedMinutesById();
+    HomeworkCounts counts;
+    ClearRows();
+    for (int position = 1; position <= assignments.date.Count(); ++position) {
+        if (assignments.desc.Item(position) == DeletedRecord ||
+            !IsOfDay(assignments.date.Item(position), day)) {
+            continue;
+        }
+        const bool done = IsTrue(assignments.done.Item(position));
+        ++counts.total;
+        counts.left += done ? 0 : 1;
+        counts.allDone &= done;
+        if (filter.comboList == (done ? "Not Done" : "Done")) {
+            continue;
+        }
+        HomeworkRows.Add(position);
+        RowTimeLeft.Add(MinutesToClock(done ? 0 : RemainingMinutes(position, logged)));
+    }
+    AddClassLooks();
+    return counts;
+}
+
+HomeworkCounts SelectHomeworkRows(const ListFilter& filter) {
+    return HomeworkDayList(RangeDay(filter), filter);
+}
+
+StudySessionBoxes StudySessionDayList(Date day) {
+    const StudySessionLists& log = Store.StudySessionRecord;
+    const std::unordered_map<int, int> assignments = AssignmentPositionsById();
+    int minutes = 0;
+    ClearRows();
+    for (int entry = 1; entry <= log.assignment.Count(); ++entry) {
+        // The id -1 of an entry that no longer counts is no assignment's.
+        const std::optional<int> id = IdIn(log.assignment.Item(entry));
+        const auto assignment = id ? assignments.find(*id) : assignments.end();
+        if (assignment == assignments.end() || !IsOfDay(log.date.Item(entry), day)) {
+            continue;
+        }
+        StudyRowTime.Add(entry);
+        StudyRowDate.Add(entry);
+        HomeworkRows.Add(assignment->second);
+        minutes += ClockToMinutes(log.time.Item(entry));
+    }
+    AddClassLooks();
+    return {{std::to_string(StudyRowTime.Count())}, {MinutesToClock(minutes)}};
+}
+
+StudySessionBoxes SelectStudyRows(const ListFilter& filter) {
+    return StudySessionDayList(RangeDay(filter));
+}
