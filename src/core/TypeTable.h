@@ -7,6 +7,9 @@
 
 inline constexpr int TypeRows = 27;
 
+// The type of a task or an event that has none.
+inline constexpr std::string_view NoType = "None";
+
 // The type of an event that is scheduled study.
 inline constexpr std::string_view StudyTimeType = "Study Time";
 

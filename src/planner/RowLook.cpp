@@ -47,7 +47,7 @@ RowLook ClassLook(int position) {
 }
 
 RowLook TaskTypeLook(std::string_view type) {
-    return type == "None" ? RowLook{"None"} : TypeLook("Task", type);
+    return type == NoType ? RowLook{std::string(NoType)} : TypeLook("Task", type);
 }
 
 RowLook EventTypeLook(std::string_view type) {

@@ -2,12 +2,11 @@
 // that it shows for a stored type, and the type that is stored for a shown text.
 #pragma once
 
+#include "core/TypeTable.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-inline constexpr std::string_view NoType = "None";
-inline constexpr std::string_view StudyTimeType = "Study Time";
 
 // The row that parts the classes from the types; choosing it chooses "None".
 inline constexpr std::string_view SeparatorRow = "------------------------------";
