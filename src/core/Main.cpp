@@ -22,7 +22,8 @@ constexpr std::array<const char*, 4> DriveVariables{"U3_HOST_EXEC_PATH", "U3_DEV
                                                     "U3_DEVICE_DOCUMENT_PATH", "U3_DEVICE_EXEC_PATH"};
 
 bool StartedFromDrive() {
-    return std::ranges::none_of(DriveVariables, [](const char* name) { return EnvironmentValue(name).empty(); });
+    return std::ranges::none_of(DriveVariables,
+                                [](const char* name) { return EnvironmentValue(name).empty(); });
 }
 
 // The toolkit's dialogs keep their own settings in the host's scratch folder, not in the user's.

@@ -1,4 +1,5 @@
-// frmSplash, the picture on the screen while the planner loads; a second instance hands over to the first with it.
+// frmSplash, the picture on the screen while the planner loads; a second instance hands over to the first
+// with it.
 #include "core/frmSplash.h"
 
 #include "platform/InstanceLink.h"

@@ -14,5 +14,5 @@ void frmMain::SetActiveTerm(const std::string& name) {
     const TermStatus status = TermStatusOn(Today());
     LabelTerm->setText(FromStore(status.term));
     LabelDaysLeft->setText(FromStore(status.daysLeft));
-    FillHomeworkList();
+    RefreshFor(ReasonNewTerm);
 }

@@ -1,5 +1,5 @@
-// The ways in which the main window appears and goes: at the start, for a second instance, from the tray, and by the
-// close box, which only hides it.
+// The ways in which the main window appears and goes: at the start, for a second instance, from the tray, and
+// by the close box, which only hides it.
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
@@ -41,6 +41,13 @@ void frmMain::TrayDoubleClick() {
 // The caption says "Exit"; the program stays in the tray all the same.
 void frmMain::HideWindows() {
     hide();
+}
+
+void frmMain::OpenFromReminders() {
+}
+
+bool frmMain::event(QEvent* event) {
+    return QMainWindow::event(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

@@ -1,7 +1,7 @@
 // The load of the main window. The order of its steps is required: later ones read what earlier ones set.
 #include "core/Module1.h"
-#include "mainwindow/frmMain.h"
 #include "mainwindow/ProcessMarker.h"
+#include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
 #include "platform/InstanceLink.h"
 #include "platform/Process.h"
@@ -24,8 +24,8 @@ void PutIntoTray(frmMain& window) {
                  .itemChosen = [&window](int index) { window.RunPopupCommand(index); }});
 }
 
-// Reads the data of all terms. A failure shows its box, and the load goes on with what was read, unless a shutdown
-// came while the box was open: then nothing more is read or made.
+// Reads the data of all terms. A failure shows its box, and the load goes on with what was read, unless a
+// shutdown came while the box was open: then nothing more is read or made.
 void ReadRecordFiles() {
     for (void (*read)() : {&ReadTermsAndClasses, &ReadTasks, &ReadEvents}) {
         if (!ShuttingDown) {

@@ -3,6 +3,27 @@
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
 
+void frmMain::ShowCalendarMenu() {
+}
+
+void frmMain::ShowHomeworkDayMenu() {
+}
+
+void frmMain::ShowHomeworkListMenu() {
+}
+
+void frmMain::ShowEventListMenu() {
+}
+
+void frmMain::ShowTaskListMenu() {
+}
+
+void frmMain::ShowTaskDayMenu() {
+}
+
+void frmMain::ShowEventDayMenu() {
+}
+
 void frmMain::ShowTrayMenu() {
     mnuPopupItems.clear();
     if (ModalDialogIsOpen()) {

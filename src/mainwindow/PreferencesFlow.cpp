@@ -1,5 +1,5 @@
-// Prefs.ini and the main window: the options taken over at the start, the window put where it was left, and both
-// handed back at the shutdown.
+// Prefs.ini and the main window: the options taken over at the start, the window put where it was left, and
+// both handed back at the shutdown.
 #include "core/Module1.h"
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
@@ -15,9 +15,11 @@ WindowState StateOf(const frmMain& window) {
 
 // A maximized window keeps the place for when it returns to its normal size.
 void PlaceWindow(frmMain& window, const PreferenceValues& values) {
-    window.resize(values.FormMainSizeX.value_or(window.width()), values.FormMainSizeY.value_or(window.height()));
+    window.resize(values.FormMainSizeX.value_or(window.width()),
+                  values.FormMainSizeY.value_or(window.height()));
     if (values.FormMainLocationX || values.FormMainLocationY) {
-        window.move(values.FormMainLocationX.value_or(window.x()), values.FormMainLocationY.value_or(window.y()));
+        window.move(values.FormMainLocationX.value_or(window.x()),
+                    values.FormMainLocationY.value_or(window.y()));
     }
     if (values.FormMainState == WindowState::Maximized) {
         window.setWindowState(window.windowState() | Qt::WindowMaximized);

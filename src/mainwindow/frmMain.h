@@ -1,18 +1,29 @@
-// frmMain, the main window: its controls, its public state and its procedures. The procedures are defined by subject
-// in files of their own; other windows read the fields directly.
+// frmMain, the main window: its controls, its public state and its procedures. The procedures are defined by
+// subject in files of their own; other windows read the fields directly.
 #pragma once
 
+#include "mainwindow/Mode.h"
+#include "planner/ListFilter.h"
+#include "platform/ClickLabel.h"
+#include "platform/Clock.h"
 #include "platform/PictureBox.h"
 
-#include <QLabel>
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
+#include <QTimer>
+#include <QToolButton>
 
+#include <array>
 #include <string>
 #include <vector>
 
-// An item of a context menu or of the tray menu: a caption and the two words of its command. A caption of "-" is a
-// separator.
+// An item of a context menu or of the tray menu: a caption and the two words of its command. A caption of "-"
+// is a separator.
 struct PopupItem {
     std::string caption;
     std::string tag;
@@ -24,12 +35,94 @@ class frmMain : public QMainWindow {
 public:
     frmMain();
 
-    // --- Controls ---
-    QLabel* LabelTerm = nullptr;
-    QLabel* LabelDaysLeft = nullptr;
+    // --- The menu bar (MenuBar.cpp) ---
+    QMenu *mnuFile = nullptr, *MenuExport = nullptr, *MenuEdit = nullptr, *MenuOptions = nullptr,
+          *MenuStartDay = nullptr, *MenuStartup = nullptr, *MenuHelp = nullptr;
+    QAction *MenuCalendar = nullptr, *MenuHomework = nullptr, *MenuEvents = nullptr, *MenuTasks = nullptr,
+            *MenuPopupReminders = nullptr, *MenuGPA = nullptr, *MenuReminders = nullptr,
+            *MenuStudySessions = nullptr, *MenuPrintScreen = nullptr, *MenuExit = nullptr;
+    QAction *MenuExportCalendarAS = nullptr, *MenuExportCalendarEV = nullptr, *MenuExportCalendarTA = nullptr,
+            *MenuExportListAS = nullptr, *MenuExportListTA = nullptr, *MenuExportCalendar = nullptr,
+            *MenuExportList = nullptr;
+    QAction *MenuNewAssignment = nullptr, *MenuNewEvent = nullptr, *MenuNewTask = nullptr,
+            *MenuClassSchedule = nullptr;
+    QAction *MenuColors = nullptr, *MenuStartSat = nullptr, *MenuStartSun = nullptr, *MenuStartMon = nullptr,
+            *MenuStartFull = nullptr, *MenuStartMin = nullptr, *MenuStartTray = nullptr,
+            *MenuStartNo = nullptr;
+    QAction *MenuHelpDB = nullptr, *MenuHomeworkHelp = nullptr, *MenuShowTips = nullptr, *MenuAbout = nullptr,
+            *mnuHelpBar1 = nullptr, *MenuData = nullptr;
+
+    // --- The mode bar (ModeBar.cpp) ---
+    PictureBox *PictureBarCalendar = nullptr, *PictureBarHomework = nullptr,
+               *PictureBarStudySessions = nullptr, *PictureBarEvents = nullptr, *PictureBarTasks = nullptr,
+               *PictureBarReminders = nullptr, *PictureBarWeb = nullptr;
+    ClickLabel *LabelBarCalendar = nullptr, *LabelBarHomework = nullptr, *LabelBarEvents = nullptr,
+               *LabelBarTasks = nullptr, *LabelBarReminders = nullptr, *LabelBarWeb = nullptr;
+
+    // --- The left panel (LeftPanel.cpp) ---
+    QWidget* PictureBoxCalendar = nullptr; // the small calendar
+    ClickLabel* LabelMonth = nullptr;
+    PictureBox *picCalMonthUp = nullptr, *picCalMonthDown = nullptr;
+    std::array<ClickLabel*, 7> LabelCalDay{};
+    std::array<ClickLabel*, 42> LabelCalDate{};
+    QFrame* LabelCalTileBorder = nullptr; // the frame around today
+    PictureBox *picToday = nullptr, *picTomorrow = nullptr;
+    ClickLabel *LabelToday = nullptr, *LabelTomorrow = nullptr;
+    PictureBox* picLock = nullptr; // over the small calendar in Reminders mode
+
+    QToolButton *ButtonNewAssignmentSmall = nullptr, *ButtonNewEventSmall = nullptr,
+                *ButtonNewTaskSmall = nullptr;
+    QPushButton *ButtonNewAssignment = nullptr, *ButtonNewEvent = nullptr, *ButtonNewTask = nullptr;
+
+    QWidget *PictureBoxTerm = nullptr, *PictureBoxViewMenus = nullptr, *PictureBoxStudySessions = nullptr,
+            *PictureBoxReminders = nullptr, *PictureBoxStudyTime = nullptr, *PictureBoxTimer = nullptr;
+    QLabel *LabelTerm = nullptr, *LabelDaysLeft = nullptr;
+    QPushButton* ButtonSelectTerm = nullptr;
+    QComboBox *ComboList = nullptr, *ComboDateRange = nullptr;
+    QLineEdit *TextBoxMinimum = nullptr, *TextBoxSuggested = nullptr;
+
+    // The three counters; each has one box for each mode that shows it.
+    QLabel *LabelTotalAssignments = nullptr, *LabelFinishedAssignments = nullptr,
+           *LabelTimeRemaining = nullptr;
+    QLineEdit *TextBoxTotalAssignments = nullptr, *TextBoxFinishedAssignments = nullptr,
+              *TextBoxTimeRemaining = nullptr;
+    QLineEdit *TextBoxStudySessions = nullptr, *TextboxStudyTime = nullptr;
+    QLineEdit *TextBoxTotalTasks = nullptr, *TextBoxFinishedTasks = nullptr, *TextBoxUndatedTasks = nullptr;
+    QLineEdit *TextBoxClasses = nullptr, *TextBoxOtherEvents = nullptr, *TextBoxSchedStudy = nullptr;
+    QLineEdit *TextboxAssignments = nullptr, *TextBoxTasks = nullptr, *TextBoxEvents = nullptr;
+
+    std::array<QPushButton*, 4> ButtonAlert{};
+    PictureBox* picTime = nullptr;
+    QPushButton *ButtonStart = nullptr, *ButtonReset = nullptr, *ButtonSeconds = nullptr;
+
+    // --- The right side (BuildWindow.cpp) ---
+    QWidget* picTop = nullptr;
+    PictureBox *picCalDayUp = nullptr, *picCalDayDown = nullptr;
+    QLabel *LabelTop = nullptr, *LabelInfoTitle = nullptr;
     PictureBox* picGrid = nullptr;
+    std::array<PictureBox*, 10> picColHeader{}; // on picGrid, like the scroll bar
     QScrollBar* VSGridScroll = nullptr;
-    QAction* MenuExit = nullptr;
+    PictureBox* picStatusBar = nullptr;
+
+    // --- Timers ---
+    QTimer *TimerStatusBar = nullptr, *Timer1 = nullptr, *TimerButton = nullptr;
+
+    // --- State of the view ---
+    Date ClickedDate{};                    // the date that the next build of the month is to show
+    Date SelectedDate{};                   // the date that the last one did show
+    std::string RefreshReason{ReasonNone}; // the order to RefreshView
+    bool ChangingMode = false;             // a mode entry fills the filter menus, whose handlers keep quiet
+    int ShownMonth = 13;                   // month of which the marks are; 13 forces them anew
+    int SortColumn = 0; // column that the rows are sorted by; what it means depends on the mode
+    int SortDirection = Ascending;
+    int FirstRow = 1;                  // number of the row at the top of the list
+    int RowCount = 0;                  // rows of the mode's list
+    int RowsVisible = 0;               // whole rows that fit under the titles
+    int HeaderHeight = 0;              // height of the titles in pixels
+    int ClickedRow = 0;                // row under the last press; 999 in a list when there is none
+    std::string ModeCaption;           // the left text of the status bar
+    std::string EventClickedStartTime; // the half hour clicked in the day schedule
+    std::string AlertWhen, AlertAmount, AlertBefore; // parts of the study time alert's message
 
     // --- Options, kept in Prefs.ini ---
     std::string StartDayOfWeek = "Monday"; // or "Sunday", "Saturday"
@@ -40,8 +133,8 @@ public:
 
     // --- Load.cpp, Unload.cpp: the run of the process ---
 
-    // The ordered build of the window and all its data, without showing it. Gives false when the process has to
-    // end instead, because the data folder cannot be entered or a shutdown came in between.
+    // The ordered build of the window and all its data, without showing it. Gives false when the process has
+    // to end instead, because the data folder cannot be entered or a shutdown came in between.
     bool LoadPlanner();
 
     // The ordered shutdown; ends the process.
@@ -58,15 +151,6 @@ public:
     std::string ReadPreferences();
     void WritePreferences() const;
 
-    // --- PopupMenus.cpp ---
-    std::vector<PopupItem> mnuPopupItems;
-
-    // Fills the popup items with the tray menu; with none while a modal dialog is open.
-    void ShowTrayMenu();
-
-    // Runs the command of the popup item at the index, counted from 0.
-    void RunPopupCommand(int index);
-
     // --- BringForward.cpp: the ways in which the window appears and goes ---
 
     // The first appearance, by the command line and the start mode.
@@ -77,11 +161,137 @@ public:
     void TrayDoubleClick();
     void HideWindows();
 
-    // The plain list of the active term's homework.
+    // Opens the item that the reminder window asks for.
+    void OpenFromReminders();
+
+    // --- Modes.cpp: the mode entries, and which mode it is ---
+    Mode CurrentMode() const;
+    void ShowCalendarMode();
+    void ShowHomeworkMode();
+    void ShowStudySessionsMode();
+    void ShowTaskMode();
+    void ShowEventMode();
+    void ShowReminderMode();
+
+    // --- ViewMenus.cpp: the filter menus, and the filters kept from mode to mode ---
+    void InitViewMenus();
+    void SaveViewMenus();
+    void RestoreViewMenus();
+    void PaintViewMenus();
+
+    // What the selections read from the window, filled for one call.
+    ListFilter CurrentFilter() const;
+    SortOrder CurrentSort() const;
+
+    // --- RefreshView.cpp ---
+
+    // Redoes as much of the window as RefreshReason needs in this mode; always leaves the reason "None".
+    void RefreshView();
+
+    // Sets the reason and refreshes.
+    void RefreshFor(std::string_view reason);
+
+    // --- MonthCalendar.cpp, CalendarSteps.cpp, LargeCalendar.cpp ---
+    void BuildMonth();
+    void PaintTodayButtons();
+    void PaintMonthCells();
+    void ApplyStartDayOfWeek();
+    void ChooseStartDayOfWeek(const std::string& day);
+    void GoToDate(Date date);
+    void LayoutCalendarGrid();
+    void ShowCalendarTitles();
+
+    // --- ListGrid.cpp, HomeworkGrid.cpp, StudyGrid.cpp, TaskGrid.cpp, ReminderGrid.cpp, EventList.cpp ---
+    void LayoutHomeworkGrid();
     void FillHomeworkList();
+    void LayoutStudyGrid();
+    void FillStudyList();
+    void LayoutTaskGrid();
+    void FillTaskList();
+    void LayoutReminderGrid();
+    void FillReminderList();
+    void LayoutEventList();
+    void FillEventList();
+    void HighlightRow(int row, bool on);
+
+    // --- DaySchedule.cpp ---
+    void LayoutEventGrid();
+    void FillEventDay();
+
+    // --- GridScroll.cpp, GridClicks.cpp, GridKeys.cpp ---
+    void SetGridScroll();
+    void GridScrolled();
+    void ResortGrid();
+    void MouseWheel(int rotation);
+    void ColumnClicked(int index);
+    void GridPressed(int x, int y, Qt::MouseButton button);
+    void GridReleased(int x, int y, Qt::MouseButton button);
+    bool GridKeyPressed(int key);
+
+    // The layout and the fill of the mode.
+    void LayoutGrid();
+    void FillGrid();
+
+    // --- PopupMenus.cpp ---
+    QMenu* mnuPopup = nullptr;
+    std::vector<PopupItem> mnuPopupItems;
+    void ShowCalendarMenu();
+    void ShowHomeworkDayMenu();
+    void ShowHomeworkListMenu();
+    void ShowEventListMenu();
+    void ShowTaskListMenu();
+    void ShowTaskDayMenu();
+    void ShowEventDayMenu();
+
+    // Fills the popup items with the tray menu; with none while a modal dialog is open.
+    void ShowTrayMenu();
+
+    // Runs the command of the popup item at the index, counted from 0.
+    void RunPopupCommand(int index);
+
+    // --- StatusPanels.cpp, Alerts.cpp, StudyTimer.cpp ---
+    void PaintStatusBar();
+    void StudyTimeAlerts();
+    void ShowAlertMessage(int index);
+    void PaintStudyTimer();
+    void ClearStudyTimer();
+
+    // --- The flows: what a command asks of the student and writes (AssignmentFlow.cpp, ...) ---
+    void NewAssignment();
+    void EditAssignment(int index);
+    void NewTask();
+    void EditTask(int index);
+    void NewEvent();
+    void EditEvent(int index);
+    void ClassSchedule();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    // BuildWindow.cpp, MenuBar.cpp, ModeBar.cpp, LeftPanel.cpp: the parts of the window, built in this order.
+    void BuildMenuBar();
+    QWidget* BuildModeBar();
+    QWidget* BuildLeftPanel();
+    QWidget* BuildSmallCalendar();
+    QWidget* BuildNewButtons();
+    QWidget* BuildTermPanel();
+    QWidget* BuildViewMenusPanel();
+    std::array<QWidget*, 3> BuildModePanels();
+    QWidget* BuildCounters();
+    QWidget* BuildAlerts();
+    QWidget* BuildTimerPanel();
+    QWidget* BuildRightSide();
+
+    // Each subject binds its controls to its procedures.
+    void BindModes();
+    void BindViewMenus();
+    void BindCalendar();
+    void BindGrid();
+    void BindPanels();
+    void BindStudyTimer();
+    void BindCommands();
 };
 
 // The one main window, from its load until the process ends.

@@ -1,11 +1,33 @@
 target_sources(planovarium_windows PRIVATE
   mainwindow/ActiveTerm.cpp
+  mainwindow/Alerts.cpp
+  mainwindow/AssignmentFlow.cpp
   mainwindow/BringForward.cpp
+  mainwindow/BuildWindow.cpp
+  mainwindow/CalendarSteps.cpp
+  mainwindow/Commands.cpp
+  mainwindow/DaySchedule.cpp
+  mainwindow/EventFlow.cpp
+  mainwindow/GridClicks.cpp
+  mainwindow/GridKeys.cpp
+  mainwindow/GridScroll.cpp
+  mainwindow/LargeCalendar.cpp
+  mainwindow/LeftPanel.cpp
   mainwindow/ListGrid.cpp
   mainwindow/Load.cpp
+  mainwindow/MenuBar.cpp
+  mainwindow/ModeBar.cpp
+  mainwindow/Modes.cpp
+  mainwindow/MonthCalendar.cpp
   mainwindow/PopupMenus.cpp
   mainwindow/PreferencesFlow.cpp
   mainwindow/ProcessMarker.cpp
+  mainwindow/RefreshView.cpp
+  mainwindow/StatusPanels.cpp
+  mainwindow/StudyTimer.cpp
+  mainwindow/TaskFlow.cpp
+  mainwindow/TermFlow.cpp
   mainwindow/Unload.cpp
-  mainwindow/frmMain.cpp
+  mainwindow/ViewMenus.cpp
+  mainwindow/frmMain.h
 )

@@ -1,5 +1,6 @@
-// The single-instance link: a lock file in the user's runtime folder tells who is first, a local socket beside it
-// carries one conversation a connection: the address and the command in two lines, the answer in one.
+// The single-instance link: a lock file in the user's runtime folder tells who is first, a local socket
+// beside it carries one conversation a connection: the address and the command in two lines, the answer in
+// one.
 #include "platform/InstanceLink.h"
 
 #include <QDeadlineTimer>
@@ -99,7 +100,8 @@ LinkResult SendLinkCommand(std::string_view application, std::string_view topic,
     if (!socket.waitForConnected(remaining())) {
         return LinkResult::Failed;
     }
-    socket.write(AddressLine(application, topic) + '\n' + QByteArray::fromStdString(std::string(command)) + '\n');
+    socket.write(AddressLine(application, topic) + '\n' + QByteArray::fromStdString(std::string(command)) +
+                 '\n');
     while (!socket.canReadLine()) {
         if (!socket.waitForReadyRead(remaining())) {
             return LinkResult::Failed;

@@ -1,5 +1,5 @@
-// Modal dialogs and boxes, counted as they open and close. While one is open the main window counts as disabled,
-// whatever the toolkit's own flag says.
+// Modal dialogs and boxes, counted as they open and close. While one is open the main window counts as
+// disabled, whatever the toolkit's own flag says.
 #pragma once
 
 class QDialog;

@@ -46,7 +46,8 @@ QRectF PixelRect(const DrawnItem& item) {
 QFont MakeFont(const SurfaceFont& font) {
     const auto index = static_cast<std::size_t>(font.face);
     QFont result;
-    result.setFamilies({QString::fromLatin1(FaceFamilies[index].family), QString::fromLatin1(Substitutes[index])});
+    result.setFamilies(
+        {QString::fromLatin1(FaceFamilies[index].family), QString::fromLatin1(Substitutes[index])});
     result.setStyleHint(FaceFamilies[index].hint);
     result.setPointSizeF(font.points);
     result.setBold(font.bold);
@@ -78,7 +79,8 @@ void PaintItem(QPainter& painter, const DrawnItem& item) {
         const QFont font = ToQFont(item.font);
         painter.setFont(font);
         painter.setPen(ToQColor(item.color));
-        painter.drawText(QPointF(Pixels(item.left), Pixels(item.top) + QFontMetricsF(font).ascent()), item.text);
+        painter.drawText(QPointF(Pixels(item.left), Pixels(item.top) + QFontMetricsF(font).ascent()),
+                         item.text);
         break;
     }
     case DrawnKind::Picture:
@@ -123,7 +125,6 @@ QString ShortenedText(const QString& text, const SurfaceFont& font, int width) {
 }
 
 PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
-    setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 int PictureBox::WidthInUnits() const {
@@ -165,9 +166,16 @@ void PictureBox::DrawPicture(int left, int top, int width, int height, const QSt
     Keep({DrawnKind::Picture, left, top, width, height, 0, name, {}});
 }
 
+void PictureBox::ShowPicture(const QString& name) {
+    Clear(NoColor);
+    DrawPicture(0, 0, WidthInUnits(), HeightInUnits(), name);
+}
+
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), ToQColor(backColor));
+    if (backColor != NoColor) {
+        painter.fillRect(rect(), ToQColor(backColor));
+    }
     for (const DrawnItem& item : drawn) {
         PaintItem(painter, item);
     }

@@ -1,5 +1,5 @@
-// The painting surface of the hand-painted views. It keeps what was drawn, in units of 15 to the pixel, and shows
-// it at the screen's real resolution; what it keeps can be read back.
+// The painting surface of the hand-painted views. It keeps what was drawn, in units of 15 to the pixel, and
+// shows it at the screen's real resolution; what it keeps can be read back.
 #pragma once
 
 #include <QColor>
@@ -15,10 +15,10 @@ inline constexpr int UnitsPerPixel = 15;
 QColor ToQColor(int bgr);
 
 enum class Face {
-    List,   // the proportional list face, Arial
-    Title,  // the title face, Verdana
-    Clock,  // the fixed face of the study timer, Courier
-    Status  // the face of the status bar, MS Sans Serif
+    List,  // the proportional list face, Arial
+    Title, // the title face, Verdana
+    Clock, // the fixed face of the study timer, Courier
+    Status // the face of the status bar, MS Sans Serif
 };
 
 struct SurfaceFont {
@@ -42,8 +42,8 @@ QString ShortenedText(const QString& text, const SurfaceFont& font, int width);
 
 enum class DrawnKind { Rectangle, Frame, Line, Text, Picture };
 
-// One thing drawn. A line runs from its left and top over its width and height; a text begins at its left and top;
-// a picture's text is the name of its resource.
+// One thing drawn. A line runs from its left and top over its width and height; a text begins at its left and
+// top; a picture's text is the name of its resource.
 struct DrawnItem {
     DrawnKind kind = DrawnKind::Rectangle;
     int left = 0;
@@ -55,6 +55,9 @@ struct DrawnItem {
     SurfaceFont font;
 };
 
+// A surface in this colour shows what lies behind it.
+inline constexpr int NoColor = -1;
+
 class PictureBox : public QWidget {
     Q_OBJECT
 
@@ -64,6 +67,9 @@ public:
     // Size of the surface in units.
     int WidthInUnits() const;
     int HeightInUnits() const;
+
+    // Leaves nothing but the picture of that name, over the whole surface.
+    void ShowPicture(const QString& name);
 
     // Takes away all that was drawn and leaves the surface in one colour.
     void Clear(int color = 0xFFFFFF);
@@ -77,6 +83,7 @@ public:
 
     // What was drawn since the last clearing, in order.
     const std::vector<DrawnItem>& Drawn() const { return drawn; }
+
     int BackColor() const { return backColor; }
 
 signals:

@@ -66,7 +66,8 @@ void OnTermination(std::function<void()> end) {
     for (const int signal : TerminationSignals) {
         std::signal(signal, &NoteSignal);
     }
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notifier, [end] { end(); }, Qt::DirectConnection);
+    QObject::connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, notifier, [end] { end(); }, Qt::DirectConnection);
 }
 
 bool SyncToDevice(std::FILE* file) {

@@ -26,7 +26,8 @@ char ByteOf(char16_t character) {
         return static_cast<char>(character);
     }
     const auto* const found = std::ranges::find(Windows1252, character);
-    return found == Windows1252.end() ? '?' : static_cast<char>(FirstWindowsByte + (found - Windows1252.begin()));
+    return found == Windows1252.end() ? '?'
+                                      : static_cast<char>(FirstWindowsByte + (found - Windows1252.begin()));
 }
 
 } // namespace

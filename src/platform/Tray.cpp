@@ -1,5 +1,5 @@
-// The tray icon. Trays of the XEmbed kind report a click and then a double click; status notifiers report clicks
-// alone, so two clicks within the double-click time count as a double click there.
+// The tray icon. Trays of the XEmbed kind report a click and then a double click; status notifiers report
+// clicks alone, so two clicks within the double-click time count as a double click there.
 #include "platform/Tray.h"
 
 #include "platform/Text.h"
@@ -50,8 +50,8 @@ void IconActivated(QSystemTrayIcon::ActivationReason reason) {
     if (reason != QSystemTrayIcon::Trigger) {
         return;
     }
-    const bool second = tray->sinceClick.isValid() &&
-                        tray->sinceClick.elapsed() <= QApplication::doubleClickInterval();
+    const bool second =
+        tray->sinceClick.isValid() && tray->sinceClick.elapsed() <= QApplication::doubleClickInterval();
     if (second) {
         tray->sinceClick.invalidate();
         tray->events.doubleClicked();

@@ -1,0 +1,110 @@
+// The main window put together: the menu bar over the mode bar, the left panel beside the view, the status
+// bar.
+#include "mainwindow/WindowStyle.h"
+#include "mainwindow/frmMain.h"
+
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int TopHeight = 30;
+constexpr int StepperSize = 22;
+constexpr int StatusHeight = 24;
+constexpr double TopPoints = 11;
+constexpr double InfoPoints = 9;
+
+QPalette SurfacePalette() {
+    QPalette colors;
+    colors.setColor(QPalette::Window, SurfaceColor);
+    colors.setColor(QPalette::WindowText, TextColor);
+    colors.setColor(QPalette::Highlight, AccentColor);
+    return colors;
+}
+
+QLabel* TitleLabel(double points, bool bold, Qt::Alignment alignment) {
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(ToQFont({Face::Title, points, bold}));
+    label->setAlignment(alignment | Qt::AlignVCenter);
+    return label;
+}
+
+PictureBox* Stepper(const char* picture, const char* name) {
+    auto* box = new PictureBox;
+    box->setFixedSize(StepperSize, StepperSize);
+    box->ShowPicture(QLatin1String(picture));
+    box->setAccessibleName(QLatin1String(name));
+    return box;
+}
+
+} // namespace
+
+frmMain* MainWindow = nullptr;
+
+frmMain::frmMain() {
+    setWindowTitle(QStringLiteral("Planovarium Homework System"));
+    setPalette(SurfacePalette());
+    resize(DesignSize);
+    setMinimumSize(DesignSize);
+
+    BuildMenuBar();
+    auto* centre = new QWidget;
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(BuildModeBar());
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, 0);
+    row->setSpacing(PanelMargin);
+    row->addWidget(BuildLeftPanel());
+    row->addWidget(BuildRightSide(), 1);
+    column->addLayout(row, 1);
+    picStatusBar = new PictureBox;
+    picStatusBar->setFixedHeight(StatusHeight);
+    column->addWidget(picStatusBar);
+    setCentralWidget(centre);
+
+    mnuPopup = new QMenu(this);
+    BindModes();
+    BindViewMenus();
+    BindCalendar();
+    BindGrid();
+    BindPanels();
+    BindStudyTimer();
+    BindCommands();
+}
+
+QWidget* frmMain::BuildRightSide() {
+    auto* side = new QWidget;
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, PanelMargin);
+    column->setSpacing(0);
+
+    picTop = new QWidget;
+    picTop->setFixedHeight(TopHeight);
+    auto* top = new QHBoxLayout(picTop);
+    top->setContentsMargins(0, 0, 0, PanelMargin);
+    picCalDayDown = Stepper("picStashCalDayLeftUp.svg", "One day back");
+    picCalDayUp = Stepper("picStashCalDayRightUp.svg", "One day on");
+    LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
+    LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
+    top->addWidget(picCalDayDown);
+    top->addWidget(LabelTop, 1);
+    top->addWidget(LabelInfoTitle);
+    top->addWidget(picCalDayUp);
+    column->addWidget(picTop);
+
+    picGrid = new PictureBox;
+    picGrid->setFocusPolicy(Qt::StrongFocus);
+    picGrid->setAccessibleName(QStringLiteral("View"));
+    for (PictureBox*& header : picColHeader) {
+        header = new PictureBox(picGrid);
+        header->hide();
+    }
+    VSGridScroll = new QScrollBar(Qt::Vertical, picGrid);
+    VSGridScroll->hide();
+    column->addWidget(picGrid, 1);
+    return side;
+}

@@ -1,0 +1,315 @@
+// The left panel: the small calendar, the buttons for new records, the panels of the modes, the alerts, the
+// timer.
+#include "mainwindow/WindowStyle.h"
+#include "mainwindow/frmMain.h"
+#include "planner/Colors.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int StepperSize = 20;
+constexpr int CellHeight = 18;
+constexpr int HeadHeight = 16;
+constexpr int TodayHeight = 22;
+constexpr int SmallButtonWidth = 50; // the small buttons stand 750 units apart
+constexpr int SmallButtonHeight = 26;
+constexpr int SmallIcon = 18;
+constexpr int PanelGap = 5;
+constexpr int CounterBoxWidth = 58;
+constexpr int TimeHeight = 26;
+constexpr double CellPoints = 8.25;
+
+ClickLabel* CentredLabel(const SurfaceFont& font) {
+    auto* label = new ClickLabel;
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(ToQFont(font));
+    return label;
+}
+
+QLabel* PlainLabel(const QString& text = {}) {
+    auto* label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+PictureBox* Picture(const char* name, QSize size) {
+    auto* box = new PictureBox;
+    box->setFixedSize(size);
+    box->ShowPicture(QLatin1String(name));
+    return box;
+}
+
+// A panel with a ground and an edge of its own.
+QFrame* Panel() {
+    auto* panel = new QFrame;
+    panel->setFrameShape(QFrame::NoFrame);
+    panel->setAutoFillBackground(true);
+    QPalette colors = panel->palette();
+    colors.setColor(QPalette::Window, PanelColor);
+    panel->setPalette(colors);
+    return panel;
+}
+
+// A box that shows a number; it cannot be typed into.
+QLineEdit* NumberBox(const char* name) {
+    auto* box = new QLineEdit;
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setAlignment(Qt::AlignCenter);
+    box->setFixedWidth(CounterBoxWidth);
+    box->setAccessibleName(QLatin1String(name));
+    return box;
+}
+
+QToolButton* SmallNewButton(const char* picture, const char* name) {
+    auto* button = new QToolButton;
+    button->setIcon(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)));
+    button->setIconSize({SmallIcon, SmallIcon});
+    button->setFixedSize(SmallButtonWidth - PanelGap, SmallButtonHeight);
+    button->setToolTip(QLatin1String(name));
+    button->setAccessibleName(QLatin1String(name));
+    return button;
+}
+
+// Puts the widget over the whole of another one.
+void LayOver(QWidget* over, QWidget* ground) {
+    auto* layout = new QVBoxLayout(ground);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(over);
+}
+
+} // namespace
+
+QWidget* frmMain::BuildLeftPanel() {
+    auto* panel = new QWidget;
+    panel->setFixedWidth(LeftPanelWidth);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, PanelMargin);
+    column->setSpacing(PanelGap);
+    column->addWidget(BuildSmallCalendar());
+    column->addWidget(BuildNewButtons());
+    column->addWidget(BuildTermPanel());
+    column->addWidget(BuildViewMenusPanel());
+    for (QWidget* mode : BuildModePanels()) {
+        column->addWidget(mode);
+    }
+    column->addWidget(BuildCounters());
+    column->addWidget(BuildAlerts());
+    column->addStretch(1);
+    column->addWidget(BuildTimerPanel());
+    return panel;
+}
+
+QWidget* frmMain::BuildSmallCalendar() {
+    PictureBoxCalendar = Panel();
+    auto* grid = new QGridLayout(PictureBoxCalendar);
+    grid->setContentsMargins(2, 2, 2, 2);
+    grid->setSpacing(1);
+
+    auto* head = new QHBoxLayout;
+    picCalMonthDown = Picture("picStashCalMonthLeftUp.svg", {StepperSize, StepperSize});
+    picCalMonthUp = Picture("picStashCalMonthRightUp.svg", {StepperSize, StepperSize});
+    picCalMonthDown->setAccessibleName(QStringLiteral("One month back"));
+    picCalMonthUp->setAccessibleName(QStringLiteral("One month on"));
+    LabelMonth = CentredLabel({Face::Title, CellPoints, true});
+    head->addWidget(picCalMonthDown);
+    head->addWidget(LabelMonth, 1);
+    head->addWidget(picCalMonthUp);
+    grid->addLayout(head, 0, 0, 1, 7);
+
+    for (std::size_t i = 0; i < LabelCalDay.size(); ++i) {
+        LabelCalDay[i] = CentredLabel({Face::Title, CellPoints, false});
+        LabelCalDay[i]->setFixedHeight(HeadHeight);
+        grid->addWidget(LabelCalDay[i], 1, static_cast<int>(i));
+    }
+    for (std::size_t i = 0; i < LabelCalDate.size(); ++i) {
+        LabelCalDate[i] = CentredLabel({Face::Title, CellPoints, false});
+        LabelCalDate[i]->setFixedHeight(CellHeight);
+        grid->addWidget(LabelCalDate[i], 2 + static_cast<int>(i) / 7, static_cast<int>(i) % 7);
+    }
+    LabelCalTileBorder = new QFrame(PictureBoxCalendar);
+    LabelCalTileBorder->setFrameShape(QFrame::Box);
+    LabelCalTileBorder->setAttribute(Qt::WA_TransparentForMouseEvents);
+    LabelCalTileBorder->hide();
+
+    auto* days = new QHBoxLayout;
+    picToday = Picture("picStashTodayUp.svg", {LeftPanelWidth / 2 - 6, TodayHeight});
+    picTomorrow = Picture("picStashTomorrowUp.svg", {LeftPanelWidth / 2 - 6, TodayHeight});
+    LabelToday = CentredLabel({Face::Title, CellPoints, false});
+    LabelToday->setText(QStringLiteral("Today"));
+    LayOver(LabelToday, picToday);
+    LabelTomorrow = CentredLabel({Face::Title, CellPoints, false});
+    LabelTomorrow->setText(QStringLiteral("Tomorrow"));
+    LayOver(LabelTomorrow, picTomorrow);
+    days->addWidget(picToday);
+    days->addWidget(picTomorrow);
+    grid->addLayout(days, 8, 0, 1, 7);
+
+    picLock = new PictureBox(PictureBoxCalendar);
+    picLock->hide();
+    return PictureBoxCalendar;
+}
+
+QWidget* frmMain::BuildNewButtons() {
+    ButtonNewAssignmentSmall = SmallNewButton("ButtonNewAssignmentSmall.svg", "New Assignment...");
+    ButtonNewEventSmall = SmallNewButton("ButtonNewEventSmall.svg", "New Event...");
+    ButtonNewTaskSmall = SmallNewButton("ButtonNewTaskSmall.svg", "New Task...");
+    ButtonNewAssignment = new QPushButton(QStringLiteral("New Assignment..."));
+    ButtonNewEvent = new QPushButton(QStringLiteral("New Event..."));
+    ButtonNewTask = new QPushButton(QStringLiteral("New Task..."));
+
+    auto* panel = new QWidget;
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* small = new QHBoxLayout;
+    small->setSpacing(PanelGap);
+    for (QToolButton* button : {ButtonNewAssignmentSmall, ButtonNewEventSmall, ButtonNewTaskSmall}) {
+        small->addWidget(button);
+    }
+    small->addStretch(1);
+    column->addLayout(small);
+    for (QPushButton* button : {ButtonNewAssignment, ButtonNewEvent, ButtonNewTask}) {
+        button->hide();
+        column->addWidget(button);
+    }
+    return panel;
+}
+
+QWidget* frmMain::BuildTermPanel() {
+    PictureBoxTerm = Panel();
+    auto* column = new QVBoxLayout(PictureBoxTerm);
+    column->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+    column->setSpacing(2);
+    LabelTerm = PlainLabel();
+    QFont bold = LabelTerm->font();
+    bold.setBold(true);
+    LabelTerm->setFont(bold);
+    LabelTerm->setWordWrap(true);
+    LabelDaysLeft = PlainLabel();
+    ButtonSelectTerm = new QPushButton(QStringLiteral("Edit Class Schedule"));
+    column->addWidget(LabelTerm);
+    column->addWidget(LabelDaysLeft);
+    column->addWidget(ButtonSelectTerm);
+    return PictureBoxTerm;
+}
+
+QWidget* frmMain::BuildViewMenusPanel() {
+    PictureBoxViewMenus = Panel();
+    auto* grid = new QGridLayout(PictureBoxViewMenus);
+    grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+    grid->setSpacing(PanelGap);
+    ComboList = new QComboBox;
+    ComboDateRange = new QComboBox;
+    auto* listLabel = PlainLabel(QStringLiteral("List Menu"));
+    auto* rangeLabel = PlainLabel(QStringLiteral("Range Menu"));
+    listLabel->setBuddy(ComboList);
+    rangeLabel->setBuddy(ComboDateRange);
+    grid->addWidget(listLabel, 0, 0);
+    grid->addWidget(ComboList, 0, 1);
+    grid->addWidget(rangeLabel, 1, 0);
+    grid->addWidget(ComboDateRange, 1, 1);
+    grid->setColumnStretch(1, 1);
+    return PictureBoxViewMenus;
+}
+
+std::array<QWidget*, 3> frmMain::BuildModePanels() {
+    const auto titled = [](const char* title) {
+        QFrame* panel = Panel();
+        auto* column = new QVBoxLayout(panel);
+        column->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+        column->addWidget(PlainLabel(QLatin1String(title)));
+        return panel;
+    };
+    PictureBoxStudySessions = titled("Study Sessions");
+    PictureBoxReminders = titled("Today's Reminders");
+    PictureBoxStudyTime = Panel();
+    auto* grid = new QGridLayout(PictureBoxStudyTime);
+    grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+    grid->setSpacing(2);
+    TextBoxMinimum = NumberBox("Minimum");
+    TextBoxSuggested = NumberBox("Suggested");
+    grid->addWidget(PlainLabel(QStringLiteral("Study Time Today")), 0, 0, 1, 2);
+    grid->addWidget(PlainLabel(QStringLiteral("Minimum:")), 1, 0);
+    grid->addWidget(TextBoxMinimum, 1, 1);
+    grid->addWidget(PlainLabel(QStringLiteral("Suggested:")), 2, 0);
+    grid->addWidget(TextBoxSuggested, 2, 1);
+    grid->setColumnStretch(0, 1);
+    return {PictureBoxStudySessions, PictureBoxReminders, PictureBoxStudyTime};
+}
+
+QWidget* frmMain::BuildCounters() {
+    LabelTotalAssignments = PlainLabel();
+    LabelFinishedAssignments = PlainLabel();
+    LabelTimeRemaining = PlainLabel();
+    TextBoxTotalAssignments = NumberBox("Total Assignments");
+    TextBoxFinishedAssignments = NumberBox("Assignments Left");
+    TextBoxTimeRemaining = NumberBox("Study Time Left");
+    TextBoxStudySessions = NumberBox("Study Sessions");
+    TextboxStudyTime = NumberBox("Study Time");
+    TextBoxTotalTasks = NumberBox("Total Tasks");
+    TextBoxFinishedTasks = NumberBox("Tasks Left");
+    TextBoxUndatedTasks = NumberBox("Undated Tasks Left");
+    TextBoxClasses = NumberBox("Classes");
+    TextBoxOtherEvents = NumberBox("Other Events");
+    TextBoxSchedStudy = NumberBox("Study Time");
+    TextboxAssignments = NumberBox("Assignments");
+    TextBoxTasks = NumberBox("Tasks");
+    TextBoxEvents = NumberBox("Events");
+
+    auto* panel = new QWidget;
+    auto* grid = new QGridLayout(panel);
+    grid->setContentsMargins(PanelGap, 0, PanelGap, 0);
+    grid->setSpacing(2);
+    grid->setColumnStretch(0, 1);
+    const std::array<QLabel*, 3> labels{LabelTotalAssignments, LabelFinishedAssignments, LabelTimeRemaining};
+    const std::array<std::vector<QLineEdit*>, 3> boxes{{
+        {TextBoxTotalAssignments, TextBoxStudySessions, TextBoxTotalTasks, TextBoxClasses,
+         TextboxAssignments},
+        {TextBoxFinishedAssignments, TextBoxFinishedTasks, TextBoxOtherEvents, TextBoxTasks},
+        {TextBoxTimeRemaining, TextboxStudyTime, TextBoxUndatedTasks, TextBoxSchedStudy, TextBoxEvents},
+    }};
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        grid->addWidget(labels[i], static_cast<int>(i), 0);
+        for (QLineEdit* box : boxes[i]) {
+            grid->addWidget(box, static_cast<int>(i), 1); // one of them shows at a time
+            box->hide();
+        }
+    }
+    return panel;
+}
+
+QWidget* frmMain::BuildAlerts() {
+    auto* panel = new QWidget;
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(3);
+    for (QPushButton*& button : ButtonAlert) {
+        button = new QPushButton;
+        button->hide();
+        column->addWidget(button);
+    }
+    return panel;
+}
+
+QWidget* frmMain::BuildTimerPanel() {
+    PictureBoxTimer = Panel();
+    auto* grid = new QGridLayout(PictureBoxTimer);
+    grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+    grid->setSpacing(3);
+    picTime = new PictureBox;
+    picTime->setFixedHeight(TimeHeight);
+    picTime->setAccessibleName(QStringLiteral("Study Timer"));
+    ButtonStart = new QPushButton(QStringLiteral("Start"));
+    ButtonReset = new QPushButton(QStringLiteral("Reset"));
+    ButtonSeconds = new QPushButton(QStringLiteral("Seconds"));
+    grid->addWidget(picTime, 0, 0, 1, 3);
+    int place = 0;
+    for (QPushButton* button : {ButtonStart, ButtonReset, ButtonSeconds}) {
+        button->setMinimumWidth(0);
+        grid->addWidget(button, 1, place++);
+    }
+    return PictureBoxTimer;
+}

@@ -1,0 +1,75 @@
+// The dark bar of the modes under the menu bar: a picture and a word for each.
+#include "mainwindow/WindowStyle.h"
+#include "mainwindow/frmMain.h"
+
+#include <QHBoxLayout>
+
+namespace {
+
+constexpr int BarHeight = 40;
+constexpr int PictureSize = 24;
+constexpr int GapBehindMode = 16;
+constexpr int BarMargin = 10;
+constexpr double BarPoints = 9;
+
+PictureBox* BarPicture(const char* picture) {
+    auto* box = new PictureBox;
+    box->setFixedSize(PictureSize, PictureSize);
+    box->setCursor(Qt::PointingHandCursor);
+    box->ShowPicture(QLatin1String(picture));
+    return box;
+}
+
+ClickLabel* BarLabel(const char* text) {
+    auto* label = new ClickLabel;
+    label->setText(QLatin1String(text));
+    label->setFont(ToQFont({Face::Title, BarPoints, false}));
+    label->setCursor(Qt::PointingHandCursor);
+    SetLabelForeColor(label, 0xC0C0C0);
+    return label;
+}
+
+} // namespace
+
+QWidget* frmMain::BuildModeBar() {
+    PictureBarCalendar = BarPicture("picStashCalendarUp.svg");
+    PictureBarHomework = BarPicture("picStashHomeworkUp.svg");
+    PictureBarStudySessions = BarPicture("picStashSessionsUp.svg");
+    PictureBarEvents = BarPicture("picStashEventsUp.svg");
+    PictureBarTasks = BarPicture("picStashTasksUp.svg");
+    PictureBarReminders = BarPicture("picStashRemindersUp.svg");
+    PictureBarWeb = BarPicture("picBarWeb.svg");
+    LabelBarCalendar = BarLabel("Calendar");
+    LabelBarHomework = BarLabel("Homework");
+    LabelBarEvents = BarLabel("Events");
+    LabelBarTasks = BarLabel("Tasks");
+    LabelBarReminders = BarLabel("Reminders");
+    LabelBarWeb = BarLabel("Homework Help");
+
+    auto* bar = new QWidget;
+    bar->setFixedHeight(BarHeight);
+    bar->setAutoFillBackground(true);
+    QPalette colors = bar->palette();
+    colors.setColor(QPalette::Window, BarColor);
+    bar->setPalette(colors);
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(BarMargin, 0, BarMargin, 0);
+    const std::array<std::pair<PictureBox*, ClickLabel*>, 5> modes{{
+        {PictureBarCalendar, LabelBarCalendar},
+        {PictureBarHomework, LabelBarHomework},
+        {PictureBarEvents, LabelBarEvents},
+        {PictureBarTasks, LabelBarTasks},
+        {PictureBarReminders, LabelBarReminders},
+    }};
+    for (const auto& [picture, label] : modes) {
+        row->addWidget(picture);
+        row->addWidget(label);
+        row->addSpacing(GapBehindMode);
+    }
+    row->addWidget(PictureBarStudySessions);
+    PictureBarStudySessions->hide();
+    row->addStretch(1);
+    row->addWidget(PictureBarWeb);
+    row->addWidget(LabelBarWeb);
+    return bar;
+}

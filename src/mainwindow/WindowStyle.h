@@ -1,0 +1,17 @@
+// The look of the main window's surfaces: its colours and measures in one place.
+#pragma once
+
+#include <QColor>
+#include <QSize>
+
+inline constexpr QSize DesignSize{780, 575};
+inline constexpr int LeftPanelWidth = 200; // pixels
+inline constexpr int PanelMargin = 7;
+
+inline constexpr QColor BarColor{0x39, 0x42, 0x5A};
+inline constexpr QColor SurfaceColor{0xF4, 0xF6, 0xF9};
+inline constexpr QColor PanelColor{0xE9, 0xED, 0xF3};
+inline constexpr QColor EdgeColor{0xC5, 0xCC, 0xD8};
+inline constexpr QColor TextColor{0x22, 0x28, 0x35};
+inline constexpr QColor AccentColor{0x2F, 0x6F, 0xB2};
+inline constexpr QColor AlertColor{0xB3, 0x3A, 0x2E};

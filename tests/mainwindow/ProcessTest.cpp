@@ -1,0 +1,179 @@
+// The load, the tray menu and the shutdown, as the main window runs them.
+#include "core/Module1.h"
+#include "support/WindowTest.h"
+
+namespace {
+
+const std::string TwoTerms = R"(<?xml version="1.0" encoding="ISO-8859-1"?>
+<term_data>
+<term>
+  <id>1</id>
+  <name>Fall 2009</name>
+  <start>2009/08/24</start>
+  <end>2009/12/18</end>
+</term>
+<term>
+  <id>2</id>
+  <name>Spring 2010</name>
+  <start>2010/01/11</start>
+  <end>2010/05/14</end>
+</term>
+</term_data>
+)";
+
+class Process : public WindowTest {
+protected:
+    std::string MarkerName() const { return std::to_string(::getpid()) + ".PID"; }
+
+    std::vector<std::string> TrayMenu() { return Script.trayEvents.menuWanted(); }
+
+    std::string Preferences() const { return ReadData("Prefs.ini"); }
+};
+
+} // namespace
+
+TEST_F(Process, LoadPutsTheIconIntoTheTrayWithItsTip) {
+    LoadWindow();
+    EXPECT_EQ(Script.trayTip, "Planovarium Homework System");
+    EXPECT_EQ(window->windowTitle(), "Planovarium Homework System");
+}
+
+TEST_F(Process, LoadMakesTheMarkerAndTheEmptyFiles) {
+    LoadWindow();
+    EXPECT_EQ(std::filesystem::file_size(drive / "Host" / MarkerName()), 0U);
+    for (const char* name : {"terms.xml", "classes.xml", "tasks.xml", "events.xml"}) {
+        EXPECT_TRUE(DataExists(name)) << name;
+    }
+    EXPECT_FALSE(DataExists("assignments_0.xml"));
+}
+
+TEST_F(Process, LoadSetsEveryFirstOpenFlag) {
+    for (bool* flag :
+         {&AssignmentDBFirstOpen, &GPADBFirstOpen, &RemindersDBFirstOpen, &ColorsNameDBFirstOpen}) {
+        *flag = false;
+    }
+    LoadWindow();
+    EXPECT_TRUE(AssignmentDBFirstOpen && SelectCourseScheduleDBFirstOpen && CourseScheduleDBFirstOpen &&
+                TaskDBFirstOpen && RecurrenceDBFirstOpen && EventDBFirstOpen && ColorsDBFirstOpen &&
+                ColorsNameDBFirstOpen && AboutDBFirstOpen && AlertDBFirstOpen && RemindersDBFirstOpen &&
+                GPADBFirstOpen);
+}
+
+TEST_F(Process, LoadActivatesTheTermOfThePreferences) {
+    WriteData("terms.xml", TwoTerms);
+    WriteData("Prefs.ini", "ActiveTerm=Fall 2009\n");
+    LoadWindow();
+    EXPECT_EQ(ActiveTermID, 1);
+    EXPECT_EQ(window->LabelTerm->text(), "Fall 2009");
+    EXPECT_EQ(window->LabelDaysLeft->text(), "65 days left in the term");
+    EXPECT_TRUE(DataExists("assignments_1.xml"));
+    EXPECT_FALSE(DataExists("assignments_2.xml"));
+}
+
+TEST_F(Process, LoadOfATermThatIsGoneActivatesTheLastOne) {
+    WriteData("terms.xml", TwoTerms);
+    WriteData("Prefs.ini", "ActiveTerm=Summer 2008\n");
+    LoadWindow();
+    EXPECT_EQ(ActiveTermName, "Spring 2010");
+}
+
+TEST_F(Process, LoadWithoutTermsSelectsNone) {
+    LoadWindow();
+    EXPECT_EQ(window->LabelTerm->text(), "No Term Selected");
+    EXPECT_EQ(window->LabelDaysLeft->text(), "");
+}
+
+TEST_F(Process, DaysLeftAreCountedToTheEndOfTheTerm) {
+    WriteData("terms.xml", TwoTerms);
+    WriteData("Prefs.ini", "ActiveTerm=Fall 2009\n");
+    SetClock(2009, 12, 17);
+    LoadWindow();
+    EXPECT_EQ(window->LabelDaysLeft->text(), "1 day left in the term");
+    for (const int day : {18, 19}) {
+        SetClock(2009, 12, day);
+        window->SetActiveTerm("Fall 2009");
+        EXPECT_EQ(window->LabelDaysLeft->text(), "0 Days Left in Term");
+    }
+}
+
+TEST_F(Process, TrayMenuOffersTheWindowOnlyWhileItIsHidden) {
+    LoadWindow();
+    EXPECT_EQ(TrayMenu(), (std::vector<std::string>{"Show Popup Reminders...", "-", "Shutdown Planovarium"}));
+    window->HideWindows();
+    EXPECT_EQ(TrayMenu(), (std::vector<std::string>{"Show Popup Reminders...", "-", "Open Planovarium...",
+                                                    "Shutdown Planovarium"}));
+    Script.trayEvents.itemChosen(2);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(Process, TrayDoubleClickShowsTheHiddenWindow) {
+    LoadWindow();
+    window->HideWindows();
+    Script.trayEvents.doubleClicked();
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(Process, ASecondInstanceBringsTheWindowForward) {
+    LoadWindow();
+    window->HideWindows();
+    EXPECT_TRUE(Script.receiveLink("Take Control"));
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(Process, ASecondInstanceIsAcceptedWhateverItSays) {
+    LoadWindow();
+    EXPECT_TRUE(Script.receiveLink("anything"));
+}
+
+TEST_F(Process, ExitOnlyHidesTheWindow) {
+    LoadWindow();
+    window->MenuExit->trigger();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(ShuttingDown);
+    EXPECT_TRUE(std::filesystem::exists(drive / "Host" / MarkerName()));
+}
+
+TEST_F(Process, ShutdownWritesThePreferencesAndTakesMarkerAndIconAway) {
+    WriteData("terms.xml", TwoTerms);
+    WriteData("Prefs.ini", "AutoStart=Min\nActiveTerm=Fall 2009\nStartDayofWeek=Saturday\nCurrentTip=7\n");
+    LoadWindow();
+    window->Unload();
+    EXPECT_FALSE(std::filesystem::exists(drive / "Host" / MarkerName()));
+    EXPECT_EQ(Script.trayTip, "");
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_NE(Preferences().find("\nActiveTerm=Fall 2009\nStartDayofWeek=Saturday\nShowTipsAtStartup=Yes\n"
+                                 "AutoStart=Min\nCurrentTip=7\n"),
+              std::string::npos);
+}
+
+TEST_F(Process, ShutdownRotatesOnlyWhatWasWrittenInThisRun) {
+    WriteData("terms.xml", TwoTerms);
+    LoadWindow();
+    FileWrittenFlags.tasks = true;
+    window->Unload();
+    EXPECT_TRUE(std::filesystem::exists(data / "Backup" / "tasks_backup1.xml"));
+    EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "terms_backup1.xml"));
+}
+
+TEST_F(Process, ShutdownThatCannotWriteThePreferencesLeavesTheRestUndone) {
+    LoadWindow();
+    FileWrittenFlags.tasks = true;
+    std::filesystem::create_directory(data / "Prefs.ini"); // a folder of that name cannot be written
+    window->Unload();
+    EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "tasks_backup1.xml"));
+    EXPECT_TRUE(Script.boxes.empty());
+}
+
+TEST_F(Process, ShutdownDuringALoadStopsItThere) {
+    WriteData("terms.xml", "line 1\n<wrong>\n");
+    WriteData("Prefs.ini", "ActiveTerm=Fall 2009\n");
+    window = std::make_unique<frmMain>();
+    MainWindow = window.get();
+    Script.whileBoxIsOpen = [this](const ShownBox& box) {
+        EXPECT_EQ(box.title, "Planovarium - File Read Error");
+        window->Unload();
+    };
+    EXPECT_FALSE(window->LoadPlanner());
+    EXPECT_FALSE(DataExists("events.xml"));
+    EXPECT_EQ(Preferences(), "ActiveTerm=Fall 2009\n");
+}

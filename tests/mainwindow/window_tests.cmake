@@ -1,0 +1,3 @@
+target_sources(window_tests PRIVATE
+  mainwindow/ProcessTest.cpp
+)

@@ -1,0 +1,121 @@
+// A window test: the real main window over the scripted platform, with a smart drive in a folder of its own.
+#include "support/WindowTest.h"
+
+#include "core/Module1.h"
+#include "core/RowLists.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+constexpr int LimitMilliseconds = 5000;
+
+void SetVariable(const char* name, const std::filesystem::path& value) {
+    qputenv(name, QByteArray::fromStdString(value.string()));
+}
+
+void ResetStore() {
+    Store = {};
+    ActiveClasses = {};
+    ActiveTermName.clear();
+    ActiveTermID = 0;
+    TypeTable = {};
+    FileWrittenFlags = {};
+    for (int* counter : {&NextTermID, &NextClassID, &NextAssignmentID, &NextTaskID, &NextEventID}) {
+        *counter = 1;
+    }
+    SetFirstOpenFlags();
+    StartupComplete = false;
+    CalledFromReminders = false;
+    ShuttingDown = false;
+}
+
+} // namespace
+
+void WindowTest::SetUp() {
+    ResetScript();
+    ResetStore();
+    drive = folder.path().toStdString();
+    data = drive / "Documents" / "Planovarium" / "Data";
+    for (const char* name : {"Host", "Documents", "Planovarium"}) {
+        std::filesystem::create_directories(drive / name);
+    }
+    SetVariable("U3_DEVICE_PATH", drive);
+    SetVariable("U3_DEVICE_EXEC_PATH", drive / "Planovarium");
+    SetVariable("U3_DEVICE_DOCUMENT_PATH", drive / "Documents");
+    SetVariable("U3_HOST_EXEC_PATH", drive / "Host");
+}
+
+void WindowTest::TearDown() {
+    window.reset();
+    MainWindow = nullptr;
+    std::filesystem::current_path(std::filesystem::temp_directory_path()); // off the drive that goes now
+}
+
+void WindowTest::WriteData(const std::string& name, const std::string& text) {
+    std::filesystem::create_directories(data);
+    std::string bytes;
+    for (const char character : text) {
+        bytes += character == '\n' ? "\r\n" : std::string(1, character);
+    }
+    std::ofstream(data / name, std::ios::binary) << bytes;
+}
+
+std::string WindowTest::ReadData(const std::string& name) const {
+    std::ifstream file(data / name, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    std::erase(bytes, '\r');
+    return bytes;
+}
+
+bool WindowTest::DataExists(const std::string& name) const {
+    return std::filesystem::exists(data / name);
+}
+
+void WindowTest::LoadWindow() {
+    window = std::make_unique<frmMain>();
+    MainWindow = window.get();
+    ASSERT_TRUE(window->LoadPlanner());
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), LimitMilliseconds));
+}
+
+bool WaitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, LimitMilliseconds);
+}
+
+void WhenDialogOpens(const std::function<void(QWidget*)>& action) {
+    auto* poll = new QTimer(qApp);
+    QElapsedTimer waited;
+    waited.start();
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, waited, action] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr && waited.elapsed() < LimitMilliseconds) {
+            return;
+        }
+        poll->stop();
+        poll->deleteLater();
+        if (dialog == nullptr) {
+            ADD_FAILURE() << "No dialog has opened";
+            return;
+        }
+        dialog->activateWindow();
+        action(dialog);
+    });
+    poll->start(1);
+}
+
+QStringList DrawnTexts(const PictureBox& surface) {
+    QStringList texts;
+    for (const DrawnItem& item : surface.Drawn()) {
+        if (item.kind == DrawnKind::Text) {
+            texts.append(item.text);
+        }
+    }
+    return texts;
+}
