@@ -2,14 +2,14 @@
 // shows it at the screen's real resolution; what it keeps can be read back.
 #pragma once
 
+#include "platform/Units.h"
+
 #include <QColor>
 #include <QFont>
 #include <QString>
 #include <QWidget>
 
 #include <vector>
-
-inline constexpr int UnitsPerPixel = 15;
 
 // A colour 0xBBGGRR as the store and the program's constants have it.
 QColor ToQColor(int bgr);
