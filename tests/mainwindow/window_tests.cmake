@@ -1,3 +1,4 @@
 target_sources(window_tests PRIVATE
+  mainwindow/HelpTopicsTest.cpp
   mainwindow/ProcessTest.cpp
 )
