@@ -2,6 +2,7 @@
 #include "core/Application.h"
 #include "core/Module1.h"
 #include "core/frmSplash.h"
+#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/InstanceLink.h"
 #include "platform/MessageBoxes.h"
@@ -76,6 +77,7 @@ int Run(const std::string& commandLine) {
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
+    ApplyProgramStyle();
     SetApplicationProperties();
     try {
         return Run(CommandLine(argc, argv));

@@ -15,14 +15,6 @@ constexpr int StatusHeight = 24;
 constexpr double TopPoints = 11;
 constexpr double InfoPoints = 9;
 
-QPalette SurfacePalette() {
-    QPalette colors;
-    colors.setColor(QPalette::Window, SurfaceColor);
-    colors.setColor(QPalette::WindowText, TextColor);
-    colors.setColor(QPalette::Highlight, AccentColor);
-    return colors;
-}
-
 QLabel* TitleLabel(double points, bool bold, Qt::Alignment alignment) {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
@@ -45,7 +37,6 @@ frmMain* MainWindow = nullptr;
 
 frmMain::frmMain() {
     setWindowTitle(QStringLiteral("Planovarium Homework System"));
-    setPalette(SurfacePalette());
     resize(DesignSize);
     setMinimumSize(DesignSize);
 

@@ -8,6 +8,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/Commands.cpp
   mainwindow/DaySchedule.cpp
   mainwindow/EventFlow.cpp
+  mainwindow/FirstOpen.cpp
   mainwindow/GridClicks.cpp
   mainwindow/GridKeys.cpp
   mainwindow/GridScroll.cpp
@@ -23,11 +24,13 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/PreferencesFlow.cpp
   mainwindow/ProcessMarker.cpp
   mainwindow/RefreshView.cpp
+  mainwindow/ShowBox.cpp
   mainwindow/StatusPanels.cpp
   mainwindow/StudyTimer.cpp
   mainwindow/TaskFlow.cpp
   mainwindow/TermFlow.cpp
   mainwindow/Unload.cpp
   mainwindow/ViewMenus.cpp
+  mainwindow/WindowStyle.cpp
   mainwindow/frmMain.h
 )

@@ -1,4 +1,6 @@
 // The entry of the window tests: the offscreen platform, and no look or language of the user's.
+#include "mainwindow/WindowStyle.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@ int main(int argc, char** argv) {
     }
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
+    ApplyProgramStyle();
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
