@@ -25,15 +25,7 @@ void frmMain::ShowEventDayMenu() {
 }
 
 void frmMain::ShowTrayMenu() {
-    mnuPopupItems.clear();
-    if (ModalDialogIsOpen()) {
-        return;
-    }
-    mnuPopupItems = {{"Show Popup Reminders...", "tray reminders"}, {"-", ""}};
-    if (!isVisible() || isMinimized()) {
-        mnuPopupItems.push_back({"Open Planovarium...", "tray view"});
-    }
-    mnuPopupItems.push_back({"Shutdown Planovarium", "tray shutdown"});
+    mnuPopupItems = ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(isVisible() && !isMinimized());
 }
 
 namespace {

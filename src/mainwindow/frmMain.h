@@ -3,6 +3,7 @@
 #pragma once
 
 #include "mainwindow/Mode.h"
+#include "mainwindow/PopupCaptions.h"
 #include "planner/ListFilter.h"
 #include "platform/ClickLabel.h"
 #include "platform/Clock.h"
@@ -20,14 +21,6 @@
 
 #include <array>
 #include <string>
-#include <vector>
-
-// An item of a context menu or of the tray menu: a caption and the two words of its command. A caption of "-"
-// is a separator.
-struct PopupItem {
-    std::string caption;
-    std::string tag;
-};
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -234,7 +227,7 @@ public:
 
     // --- PopupMenus.cpp ---
     QMenu* mnuPopup = nullptr;
-    std::vector<PopupItem> mnuPopupItems;
+    PopupItems mnuPopupItems;
     void ShowCalendarMenu();
     void ShowHomeworkDayMenu();
     void ShowHomeworkListMenu();

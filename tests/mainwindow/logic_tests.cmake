@@ -1,0 +1,5 @@
+target_sources(logic_tests PRIVATE
+  mainwindow/DayLayoutTest.cpp
+  mainwindow/GridLayoutTest.cpp
+  mainwindow/PopupCaptionsTest.cpp
+)
