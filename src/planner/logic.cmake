@@ -10,10 +10,13 @@ target_sources(planovarium_logic PRIVATE
   planner/EventFilter.cpp
   planner/EventMarks.cpp
   planner/EventOccursOn.cpp
+  planner/EventSelection.cpp
   planner/EventWalk.cpp
   planner/Grades.cpp
+  planner/HomeworkSelection.cpp
   planner/RecurrenceEntry.cpp
   planner/ReminderEntry.cpp
+  planner/ReminderSelection.cpp
   planner/RowLook.cpp
   planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
@@ -21,6 +24,7 @@ target_sources(planovarium_logic PRIVATE
   planner/StudyTimeAlert.cpp
   planner/StudyTimeByDay.cpp
   planner/StudyTimeToday.cpp
+  planner/TaskSelection.cpp
   planner/TermEntry.cpp
   planner/TypeEntry.cpp
 )

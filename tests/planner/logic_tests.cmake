@@ -10,19 +10,23 @@ target_sources(logic_tests PRIVATE
   planner/EventFilterTest.cpp
   planner/EventMarksTest.cpp
   planner/EventOccursOnTest.cpp
+  planner/EventSelectionTest.cpp
   planner/EventWalkTest.cpp
   planner/GPATableTest.cpp
   planner/GradesTest.cpp
+  planner/HomeworkSelectionTest.cpp
   planner/RecurrenceEntryTest.cpp
   planner/RecurrenceOracle.cpp
   planner/RecurrenceOracleTest.cpp
   planner/ReminderEntryTest.cpp
+  planner/ReminderSelectionTest.cpp
   planner/RowLookTest.cpp
   planner/SeriesEditsTest.cpp
   planner/StudyBalanceTest.cpp
   planner/StudyTimeAlertTest.cpp
   planner/StudyTimeByDayTest.cpp
   planner/StudyTimeTodayTest.cpp
+  planner/TaskSelectionTest.cpp
   planner/TermEntryTest.cpp
   planner/TypeEntryTest.cpp
 )
