@@ -18,6 +18,8 @@ target_sources(planovarium_logic PRIVATE
   planner/ReminderEntry.cpp
   planner/ReminderSelection.cpp
   planner/RowLook.cpp
+  planner/RowOrder.cpp
+  planner/RowSorts.cpp
   planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
   planner/StudyLog.cpp

@@ -11,6 +11,7 @@ target_sources(logic_tests PRIVATE
   planner/EventMarksTest.cpp
   planner/EventOccursOnTest.cpp
   planner/EventSelectionTest.cpp
+  planner/EventSortsTest.cpp
   planner/EventWalkTest.cpp
   planner/GPATableTest.cpp
   planner/GradesTest.cpp
@@ -21,7 +22,10 @@ target_sources(logic_tests PRIVATE
   planner/ReminderEntryTest.cpp
   planner/ReminderSelectionTest.cpp
   planner/RowLookTest.cpp
+  planner/RowSortsPropertyTest.cpp
+  planner/RowSortsTest.cpp
   planner/SeriesEditsTest.cpp
+  planner/SortedRows.cpp
   planner/StudyBalanceTest.cpp
   planner/StudyTimeAlertTest.cpp
   planner/StudyTimeByDayTest.cpp
