@@ -1,4 +1,5 @@
 target_sources(planovarium_logic PRIVATE
+  planner/AdvanceEventReminder.cpp
   planner/AlertMessage.cpp
   planner/AssignmentEntry.cpp
   planner/ClassLink.cpp
@@ -15,7 +16,10 @@ target_sources(planovarium_logic PRIVATE
   planner/Grades.cpp
   planner/HomeworkSelection.cpp
   planner/RecurrenceEntry.cpp
+  planner/ReminderActions.cpp
+  planner/ReminderEngine.cpp
   planner/ReminderEntry.cpp
+  planner/ReminderPhrases.cpp
   planner/ReminderSelection.cpp
   planner/RowLook.cpp
   planner/RowOrder.cpp

@@ -1,4 +1,5 @@
 target_sources(logic_tests PRIVATE
+  planner/AdvanceEventReminderTest.cpp
   planner/AlertMessageTest.cpp
   planner/AssignmentEntryTest.cpp
   planner/ClassLinkTest.cpp
@@ -19,7 +20,11 @@ target_sources(logic_tests PRIVATE
   planner/RecurrenceEntryTest.cpp
   planner/RecurrenceOracle.cpp
   planner/RecurrenceOracleTest.cpp
+  planner/ReminderActionsTest.cpp
+  planner/ReminderEngineTest.cpp
   planner/ReminderEntryTest.cpp
+  planner/ReminderEventsTest.cpp
+  planner/ReminderPhrasesTest.cpp
   planner/ReminderSelectionTest.cpp
   planner/RowLookTest.cpp
   planner/RowSortsPropertyTest.cpp
