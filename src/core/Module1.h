@@ -10,7 +10,8 @@
 #include <string>
 #include <string_view>
 
-// --- The store -------------------------------------------------------------------------------------------------
+// --- The store
+// -------------------------------------------------------------------------------------------------
 
 struct PlannerStore {
     TermLists Term;
@@ -27,7 +28,8 @@ extern TypeTableLists TypeTable;
 // The next id of each kind, from 1 on; rebuilt by each read of the kind's file.
 extern int NextTermID, NextClassID, NextAssignmentID, NextTaskID, NextEventID;
 
-// --- The active term -------------------------------------------------------------------------------------------
+// --- The active term
+// -------------------------------------------------------------------------------------------
 
 extern std::string ActiveTermName; // empty for none
 extern int ActiveTermID;           // 0 for none
@@ -40,8 +42,8 @@ struct ActiveClassLists {
 
 extern ActiveClassLists ActiveClasses;
 
-// Makes the last term of that name the active one; where there is none, the last term that is not deleted; where
-// there is none at all, no term. The assignments of the term left are dropped from the store.
+// Makes the last term of that name the active one; where there is none, the last term that is not deleted;
+// where there is none at all, no term. The assignments of the term left are dropped from the store.
 void ChooseActiveTerm(std::string_view name);
 
 // True when a term is active whose assignments may be read.
@@ -53,7 +55,8 @@ void SetupActiveClasses();
 // Replaces the assignment lists by empty ones.
 void ResetAssignmentLists();
 
-// --- Folders and files -----------------------------------------------------------------------------------------
+// --- Folders and files
+// -----------------------------------------------------------------------------------------
 
 extern std::filesystem::path DocumentFolder, DataFolder, BackupFolder, HelpFile;
 
@@ -68,12 +71,13 @@ struct FileFlags {
 
 extern FileFlags FileWrittenFlags;
 
-// --- The run ---------------------------------------------------------------------------------------------------
+// --- The run
+// ---------------------------------------------------------------------------------------------------
 
 // True until a dialog has opened for the first time in this run, when it is placed beside the main window.
-extern bool AssignmentDBFirstOpen, SelectCourseScheduleDBFirstOpen, CourseScheduleDBFirstOpen, TaskDBFirstOpen,
-    RecurrenceDBFirstOpen, EventDBFirstOpen, ColorsDBFirstOpen, ColorsNameDBFirstOpen, AboutDBFirstOpen,
-    AlertDBFirstOpen, RemindersDBFirstOpen, GPADBFirstOpen;
+extern bool AssignmentDBFirstOpen, SelectCourseScheduleDBFirstOpen, CourseScheduleDBFirstOpen,
+    TaskDBFirstOpen, RecurrenceDBFirstOpen, EventDBFirstOpen, ColorsDBFirstOpen, ColorsNameDBFirstOpen,
+    AboutDBFirstOpen, AlertDBFirstOpen, RemindersDBFirstOpen, GPADBFirstOpen;
 
 // Sets all of them true.
 void SetFirstOpenFlags();

@@ -47,8 +47,8 @@ inline constexpr std::array<Field<ClassLists>, 7> ClassFields{{
 }};
 
 struct AssignmentLists {
-    TextList id, class_, date, type, priority, est_time, time_left, percent_complete, desc, done, score, total,
-        grade, reminder, reminderdate, remindertime, reminderalarm, reminderlist, notes;
+    TextList id, class_, date, type, priority, est_time, time_left, percent_complete, desc, done, score,
+        total, grade, reminder, reminderdate, remindertime, reminderalarm, reminderlist, notes;
 };
 
 inline constexpr std::array<Field<AssignmentLists>, 19> AssignmentFields{{
@@ -96,9 +96,9 @@ inline constexpr std::array<Field<TaskLists>, 14> TaskFields{{
 }};
 
 struct EventLists {
-    TextList id, date, time, duration, desc, type, recurrence, exceptions, parent_id, same_date, repeat_number,
-        repeat_day, repeat_daily, end, end_date, reminder, reminder_time, reminder_alarm, reminder_list,
-        reminder_currentday, reminder_nextday, reminder_nextalarm, notes;
+    TextList id, date, time, duration, desc, type, recurrence, exceptions, parent_id, same_date,
+        repeat_number, repeat_day, repeat_daily, end, end_date, reminder, reminder_time, reminder_alarm,
+        reminder_list, reminder_currentday, reminder_nextday, reminder_nextalarm, notes;
 };
 
 inline constexpr std::array<Field<EventLists>, 23> EventFields{{

@@ -1,5 +1,5 @@
-// The row lists: what the list, the day schedule and the menus show, one entry a row. They point into the store
-// by position, are rebuilt from nothing by each selection, and belong to Module1 like the store itself.
+// The row lists: what the list, the day schedule and the menus show, one entry a row. They point into the
+// store by position, are rebuilt from nothing by each selection, and belong to Module1 like the store itself.
 // Colours are 0xBBGGRR.
 #pragma once
 
@@ -10,7 +10,7 @@
 extern NumberList HomeworkRows; // position of the assignment
 extern TextList RowClass;       // name of its class
 extern NumberList RowForeColor, RowBackColor;
-extern TextList RowTimeLeft; // left-over time as "HH:MM"
+extern TextList RowTimeLeft;                  // left-over time as "HH:MM"
 extern NumberList StudyRowTime, StudyRowDate; // position in the log of study sessions
 
 // Tasks.
@@ -26,8 +26,9 @@ extern TextList EventRowType;
 extern NumberList EventBoxLeft, EventBoxTop, EventBoxWidth, EventBoxHeight, EventBoxColumn;
 
 // Reminders.
-extern NumberList ReminderRows;                                                  // position in the source's lists
-extern TextList ReminderRowKind, ReminderRowClass, ReminderRowType, ReminderRowText; // kind: "Homework", "Task", "Event"
+extern NumberList ReminderRows; // position in the source's lists
+extern TextList ReminderRowKind, ReminderRowClass, ReminderRowType,
+    ReminderRowText;               // kind: "Homework", "Task", "Event"
 extern NumberList ReminderRowDays; // whole days to the item
 extern List<Date> ReminderRowDate;
 extern NumberList ReminderRowForeColor, ReminderRowBackColor;

@@ -27,9 +27,7 @@ struct List {
     }
 
     // Takes the entry out; all entries behind it move up by one.
-    void Remove(int position) {
-        values.erase(values.begin() + static_cast<std::ptrdiff_t>(Index(position)));
-    }
+    void Remove(int position) { values.erase(values.begin() + static_cast<std::ptrdiff_t>(Index(position))); }
 
     // What an insertion behind the position and a removal at it come to.
     void Replace(int position, Value value) { values[Index(position)] = std::move(value); }
@@ -44,6 +42,7 @@ struct List {
     }
 
     auto begin() const { return values.begin(); }
+
     auto end() const { return values.end(); }
 
     friend bool operator==(const List&, const List&) = default;

@@ -1,0 +1,3 @@
+target_sources(planovarium_logic PRIVATE
+  mainwindow/TermStatus.cpp
+)

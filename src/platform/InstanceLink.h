@@ -1,11 +1,13 @@
-// One running instance a user: who is first, and the conversation by which a second start asks it to come forward.
+// One running instance a user: who is first, and the conversation by which a second start asks it to come
+// forward.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <string_view>
 
-// True when this process is the first instance, and stays so until its end. What a dead process left is taken over.
+// True when this process is the first instance, and stays so until its end. What a dead process left is taken
+// over.
 bool ClaimFirstInstance();
 
 enum class LinkResult {

@@ -7,8 +7,8 @@ enum class Buttons { Ok, YesNo, YesNoCancel };
 enum class Icon { None, Information, Exclamation };
 enum class Answer { Ok, Yes, No, Cancel };
 
-// Shows the box and gives the button that closed it; closing it by its frame is Cancel, or No where there is no
-// Cancel, or Ok where there is neither.
+// Shows the box and gives the button that closed it; closing it by its frame is Cancel, or No where there is
+// no Cancel, or Ok where there is neither.
 Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title = "Planovarium");
 
 // Shows the text of a run-time error that nothing handled, under the title "Planovarium".

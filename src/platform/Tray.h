@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-// What the icon asks of the program. The menu is asked for each time it is about to show; a caption of "-" is a
-// separator, and an empty menu shows nothing.
+// What the icon asks of the program. The menu is asked for each time it is about to show; a caption of "-" is
+// a separator, and an empty menu shows nothing.
 struct TrayEvents {
     std::function<void()> doubleClicked;
     std::function<std::vector<std::string>()> menuWanted;

@@ -1,4 +1,5 @@
-// The platform of the tests: a clock that they set, message boxes that answer from a queue and are remembered.
+// The platform of the tests: a clock that they set, message boxes that answer from a queue and are
+// remembered.
 #include "support/ScriptedPlatform.h"
 
 #include "platform/InstanceLink.h"
@@ -156,7 +157,8 @@ std::filesystem::path StartupFolder() {
     return std::filesystem::temp_directory_path() / "planovarium-startup";
 }
 
-void OnTermination(std::function<void()>) {}
+void OnTermination(std::function<void()>) {
+}
 
 bool SyncToDevice(std::FILE* file) {
     return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;

@@ -1,4 +1,5 @@
-// The platform of the tests: a clock that they set, message boxes that answer from a queue and are remembered.
+// The platform of the tests: a clock that they set, message boxes that answer from a queue and are
+// remembered.
 #pragma once
 
 #include "platform/Clock.h"
@@ -29,8 +30,8 @@ struct StartedProcess {
 struct ScriptedPlatform {
     Moment now{};
     DateOrder dateOrder = DateOrder::MonthDayYear;
-    std::vector<ShownBox> boxes;        // every box shown, in order
-    std::deque<Answer> answers;         // given to the next boxes; a box without one answers Ok, or No to a question
+    std::vector<ShownBox> boxes; // every box shown, in order
+    std::deque<Answer> answers;  // given to the next boxes; a box without one answers Ok, or No to a question
     std::function<void(const ShownBox&)> whileBoxIsOpen; // runs while a box is on the screen
     std::vector<std::string> fatalErrors;
     std::vector<std::string> opened; // addresses handed to the shell

@@ -1,0 +1,85 @@
+// The entry: one instance a user, no start outside the smart drive, the splash while the planner loads.
+#include "core/Application.h"
+#include "core/Module1.h"
+#include "core/frmSplash.h"
+#include "mainwindow/frmMain.h"
+#include "platform/InstanceLink.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Process.h"
+
+#include <QIcon>
+#include <QSettings>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <string>
+
+namespace {
+
+// What the smart drive's launcher sets; without any of them there is no drive to work on.
+constexpr std::array<const char*, 4> DriveVariables{"U3_HOST_EXEC_PATH", "U3_DEVICE_PATH",
+                                                    "U3_DEVICE_DOCUMENT_PATH", "U3_DEVICE_EXEC_PATH"};
+
+bool StartedFromDrive() {
+    return std::ranges::none_of(DriveVariables,
+                                [](const char* name) { return EnvironmentValue(name).empty(); });
+}
+
+// The toolkit's dialogs keep their own settings in the host's scratch folder, not in the user's.
+void RedirectToolkitSettings() {
+    const QString scratch = QString::fromStdString(EnvironmentValue("U3_HOST_EXEC_PATH"));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, scratch);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch);
+}
+
+void SetApplicationProperties() {
+    Application::setApplicationName(QStringLiteral("Planovarium"));
+    Application::setApplicationVersion(QStringLiteral(PLANOVARIUM_VERSION));
+    Application::setDesktopFileName(QStringLiteral("planovarium"));
+    Application::setQuitOnLastWindowClosed(false);
+    Application::setWindowIcon(QIcon(QStringLiteral(":/icons/planovarium.svg")));
+}
+
+// All that stands behind the program's name on the command line, joined by blanks.
+std::string CommandLine(int argc, char** argv) {
+    std::string line;
+    for (int i = 1; i < argc; ++i) {
+        line += (i > 1 ? " " : "") + std::string(argv[i]);
+    }
+    return line;
+}
+
+int Run(const std::string& commandLine) {
+    frmSplash splash;
+    splash.PreviousFound = !ClaimFirstInstance();
+    if (!splash.PreviousFound && !StartedFromDrive()) {
+        MsgBox("Launch Planovarium from your u3 Smart Drive.", Buttons::Ok, Icon::None, "Planovarium");
+        return 0;
+    }
+    if (!splash.LoadSplash()) {
+        return 0;
+    }
+    RedirectToolkitSettings();
+    const auto window = std::make_unique<frmMain>();
+    MainWindow = window.get();
+    const bool loaded = window->LoadPlanner();
+    splash.close();
+    if (!loaded) {
+        return 0;
+    }
+    window->ShowAtStart(commandLine);
+    return Application::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    SetApplicationProperties();
+    try {
+        return Run(CommandLine(argc, argv));
+    } catch (const std::exception& error) {
+        Application::EndOnError(error.what());
+    }
+}

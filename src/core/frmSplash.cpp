@@ -1,0 +1,65 @@
+// frmSplash, the picture on the screen while the planner loads; a second instance hands over to the first
+// with it.
+#include "core/frmSplash.h"
+
+#include "platform/InstanceLink.h"
+#include "platform/MessageBoxes.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPainter>
+#include <QScreen>
+
+namespace {
+
+constexpr QSize SplashSize{420, 220};
+constexpr QRect IconPlace{40, 60, 96, 96};
+constexpr QRect NamePlace{160, 70, 240, 44};
+constexpr QRect TitlePlace{160, 116, 240, 30};
+constexpr QColor Ground{0x39, 0x42, 0x5A};
+constexpr QColor Name{0xFF, 0xFF, 0xFF};
+constexpr QColor Subtitle{0xC6, 0xD2, 0xE4};
+
+QFont SplashFont(double points, bool bold) {
+    QFont font(QStringLiteral("Verdana"));
+    font.setPointSizeF(points);
+    font.setBold(bold);
+    return font;
+}
+
+} // namespace
+
+frmSplash::frmSplash() : QWidget(nullptr, Qt::SplashScreen) {
+    setFixedSize(SplashSize);
+    setWindowTitle(QStringLiteral("Planovarium starts"));
+    move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
+}
+
+bool frmSplash::LoadSplash() {
+    if (PreviousFound) {
+        HandOver();
+        return false;
+    }
+    show();
+    repaint();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return true;
+}
+
+void frmSplash::HandOver() {
+    if (SendLinkCommand("Planovarium", "Transfer Control", "Take Control") == LinkResult::Failed) {
+        MsgBox("Planovarium is already running.", Buttons::Ok, Icon::None, "Planovarium");
+    }
+}
+
+void frmSplash::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Ground);
+    QIcon(QStringLiteral(":/icons/planovarium.svg")).paint(&painter, IconPlace);
+    painter.setPen(Name);
+    painter.setFont(SplashFont(20, true));
+    painter.drawText(NamePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Planovarium"));
+    painter.setPen(Subtitle);
+    painter.setFont(SplashFont(11, false));
+    painter.drawText(TitlePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Homework System"));
+}

@@ -1,0 +1,58 @@
+// The load of the main window. The order of its steps is required: later ones read what earlier ones set.
+#include "core/Module1.h"
+#include "mainwindow/ProcessMarker.h"
+#include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
+#include "platform/InstanceLink.h"
+#include "platform/Process.h"
+#include "platform/Tray.h"
+
+namespace {
+
+void PutIntoTray(frmMain& window) {
+    AddTrayIcon("Planovarium Homework System",
+                {.doubleClicked = [&window] { window.TrayDoubleClick(); },
+                 .menuWanted =
+                     [&window] {
+                         window.ShowTrayMenu();
+                         std::vector<std::string> captions;
+                         for (const PopupItem& item : window.mnuPopupItems) {
+                             captions.push_back(item.caption);
+                         }
+                         return captions;
+                     },
+                 .itemChosen = [&window](int index) { window.RunPopupCommand(index); }});
+}
+
+// Reads the data of all terms. A failure shows its box, and the load goes on with what was read, unless a
+// shutdown came while the box was open: then nothing more is read or made.
+void ReadRecordFiles() {
+    for (void (*read)() : {&ReadTermsAndClasses, &ReadTasks, &ReadEvents}) {
+        if (!ShuttingDown) {
+            read();
+        }
+    }
+}
+
+} // namespace
+
+bool frmMain::LoadPlanner() {
+    PutIntoTray(*this);
+    OnTermination([this] { Unload(); });
+    ReceiveLinkCommands("Planovarium", "Transfer Control",
+                        [this](const std::string& /*any command is accepted*/) { return LinkExecute(); });
+    FileWrittenFlags = {};
+    MakeProcessMarker();
+    if (!SetupFolders()) {
+        return false;
+    }
+    ReadRecordFiles();
+    SetFirstOpenFlags();
+    StartupComplete = true;
+    if (ShuttingDown) {
+        return false;
+    }
+    SetDefaultTypeTable();
+    SetActiveTerm(ReadPreferences());
+    return !ShuttingDown;
+}

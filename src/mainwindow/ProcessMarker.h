@@ -1,0 +1,8 @@
+// The marker of the running process: an empty file named for its number in the host's scratch folder.
+#pragma once
+
+// Makes the marker; raises the run-time error when it cannot.
+void MakeProcessMarker();
+
+// Deletes the marker where it exists.
+void DeleteProcessMarker();

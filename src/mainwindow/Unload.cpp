@@ -1,0 +1,50 @@
+// The ordered shutdown, asked for by the tray menu, a termination signal or the end of the desktop session.
+// Record files are not written here: each change was saved when it was made.
+#include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "mainwindow/ProcessMarker.h"
+#include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
+#include "platform/Tray.h"
+
+#include <QApplication>
+
+#include <filesystem>
+
+namespace {
+
+// An error leaves the rest of the steps undone, and the process goes on ending.
+void RunShutdownSteps(const frmMain& window) {
+    try {
+        DeleteProcessMarker();
+        if (window.PreferencesWereRead) {
+            window.WritePreferences();
+        }
+        RotateBackups();
+        RemoveTrayIcon();
+    } catch (const RunTimeError&) {
+        return;
+    } catch (const std::filesystem::filesystem_error&) {
+        return;
+    }
+}
+
+// From the last to the first.
+void HideAllWindows() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
+        (*window)->hide();
+    }
+}
+
+} // namespace
+
+void frmMain::Unload() {
+    if (ShuttingDown) {
+        return;
+    }
+    ShuttingDown = true;
+    RunShutdownSteps(*this);
+    HideAllWindows();
+    QApplication::exit();
+}

@@ -1,0 +1,211 @@
+// The painting surface of the hand-painted views.
+#include "platform/PictureBox.h"
+
+#include <QFontMetricsF>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr int WheelNotch = 120;
+
+struct FaceFamily {
+    const char* family;
+    QFont::StyleHint hint;
+};
+
+// In the order of Face.
+constexpr std::array<FaceFamily, 4> FaceFamilies{{
+    {"Arial", QFont::SansSerif},
+    {"Verdana", QFont::SansSerif},
+    {"Courier", QFont::TypeWriter},
+    {"MS Sans Serif", QFont::SansSerif},
+}};
+
+// What stands for a face where it is missing, in the order of Face.
+constexpr std::array<const char*, 4> Substitutes{"Liberation Sans", "DejaVu Sans", "Liberation Mono",
+                                                 "Liberation Sans"};
+
+double Pixels(int units) {
+    return static_cast<double>(units) / UnitsPerPixel;
+}
+
+int Units(double pixels) {
+    return static_cast<int>(std::lround(pixels * UnitsPerPixel));
+}
+
+QRectF PixelRect(const DrawnItem& item) {
+    return {Pixels(item.left), Pixels(item.top), Pixels(item.width), Pixels(item.height)};
+}
+
+QFont MakeFont(const SurfaceFont& font) {
+    const auto index = static_cast<std::size_t>(font.face);
+    QFont result;
+    result.setFamilies(
+        {QString::fromLatin1(FaceFamilies[index].family), QString::fromLatin1(Substitutes[index])});
+    result.setStyleHint(FaceFamilies[index].hint);
+    result.setPointSizeF(font.points);
+    result.setBold(font.bold);
+    return result;
+}
+
+// A line of one pixel, whichever way it runs.
+QRectF LineRect(const DrawnItem& item) {
+    QRectF rect = PixelRect(item);
+    rect.setWidth(std::max(1.0, rect.width()));
+    rect.setHeight(std::max(1.0, rect.height()));
+    return rect;
+}
+
+void PaintItem(QPainter& painter, const DrawnItem& item) {
+    switch (item.kind) {
+    case DrawnKind::Rectangle:
+        painter.fillRect(PixelRect(item), ToQColor(item.color));
+        break;
+    case DrawnKind::Frame:
+        painter.setPen(QPen(ToQColor(item.color), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(PixelRect(item).adjusted(0.5, 0.5, -0.5, -0.5));
+        break;
+    case DrawnKind::Line:
+        painter.fillRect(LineRect(item), ToQColor(item.color));
+        break;
+    case DrawnKind::Text: {
+        const QFont font = ToQFont(item.font);
+        painter.setFont(font);
+        painter.setPen(ToQColor(item.color));
+        painter.drawText(QPointF(Pixels(item.left), Pixels(item.top) + QFontMetricsF(font).ascent()),
+                         item.text);
+        break;
+    }
+    case DrawnKind::Picture:
+        QIcon(QStringLiteral(":/icons/") + item.text).paint(&painter, PixelRect(item).toAlignedRect());
+        break;
+    }
+}
+
+} // namespace
+
+QColor ToQColor(int bgr) {
+    return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
+}
+
+QFont ToQFont(const SurfaceFont& font) {
+    return MakeFont(font);
+}
+
+int TextWidth(const QString& text, const SurfaceFont& font) {
+    return Units(QFontMetricsF(ToQFont(font)).horizontalAdvance(text));
+}
+
+int TextHeight(const SurfaceFont& font) {
+    return Units(QFontMetricsF(ToQFont(font)).height());
+}
+
+QString ShortenedText(const QString& text, const SurfaceFont& font, int width) {
+    const QFontMetricsF metrics(ToQFont(font));
+    const auto fits = [&](qsizetype length) {
+        return Units(metrics.horizontalAdvance(text.left(length))) <= width;
+    };
+    if (fits(text.size())) {
+        return text;
+    }
+    qsizetype longest = 0; // always fits
+    qsizetype tooLong = text.size();
+    while (tooLong - longest > 1) {
+        const qsizetype middle = longest + (tooLong - longest) / 2;
+        (fits(middle) ? longest : tooLong) = middle;
+    }
+    return text.left(longest);
+}
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+int PictureBox::WidthInUnits() const {
+    return width() * UnitsPerPixel;
+}
+
+int PictureBox::HeightInUnits() const {
+    return height() * UnitsPerPixel;
+}
+
+void PictureBox::Keep(DrawnItem item) {
+    drawn.push_back(std::move(item));
+    update();
+}
+
+void PictureBox::Clear(int color) {
+    drawn.clear();
+    backColor = color;
+    update();
+}
+
+void PictureBox::FillRectangle(int left, int top, int width, int height, int color) {
+    Keep({DrawnKind::Rectangle, left, top, width, height, color, {}, {}});
+}
+
+void PictureBox::DrawFrame(int left, int top, int width, int height, int color) {
+    Keep({DrawnKind::Frame, left, top, width, height, color, {}, {}});
+}
+
+void PictureBox::DrawLine(int left, int top, int right, int bottom, int color) {
+    Keep({DrawnKind::Line, left, top, right - left, bottom - top, color, {}, {}});
+}
+
+void PictureBox::DrawText(int left, int top, const QString& text, const SurfaceFont& font, int color) {
+    Keep({DrawnKind::Text, left, top, 0, 0, color, text, font});
+}
+
+void PictureBox::DrawPicture(int left, int top, int width, int height, const QString& name) {
+    Keep({DrawnKind::Picture, left, top, width, height, 0, name, {}});
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), ToQColor(backColor));
+    for (const DrawnItem& item : drawn) {
+        PaintItem(painter, item);
+    }
+    if (hasFocus() && focusPolicy() != Qt::NoFocus) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    emit Pressed(Units(event->position().x()), Units(event->position().y()), event->button());
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    emit Released(Units(event->position().x()), Units(event->position().y()), event->button());
+}
+
+void PictureBox::wheelEvent(QWheelEvent* event) {
+    wheelRest += event->angleDelta().y();
+    const int notches = wheelRest / WheelNotch;
+    wheelRest -= notches * WheelNotch;
+    if (notches != 0) {
+        emit WheelTurned(notches);
+    }
+    event->accept();
+}
+
+void PictureBox::resizeEvent(QResizeEvent* /*event*/) {
+    emit Resized();
+}
+
+void PictureBox::focusInEvent(QFocusEvent* /*event*/) {
+    update();
+}
+
+void PictureBox::focusOutEvent(QFocusEvent* /*event*/) {
+    update();
+}

@@ -1,0 +1,22 @@
+// The one place where the store's bytes become text of the screen and back.
+// The store holds one byte a character, read as a page labelled ISO-8859-1 is read: 0x80 to 0x9F are the
+// letters of windows-1252, and its five unused bytes the control characters of the same number
+// (encoding.spec.whatwg.org).
+#pragma once
+
+#include "platform/Formats.h"
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+// The text as the screen shows it.
+QString FromStore(std::string_view text);
+QString FromScreen(const ScreenText& text);
+
+// The text as the store holds it; a character that the set lacks becomes "?".
+std::string ToStore(const QString& text);
+
+// The same text with every character that the set lacks turned into "?".
+QString WithinSet(const QString& text);

@@ -1,0 +1,80 @@
+// The tray icon. Trays of the XEmbed kind report a click and then a double click; status notifiers report
+// clicks alone, so two clicks within the double-click time count as a double click there.
+#include "platform/Tray.h"
+
+#include "platform/Text.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QSystemTrayIcon>
+
+namespace {
+
+// A child of the application, which takes it down where the tray icon was not removed before.
+struct TrayState : QObject {
+    TrayState() : QObject(qApp) {}
+
+    QSystemTrayIcon icon{QIcon(QStringLiteral(":/icons/planovarium.svg"))};
+    QMenu menu;
+    QElapsedTimer sinceClick;
+    TrayEvents events;
+};
+
+TrayState* tray = nullptr;
+
+// A menu caption in which "&" stands for itself.
+QString PlainCaption(const std::string& caption) {
+    return FromStore(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+void RebuildMenu() {
+    tray->menu.clear();
+    const std::vector<std::string> captions = tray->events.menuWanted();
+    for (std::size_t i = 0; i < captions.size(); ++i) {
+        if (captions[i] == "-") {
+            tray->menu.addSeparator();
+            continue;
+        }
+        const QAction* action = tray->menu.addAction(PlainCaption(captions[i]));
+        QObject::connect(action, &QAction::triggered, &tray->menu,
+                         [index = static_cast<int>(i)] { tray->events.itemChosen(index); });
+    }
+}
+
+void IconActivated(QSystemTrayIcon::ActivationReason reason) {
+    if (reason == QSystemTrayIcon::DoubleClick) {
+        tray->sinceClick.invalidate();
+        tray->events.doubleClicked();
+        return;
+    }
+    if (reason != QSystemTrayIcon::Trigger) {
+        return;
+    }
+    const bool second =
+        tray->sinceClick.isValid() && tray->sinceClick.elapsed() <= QApplication::doubleClickInterval();
+    if (second) {
+        tray->sinceClick.invalidate();
+        tray->events.doubleClicked();
+        return;
+    }
+    tray->sinceClick.start();
+}
+
+} // namespace
+
+void AddTrayIcon(std::string_view tip, TrayEvents events) {
+    tray = new TrayState;
+    tray->events = std::move(events);
+    tray->icon.setToolTip(FromStore(tip));
+    QObject::connect(&tray->menu, &QMenu::aboutToShow, &tray->menu, &RebuildMenu);
+    QObject::connect(&tray->icon, &QSystemTrayIcon::activated, &tray->menu, &IconActivated);
+    RebuildMenu(); // a status notifier shows no menu that has never held an item
+    tray->icon.setContextMenu(&tray->menu);
+    tray->icon.show();
+}
+
+void RemoveTrayIcon() {
+    tray->icon.hide();
+    tray->deleteLater(); // the shutdown may have come from its own menu
+}

@@ -1,0 +1,265 @@
+"""A desktop for the tests: a virtual display with a window manager and a tray, and the real planner on it, driven
+from outside with mouse and keyboard. Whatever is started here is ended here, by its process."""
+
+import os
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+PROGRAM = os.environ["PLANOVARIUM_PROGRAM"]
+TITLE = "Planovarium Homework System"
+FAKETIME_LIBRARY = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
+GREATEST_ICON = 48  # pixels; a menu is wider
+LIMIT = 20  # seconds that any condition may take to come true
+
+
+def wait_until(condition, what, limit=LIMIT):
+    """Waits until the condition gives something true and returns that."""
+    end = time.monotonic() + limit
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise AssertionError(f"Gave up waiting until {what}")
+        time.sleep(0.05)
+
+
+def stays_false(condition, seconds):
+    """True when the condition has stayed false for so long: for what must not happen."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        if condition():
+            return False
+        time.sleep(0.05)
+    return True
+
+
+class Desktop:
+    """A display of its own with openbox and trayer, and a runtime folder of its own."""
+
+    def __init__(self, size="1280x1024"):
+        try:
+            self._open(size)
+        except BaseException:
+            self.close()
+            raise
+
+    def _open(self, size):
+        self.runtime = Path(tempfile.mkdtemp(prefix="planovarium-runtime-"))  # of mode 700, as it has to be
+        self.processes = []
+        read_end, write_end = os.pipe()
+        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+                     "-noreset"],
+                    os.environ, pass_fds=[write_end])
+        os.close(write_end)
+        with os.fdopen(read_end) as told:
+            number = told.readline().strip()
+        self.environment = dict(os.environ, DISPLAY=f":{number}", XDG_RUNTIME_DIR=str(self.runtime),
+                                HOME=str(self.runtime), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
+        for name in ("DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"):
+            self.environment.pop(name, None)
+        self._start(["openbox", "--sm-disable"], self.environment)
+        wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                   "the window manager stands")
+        self._start_tray()
+
+    def _start(self, command, environment, **options):
+        self.processes.append(subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
+                                               stderr=subprocess.DEVNULL, **options))
+        return self.processes[-1]
+
+    def _start_tray(self):
+        """Starts the tray, once more where it gives up by itself or does not come up, as it does now and then."""
+        for _ in range(3):
+            tray = self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
+                                "--height", "32"], self.environment)
+            try:
+                wait_until(lambda: tray.poll() is not None or self.windows_named("^panel$"), "the tray stands", 5)
+                if tray.poll() is None:
+                    return
+            except AssertionError:
+                tray.kill()
+        raise AssertionError("The tray does not come up")
+
+    def close(self):
+        for process in reversed(self.processes):
+            process.terminate()
+            try:
+                process.wait(timeout=5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        shutil.rmtree(self.runtime, ignore_errors=True)
+
+    def run(self, *command):
+        """The output of a command on this display, whatever its exit."""
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False).stdout
+
+    def windows_named(self, pattern):
+        """The ids of the windows on the screen whose names match the pattern."""
+        return self.run("xdotool", "search", "--onlyvisible", "--name", pattern).split()
+
+    def window(self, name):
+        """The id of the one window with exactly this name, or None."""
+        found = self.windows_named("^" + re.escape(name) + "$")
+        return found[0] if found else None
+
+    def active_window_name(self):
+        return self.run("xdotool", "getactivewindow", "getwindowname").strip()
+
+    def geometry(self, window):
+        """Left, top, width and height of a window on the screen."""
+        text = self.run("xwininfo", "-id", window)
+
+        def number(label):
+            return int(re.search(label + r":\s+(-?\d+)", text).group(1))
+
+        return (number("Absolute upper-left X"), number("Absolute upper-left Y"), number("Width"), number("Height"))
+
+    def click(self, x, y, button=1, repeat=1):
+        self.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(repeat), "--delay", "60", str(button))
+
+    def key(self, *keys):
+        self.run("xdotool", "key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self.run("xdotool", "type", "--delay", "5", text)
+
+    def picture(self, path):
+        self.run("import", "-window", "root", str(path))
+
+    def press_in(self, window, *keys):
+        """Brings the window to the front and presses the keys in it."""
+        self.run("xdotool", "windowactivate", "--sync", window)
+        self.key(*keys)
+
+    def close_with_window_manager(self, window):
+        """What the window's close box does."""
+        self.run("wmctrl", "-i", "-c", window)
+
+    def popup_menu(self):
+        """The id of an open popup menu, or None."""
+        for window in self.run("xdotool", "search", "--onlyvisible", "--class", "planovarium").split():
+            told = self.run("xwininfo", "-id", window)
+            beyond_an_icon = "Width:" in told and self.geometry(window)[2] > GREATEST_ICON
+            if "Override Redirect State: yes" in told and beyond_an_icon:
+                return window
+        return None
+
+    def tray_icon(self):
+        """Left, top, width and height of the planner's icon in the tray, or None."""
+        panel = self.windows_named("^panel$")
+        tree = self.run("xwininfo", "-tree", "-id", panel[0]) if panel else ""
+        icons = re.findall(r"(0x[0-9a-f]+) .*planovarium", tree, re.IGNORECASE)
+        return self.geometry(icons[0]) if icons else None
+
+
+class Planner:
+    """The program with a smart drive of its own."""
+
+    def __init__(self, desktop, drive=None, date=None, program=PROGRAM):
+        self.desktop = desktop
+        self.program = program
+        self.drive = Path(drive or tempfile.mkdtemp(prefix="planovarium-drive-"))
+        self.owns_drive = drive is None
+        self.host = self.drive / "Host"
+        self.documents = self.drive / "Documents"
+        self.data = self.documents / "Planovarium" / "Data"
+        self.backup = self.data / "Backup"
+        for folder in (self.host, self.documents, self.drive / "Planovarium"):
+            folder.mkdir(parents=True, exist_ok=True)
+        self.environment = dict(desktop.environment, U3_DEVICE_PATH=str(self.drive),
+                                U3_DEVICE_EXEC_PATH=str(self.drive / "Planovarium"),
+                                U3_DEVICE_DOCUMENT_PATH=str(self.documents), U3_HOST_EXEC_PATH=str(self.host))
+        if date:
+            self.environment.update(LD_PRELOAD=FAKETIME_LIBRARY, FAKETIME=f"@{date}",
+                                    FAKETIME_DONT_FAKE_MONOTONIC="1")
+        self.process = None
+        self.started = []
+
+    def start(self, *arguments, shown=True):
+        """Starts the first instance and, unless it starts hidden, waits for its window."""
+        self.process = self.start_another(*arguments)
+        if shown:
+            self.wait_for_window()
+        return self
+
+    def start_another(self, *arguments, environment=None):
+        process = subprocess.Popen([self.program, *arguments], env=environment or self.environment,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.started.append(process)
+        return process
+
+    def window(self):
+        return self.desktop.window(TITLE)
+
+    def wait_for_window(self):
+        return wait_until(self.window, "the main window is on the screen")
+
+    def wait_for_exit(self, process=None):
+        """The exit status of the process, the first instance's unless told otherwise."""
+        return (process or self.process).wait(timeout=LIMIT)
+
+    def shut_down(self):
+        self.process.send_signal(signal.SIGTERM)
+        return self.wait_for_exit()
+
+    def hide(self):
+        """Closes the main window by its close box."""
+        self.desktop.close_with_window_manager(self.window())
+        wait_until(lambda: not self.window(), "the window is hidden")
+
+    def markers(self):
+        return sorted(path.name for path in self.host.glob("*.PID"))
+
+    def write_data(self, name, text):
+        self.data.mkdir(parents=True, exist_ok=True)
+        (self.data / name).write_bytes(text.replace("\n", "\r\n").encode("latin-1"))
+
+    def read_data(self, name):
+        return (self.data / name).read_bytes().decode("latin-1").replace("\r\n", "\n")
+
+    def close(self):
+        for process in self.started:
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+        if self.owns_drive:
+            shutil.rmtree(self.drive, ignore_errors=True)
+
+
+class DesktopTest(unittest.TestCase):
+    """A test with a desktop; planners that it makes are ended with it."""
+
+    screen = "1280x1024"
+
+    def setUp(self):
+        self.desktop = Desktop(self.screen)
+        self.addCleanup(self.desktop.close)
+        self.addCleanup(self._keep_picture_of_failure)
+
+    def _keep_picture_of_failure(self):
+        """With PLANOVARIUM_FAILURES set, leaves a picture of the screen of a failed test in that folder."""
+        folder = os.environ.get("PLANOVARIUM_FAILURES")
+        result = self._outcome.result
+        if folder and any(test is self for test, _ in result.failures + result.errors):
+            self.desktop.picture(Path(folder) / f"{self.id()}.png")
+
+    def planner(self, **options):
+        planner = Planner(self.desktop, **options)
+        self.addCleanup(planner.close)
+        return planner
+
+    def click_tray(self, button=1, repeat=1):
+        left, top, width, height = wait_until(self.desktop.tray_icon, "the icon is in the tray")
+        self.desktop.click(left + width // 2, top + height // 2, button, repeat)
+
+    def open_tray_menu(self):
+        self.click_tray(button=3)
+        wait_until(self.desktop.popup_menu, "the menu is open")

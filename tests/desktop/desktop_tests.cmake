@@ -1,0 +1,15 @@
+# The real program on a virtual desktop; one test a class of each file.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+function(add_desktop_tests file)
+  foreach(class ${ARGN})
+    add_test(NAME desktop.${file}.${class}
+      COMMAND ${Python3_EXECUTABLE} -m unittest -v ${file}.${class}
+      WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/desktop")
+    set_tests_properties(desktop.${file}.${class} PROPERTIES
+      LABELS desktop TIMEOUT 180
+      ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1")
+  endforeach()
+endfunction()
+
+add_desktop_tests(test_process Start StartMode SecondStart Tray Shutdown WindowPlace)

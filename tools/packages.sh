@@ -1,0 +1,24 @@
+# Installs what a fresh Debian machine lacks, and says so in one line. Sourced by ./run, ./test and ./bench.
+
+RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools qt6-svg-dev
+  libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
+HeadlessPackages="xvfb openbox xdotool imagemagick"
+TestPackages="$HeadlessPackages libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev pkg-config clang
+  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 wmctrl x11-utils locales"
+BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
+
+AsRoot() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# Installs those of the named packages that are missing; touches nothing else.
+Install() {
+    local missing=()
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -q '^installed' || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Installing ${missing[*]}"
+    AsRoot apt-get update -qq
+    AsRoot env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
