@@ -1,2 +1,3 @@
 target_sources(planovarium_bench PRIVATE
+  RecurrenceBench.cpp
 )

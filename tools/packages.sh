@@ -1,10 +1,10 @@
 # Installs what a fresh Debian machine lacks, and says so in one line. Sourced by ./run, ./test and ./bench.
 
-RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
+RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools qt6-svg-dev
   libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
 HeadlessPackages="xvfb openbox xdotool imagemagick"
 TestPackages="$HeadlessPackages libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev pkg-config clang
-  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 x11-utils locales"
+  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 wmctrl x11-utils locales"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 
 AsRoot() {

@@ -31,7 +31,7 @@ QFont SplashFont(double points, bool bold) {
 
 frmSplash::frmSplash() : QWidget(nullptr, Qt::SplashScreen) {
     setFixedSize(SplashSize);
-    setWindowTitle(QStringLiteral("Planovarium"));
+    setWindowTitle(QStringLiteral("Planovarium starts"));
     move(QGuiApplication::primaryScreen()->availableGeometry().center() - rect().center());
 }
 

@@ -4,6 +4,8 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::string_view TermWord = "TermID";
@@ -48,12 +50,27 @@ int ClassPosition(const ClassLink& link) {
     return 0;
 }
 
-int ActiveClassPosition(std::string_view type) {
-    const std::optional<ClassLink> link = ClassLinkIn(type);
-    const bool ofActiveTerm = link && ActiveTermID != 0 && link->term == ActiveTermID;
-    return ofActiveTerm ? ClassPosition(*link) : 0;
+std::vector<int> ActiveClassIds() {
+    const ClassLists& classes = Store.ClassRecord;
+    std::vector<int> ids;
+    for (int position = 1; position <= classes.id.Count(); ++position) {
+        const bool ofTerm = ActiveTermID != 0 && IdIn(classes.term.Item(position)) == ActiveTermID;
+        const std::optional<int> id = IdIn(classes.id.Item(position));
+        if (ofTerm && id && classes.name.Item(position) != DeletedRecord) {
+            ids.push_back(*id);
+        }
+    }
+    return ids;
 }
 
 bool BelongsToActiveTerm(std::string_view type) {
-    return !IsClassMeeting(type) || ActiveClassPosition(type) != 0;
+    return !IsClassMeeting(type) || BelongsToActiveTerm(type, ActiveClassIds());
+}
+
+bool BelongsToActiveTerm(std::string_view type, const std::vector<int>& activeClassIds) {
+    if (!IsClassMeeting(type)) {
+        return true;
+    }
+    const std::optional<ClassLink> link = ClassLinkIn(type);
+    return link && link->term == ActiveTermID && std::ranges::count(activeClassIds, link->class_) > 0;
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct ClassLink {
     int term = 0;   // id of the term
@@ -23,9 +24,11 @@ std::string ClassLinkText(int term, std::string_view class_);
 // Deleted classes are none.
 int ClassPosition(const ClassLink& link);
 
-// Position in Store.ClassRecord of the class of the active term that an event's type names; 0 when the type
-// is no class meeting, its link has another form, or its class is gone, deleted or of another term.
-int ActiveClassPosition(std::string_view type);
+// The ids of the active term's classes, deleted ones left out; none without a term.
+std::vector<int> ActiveClassIds();
 
-// False for a class meeting whose class is none of the active term's; true for every other event.
+// False for a class meeting whose class is none of the active term's, be it gone or deleted, and for one
+// whose link has another form; true for every other event. Who asks for many events gets the ids once and
+// hands them in.
 bool BelongsToActiveTerm(std::string_view type);
+bool BelongsToActiveTerm(std::string_view type, const std::vector<int>& activeClassIds);

@@ -36,11 +36,12 @@ DayBits CellsOfEvent(const Cells& cells, int index) {
 
 EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
     const Cells cells = CellsFrom(firstCell);
+    const std::vector<int> activeClassIds = ActiveClassIds();
     EventMarks marks;
     for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {
         DayBits days = CellsOfEvent(cells, index);
         const std::string& type = Store.EventRecord.type.Item(index);
-        if (days == 0 || !BelongsToActiveTerm(type)) {
+        if (days == 0 || !BelongsToActiveTerm(type, activeClassIds)) {
             continue;
         }
         const bool taken = IsEventTaken(type, filter);

@@ -46,9 +46,10 @@ void AddEventRow(int position, Date date, const ListFilter& filter) {
 
 void SelectEventsForDay(Date day, const ListFilter& filter) {
     const EventLists& events = Store.EventRecord;
+    const std::vector<int> activeClassIds = ActiveClassIds();
     ClearRowsAndCounters();
     for (int position = 1; position <= events.date.Count(); ++position) {
-        if (EventOccursOn(day, position) && BelongsToActiveTerm(events.type.Item(position))) {
+        if (EventOccursOn(day, position) && BelongsToActiveTerm(events.type.Item(position), activeClassIds)) {
             AddEventRow(position, day, filter);
         }
     }

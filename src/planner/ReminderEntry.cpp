@@ -24,16 +24,15 @@ std::string ItemReminderAlarm(Date date, std::string_view time) {
     return StoredMoment(Moment{date} + TimeValue(time));
 }
 
-EventReminder SetEventReminder(Date date, std::string_view time, std::string_view leadTime) {
+EventReminderFields SetEventReminder(Date date, std::string_view time, std::string_view leadTime) {
     const std::string day = StoredDate(date);
-    const std::string alarm = StoredMoment(AlarmBefore(Moment{date} + TimeValue(time), LeadOf(leadTime)));
+    const std::string alarm = StoredMoment(WithinCalendar(Moment{date} + TimeValue(time) - LeadOf(leadTime)));
     return {alarm, BooleanText(false), day, day, alarm};
 }
 
-Moment AlarmBefore(Moment occurrence, std::chrono::seconds lead) {
-    const Moment alarm = occurrence - lead;
-    if (alarm < FirstMoment || alarm >= BeyondLastMoment) {
-        throw RunTimeError("Overflow", std::to_string(lead.count()));
+Moment WithinCalendar(Moment moment) {
+    if (moment < FirstMoment || moment >= BeyondLastMoment) {
+        throw RunTimeError("Overflow", std::to_string(moment.time_since_epoch().count()));
     }
-    return alarm;
+    return moment;
 }

@@ -15,7 +15,7 @@ std::string ValidateTime(std::string_view text);
 std::string ItemReminderAlarm(Date date, std::string_view time);
 
 // The reminder fields of an event as its editor stores them: armed anew, off the list.
-struct EventReminder {
+struct EventReminderFields {
     std::string reminder_alarm;
     std::string reminder_list;
     std::string reminder_currentday;
@@ -25,8 +25,8 @@ struct EventReminder {
 
 // Of an event on the date, or of a series that begins there. Raises the run-time error where the time is none
 // or the lead time has no number.
-EventReminder SetEventReminder(Date date, std::string_view time, std::string_view leadTime);
+EventReminderFields SetEventReminder(Date date, std::string_view time, std::string_view leadTime);
 
-// The moment of an occurrence less the lead. Raises the run-time error where it falls outside the years 100
-// to 9999.
-Moment AlarmBefore(Moment occurrence, std::chrono::seconds lead);
+// The moment as it is; raises the run-time error where it falls outside the years 100 to 9999, which no
+// stored text holds.
+Moment WithinCalendar(Moment moment);

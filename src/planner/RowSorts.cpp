@@ -14,8 +14,7 @@ namespace {
 constexpr Date LatestDate{std::chrono::year{3100} / 12 / 31};
 constexpr Date EarliestDate{std::chrono::year{1600} / 1 / 1};
 
-// --- What a column's texts are for each row
-// --------------------------------------------------------------------
+// --- What a column's texts are for each row ---
 
 auto TextOf(const TextList& rowTexts) {
     return [&rowTexts](int row) -> std::string_view { return rowTexts.Item(row); };
@@ -33,8 +32,7 @@ auto Replacing(std::string_view replaced, std::string_view by, TextOfRow textOfR
     };
 }
 
-// --- What they are compared by
-// ---------------------------------------------------------------------------------
+// --- What they are compared by ---
 
 template <class TextOfRow>
 auto ClockMinutesOf(TextOfRow textOfRow) {
@@ -72,8 +70,7 @@ std::string_view Sentinel(int direction, std::string_view ascending, std::string
     return direction == Descending ? descending : ascending;
 }
 
-// --- The order of each list
-// ------------------------------------------------------------------------------------
+// --- The order of each list ---
 
 RowOrder HomeworkOrder(SortOrder order) {
     const AssignmentLists& store = Store.Assignment;

@@ -1,4 +1,5 @@
 target_sources(planovarium_logic PRIVATE
+  planner/AdvanceEventReminder.cpp
   planner/AlertMessage.cpp
   planner/AssignmentEntry.cpp
   planner/ClassLink.cpp
@@ -10,17 +11,26 @@ target_sources(planovarium_logic PRIVATE
   planner/EventFilter.cpp
   planner/EventMarks.cpp
   planner/EventOccursOn.cpp
+  planner/EventSelection.cpp
   planner/EventWalk.cpp
   planner/Grades.cpp
+  planner/HomeworkSelection.cpp
   planner/RecurrenceEntry.cpp
+  planner/ReminderActions.cpp
+  planner/ReminderEngine.cpp
   planner/ReminderEntry.cpp
+  planner/ReminderPhrases.cpp
+  planner/ReminderSelection.cpp
   planner/RowLook.cpp
+  planner/RowOrder.cpp
+  planner/RowSorts.cpp
   planner/SeriesEdits.cpp
   planner/SeriesRule.cpp
   planner/StudyLog.cpp
   planner/StudyTimeAlert.cpp
   planner/StudyTimeByDay.cpp
   planner/StudyTimeToday.cpp
+  planner/TaskSelection.cpp
   planner/TermEntry.cpp
   planner/TypeEntry.cpp
 )

@@ -9,18 +9,19 @@
 #include <QMenu>
 #include <QSystemTrayIcon>
 
-#include <memory>
-
 namespace {
 
-struct TrayState {
+// A child of the application, which takes it down where the tray icon was not removed before.
+struct TrayState : QObject {
+    TrayState() : QObject(qApp) {}
+
     QSystemTrayIcon icon{QIcon(QStringLiteral(":/icons/planovarium.svg"))};
     QMenu menu;
     QElapsedTimer sinceClick;
     TrayEvents events;
 };
 
-std::unique_ptr<TrayState> tray;
+TrayState* tray = nullptr;
 
 // A menu caption in which "&" stands for itself.
 QString PlainCaption(const std::string& caption) {
@@ -63,7 +64,7 @@ void IconActivated(QSystemTrayIcon::ActivationReason reason) {
 } // namespace
 
 void AddTrayIcon(std::string_view tip, TrayEvents events) {
-    tray = std::make_unique<TrayState>();
+    tray = new TrayState;
     tray->events = std::move(events);
     tray->icon.setToolTip(FromStore(tip));
     QObject::connect(&tray->menu, &QMenu::aboutToShow, &tray->menu, &RebuildMenu);
@@ -74,5 +75,6 @@ void AddTrayIcon(std::string_view tip, TrayEvents events) {
 }
 
 void RemoveTrayIcon() {
-    tray.reset();
+    tray->icon.hide();
+    tray->deleteLater(); // the shutdown may have come from its own menu
 }

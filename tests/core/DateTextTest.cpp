@@ -42,9 +42,9 @@ TEST_F(DateTexts, TwoDigitYearsTurnAtThirty) {
 }
 
 TEST_F(DateTexts, WhatIsNoDayOfTheCalendarIsNoDate) {
-    for (const char* none : {"", "2009/02/29", "2009/13/01", "2009/00/01", "2009/04/31", "2009/05", "//", "abc",
-                             "2009/05/01x", "2009/05/01/", "20090501", "2009/05/01 10:00", "-2009/05/01",
-                             "99999/01/01", "0000/01/01"}) {
+    for (const char* none :
+         {"", "2009/02/29", "2009/13/01", "2009/00/01", "2009/04/31", "2009/05", "//", "abc", "2009/05/01x",
+          "2009/05/01/", "20090501", "2009/05/01 10:00", "-2009/05/01", "99999/01/01", "0000/01/01"}) {
         EXPECT_FALSE(IsDate(none)) << none;
         EXPECT_THROW(DateValue(none), RunTimeError) << none;
     }
@@ -71,8 +71,8 @@ TEST_F(DateTexts, TimesAreReadInTheFormsThatPeopleWrite) {
 }
 
 TEST_F(DateTexts, WhatIsNoTimeIsNone) {
-    for (const char* none : {"", "9", "25:00", "24:00", "13:00 PM", "9:60 AM", "9:00:60", "AM", ":30", "9:", "9:00 XM",
-                             "123:00", "9:00 AM x", "soon", "9:00:00:00"}) {
+    for (const char* none : {"", "9", "25:00", "24:00", "13:00 PM", "9:60 AM", "9:00:60", "AM", ":30",
+                             "9:", "9:00 XM", "123:00", "9:00 AM x", "soon", "9:00:00:00"}) {
         EXPECT_FALSE(IsTime(none)) << none;
         EXPECT_THROW(TimeValue(none), RunTimeError) << none;
     }

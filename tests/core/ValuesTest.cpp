@@ -1,7 +1,7 @@
 // Conversion of the store's texts and their comparison.
+#include "core/Values.h"
 #include "core/RunTimeError.h"
 #include "core/TextList.h"
-#include "core/Values.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,8 @@ TEST(Numbers, AreDigitsWithSignAndPoint) {
     EXPECT_EQ(NumberIn("+7"), 7);
     EXPECT_EQ(NumberIn("5."), 5);
     EXPECT_EQ(NumberIn(".5"), 0.5);
-    for (const char* none : {"", " ", ".", "-", "+", "1e5", "0x10", "1 2", "--1", "1.2.3", "inf", "nan", "12a"}) {
+    for (const char* none :
+         {"", " ", ".", "-", "+", "1e5", "0x10", "1 2", "--1", "1.2.3", "inf", "nan", "12a"}) {
         EXPECT_FALSE(NumberIn(none).has_value()) << none;
         EXPECT_THROW(ToNumber(none), RunTimeError) << none;
     }

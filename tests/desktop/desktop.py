@@ -14,6 +14,7 @@ from pathlib import Path
 PROGRAM = os.environ["PLANOVARIUM_PROGRAM"]
 TITLE = "Planovarium Homework System"
 FAKETIME_LIBRARY = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
+GREATEST_ICON = 48  # pixels; a menu is wider
 LIMIT = 20  # seconds that any condition may take to come true
 
 
@@ -43,27 +44,48 @@ class Desktop:
     """A display of its own with openbox and trayer, and a runtime folder of its own."""
 
     def __init__(self, size="1280x1024"):
-        self.runtime = Path(tempfile.mkdtemp(prefix="planovarium-runtime-"))
-        os.chmod(self.runtime, 0o700)
+        try:
+            self._open(size)
+        except BaseException:
+            self.close()
+            raise
+
+    def _open(self, size):
+        self.runtime = Path(tempfile.mkdtemp(prefix="planovarium-runtime-"))  # of mode 700, as it has to be
         self.processes = []
         read_end, write_end = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
+        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+                     "-noreset"],
                     os.environ, pass_fds=[write_end])
         os.close(write_end)
-        number = os.read(read_end, 16).decode().strip()
-        os.close(read_end)
+        with os.fdopen(read_end) as told:
+            number = told.readline().strip()
         self.environment = dict(os.environ, DISPLAY=f":{number}", XDG_RUNTIME_DIR=str(self.runtime),
                                 HOME=str(self.runtime), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
         for name in ("DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"):
             self.environment.pop(name, None)
         self._start(["openbox", "--sm-disable"], self.environment)
-        self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "32"],
-                    self.environment)
-        wait_until(lambda: self.windows_named("^panel$"), "the tray stands")
+        wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                   "the window manager stands")
+        self._start_tray()
 
     def _start(self, command, environment, **options):
         self.processes.append(subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
                                                stderr=subprocess.DEVNULL, **options))
+        return self.processes[-1]
+
+    def _start_tray(self):
+        """Starts the tray, once more where it gives up by itself or does not come up, as it does now and then."""
+        for _ in range(3):
+            tray = self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
+                                "--height", "32"], self.environment)
+            try:
+                wait_until(lambda: tray.poll() is not None or self.windows_named("^panel$"), "the tray stands", 5)
+                if tray.poll() is None:
+                    return
+            except AssertionError:
+                tray.kill()
+        raise AssertionError("The tray does not come up")
 
     def close(self):
         for process in reversed(self.processes):
@@ -119,12 +141,14 @@ class Desktop:
 
     def close_with_window_manager(self, window):
         """What the window's close box does."""
-        self.press_in(window, "alt+F4")
+        self.run("wmctrl", "-i", "-c", window)
 
     def popup_menu(self):
         """The id of an open popup menu, or None."""
         for window in self.run("xdotool", "search", "--onlyvisible", "--class", "planovarium").split():
-            if "_NET_WM_WINDOW_TYPE_POPUP_MENU" in self.run("xprop", "-id", window, "_NET_WM_WINDOW_TYPE"):
+            told = self.run("xwininfo", "-id", window)
+            beyond_an_icon = "Width:" in told and self.geometry(window)[2] > GREATEST_ICON
+            if "Override Redirect State: yes" in told and beyond_an_icon:
                 return window
         return None
 
@@ -218,6 +242,14 @@ class DesktopTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop(self.screen)
         self.addCleanup(self.desktop.close)
+        self.addCleanup(self._keep_picture_of_failure)
+
+    def _keep_picture_of_failure(self):
+        """With PLANOVARIUM_FAILURES set, leaves a picture of the screen of a failed test in that folder."""
+        folder = os.environ.get("PLANOVARIUM_FAILURES")
+        result = self._outcome.result
+        if folder and any(test is self for test, _ in result.failures + result.errors):
+            self.desktop.picture(Path(folder) / f"{self.id()}.png")
 
     def planner(self, **options):
         planner = Planner(self.desktop, **options)

@@ -2,6 +2,7 @@
 #include "drive/SampleDrive.h"
 
 #include "planner/ClassLink.h"
+#include "planner/StudyTimeAlert.h"
 
 #include <algorithm>
 #include <cmath>
@@ -243,6 +244,19 @@ TEST_P(SampleDriveTest, ThePreferencesGiveTypesTheirOwnNames) {
     EXPECT_EQ(TypeDisplayName(TypeRow("Event", "Custom2")), "Volunteering");
     EXPECT_EQ(TypeDisplayName(TypeRow("Event", "Work")), "Caf\xE9");
     EXPECT_EQ(TypeDisplayName(TypeRow("Event", "Study Time")), "Study Time");
+}
+
+TEST_P(SampleDriveTest, StudyTimeSufficesForTheFirstDaysAndFallsShortLater) {
+    const AlertsShown shown = StudyTimeAlertCheck();
+    EXPECT_EQ(shown, (AlertsShown{true, true, true, true}));
+    EXPECT_EQ(AlertBefore, "before then") << "neither today's nor tomorrow's homework is short";
+    int study = 0;
+    int need = 0;
+    for (int day = 1; day <= AlertDays.Count(); ++day) {
+        study += AlertStudy.Item(day);
+        need += AlertNeed.Item(day);
+    }
+    EXPECT_GE(study, need / 2) << "most of the work is scheduled";
 }
 
 // The contrast of two colours by the Web Content Accessibility Guidelines 2: 1 to 21.

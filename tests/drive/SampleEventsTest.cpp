@@ -138,7 +138,8 @@ TEST_P(SampleEventsTest, TheClassesMeetOnTheirDays) {
         int meetings = 0;
         for (int day = 0; day < 7; ++day) {
             meetings += CountWhere(Store.EventRecord.id, [&](int i) {
-                return ActiveClassPosition(Store.EventRecord.type.Item(i)) > 0 &&
+                const std::string& type = Store.EventRecord.type.Item(i);
+                return IsClassMeeting(type) && BelongsToActiveTerm(type) &&
                        EventOccursOn(monday + days{day}, i);
             });
         }

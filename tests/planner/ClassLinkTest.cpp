@@ -57,7 +57,6 @@ TEST_F(ClassLinks, OfAnyOtherFormNameNothing) {
           "TermID4-ClassID", "TermIDx-ClassID10", "TermID4.5-ClassID10", "TermID4-ClassID99999999",
           "My TermID4-ClassID10", "None", "Study Time", ""}) {
         EXPECT_FALSE(ClassLinkIn(type)) << type;
-        EXPECT_EQ(ActiveClassPosition(type), 0) << type;
     }
 }
 
@@ -76,28 +75,44 @@ TEST_F(ClassLinks, DoNotFindADeletedClass) {
     EXPECT_EQ(ClassPosition({4, 11}), 0);
 }
 
-TEST_F(ClassLinks, FindTheirClassInTheActiveTermAlone) {
-    EXPECT_EQ(ActiveClassPosition("TermID4-ClassID10"), 1);
-    EXPECT_EQ(ActiveClassPosition("TermID5-ClassID12"), 0);
-    EXPECT_EQ(ActiveClassPosition("TermID4-ClassID11"), 0);
-    EXPECT_EQ(ActiveClassPosition("Study Time"), 0);
+TEST_F(ClassLinks, KeepClassMeetingsToTheActiveTerm) {
+    EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID10"));
+    EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID13"));
+    EXPECT_FALSE(BelongsToActiveTerm("TermID5-ClassID12"));
     ActiveTermID = 5;
-    EXPECT_EQ(ActiveClassPosition("TermID5-ClassID12"), 3);
+    EXPECT_FALSE(BelongsToActiveTerm("TermID4-ClassID10"));
+    EXPECT_TRUE(BelongsToActiveTerm("TermID5-ClassID12"));
+}
+
+TEST_F(ClassLinks, LeaveOutMeetingsOfAClassThatIsGoneOrDeleted) {
+    EXPECT_FALSE(BelongsToActiveTerm("TermID4-ClassID99"));
+    EXPECT_FALSE(BelongsToActiveTerm("TermID4-ClassID11"));
+    EXPECT_FALSE(BelongsToActiveTerm("TermID4-ClassID12"));
+}
+
+TEST_F(ClassLinks, LeaveOutMeetingsWhoseLinkHasAnotherForm) {
+    EXPECT_FALSE(BelongsToActiveTerm("ClassID10-TermID4"));
+    EXPECT_FALSE(BelongsToActiveTerm("TermID4-ClassID10-1"));
+}
+
+TEST_F(ClassLinks, LetAllOtherEventsPass) {
+    for (const char* type : {"Class", "Study Time", "None", "TermID5", "ClassID12", ""}) {
+        EXPECT_TRUE(BelongsToActiveTerm(type)) << type;
+    }
 }
 
 TEST_F(ClassLinks, FindNoClassWithoutATerm) {
-    ActiveTermID = 0;
     AddClass("20", "0", "Stray");
-    EXPECT_EQ(ActiveClassPosition("TermID0-ClassID20"), 0);
+    ActiveTermID = 0;
+    EXPECT_FALSE(BelongsToActiveTerm("TermID0-ClassID20"));
+    EXPECT_TRUE(ActiveClassIds().empty());
 }
 
-TEST_F(ClassLinks, KeepClassMeetingsToTheActiveTermAndLetAllOtherEventsPass) {
-    EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID10"));
-    EXPECT_FALSE(BelongsToActiveTerm("TermID5-ClassID12"));
-    EXPECT_FALSE(BelongsToActiveTerm("ClassID10-TermID4"));
-    EXPECT_TRUE(BelongsToActiveTerm("Class"));
-    EXPECT_TRUE(BelongsToActiveTerm("None"));
-    EXPECT_TRUE(BelongsToActiveTerm("TermID5"));
+TEST_F(ClassLinks, AnswerForManyEventsFromTheIdsOfTheActiveTerm) {
+    EXPECT_EQ(ActiveClassIds(), (std::vector<int>{10, 13}));
+    EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID10", ActiveClassIds()));
+    EXPECT_FALSE(BelongsToActiveTerm("TermID5-ClassID10", ActiveClassIds()));
+    EXPECT_TRUE(BelongsToActiveTerm("None", {}));
 }
 
 TEST_F(ClassLinks, AreReadAsTheyWereWritten) {
@@ -106,5 +121,4 @@ TEST_F(ClassLinks, AreReadAsTheyWereWritten) {
     ASSERT_TRUE(link);
     EXPECT_EQ(link->term, 4);
     EXPECT_EQ(link->class_, 10);
-    EXPECT_EQ(ActiveClassPosition(ClassLinkText(4, "10")), 1);
 }

@@ -1,6 +1,6 @@
 // Date arithmetic, clock lengths and durations.
-#include "core/RunTimeError.h"
 #include "planner/DateHelpers.h"
+#include "core/RunTimeError.h"
 
 #include <gtest/gtest.h>
 

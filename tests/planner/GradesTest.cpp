@@ -87,7 +87,9 @@ RC_GTEST_PROP(AssignmentGradeProperties, NeverFallWithTheScore, ()) {
         return UpdateGrade(std::to_string(points), std::to_string(total)).letter;
     };
     const std::string order = "A  A- B+ B  B- C+ C  C- D+ D  D- E  ";
-    const auto place = [&](std::string text) { return order.find(text + std::string(3 - text.size(), ' ')); };
+    const auto place = [&](const std::string& text) {
+        return order.find(text + std::string(3 - text.size(), ' '));
+    };
     RC_ASSERT(place(letter(score + 1)) <= place(letter(score)));
 }
 

@@ -59,7 +59,7 @@ TEST(ItemAlarms, AreTheDateAndTheTime) {
 }
 
 TEST(EventReminders, AreArmedForTheFirstDateOffTheList) {
-    const EventReminder reminder = SetEventReminder(Wednesday, "09:00 AM", "1.5 Hours");
+    const EventReminderFields reminder = SetEventReminder(Wednesday, "09:00 AM", "1.5 Hours");
     EXPECT_EQ(reminder.reminder_alarm, "2009/10/14 07:30:00");
     EXPECT_EQ(reminder.reminder_nextalarm, "2009/10/14 07:30:00");
     EXPECT_EQ(reminder.reminder_currentday, "2009/10/14");

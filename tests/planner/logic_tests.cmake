@@ -1,4 +1,5 @@
 target_sources(logic_tests PRIVATE
+  planner/AdvanceEventReminderTest.cpp
   planner/AlertMessageTest.cpp
   planner/AssignmentEntryTest.cpp
   planner/ClassLinkTest.cpp
@@ -10,19 +11,31 @@ target_sources(logic_tests PRIVATE
   planner/EventFilterTest.cpp
   planner/EventMarksTest.cpp
   planner/EventOccursOnTest.cpp
+  planner/EventSelectionTest.cpp
+  planner/EventSortsTest.cpp
   planner/EventWalkTest.cpp
   planner/GPATableTest.cpp
   planner/GradesTest.cpp
+  planner/HomeworkSelectionTest.cpp
   planner/RecurrenceEntryTest.cpp
   planner/RecurrenceOracle.cpp
   planner/RecurrenceOracleTest.cpp
+  planner/ReminderActionsTest.cpp
+  planner/ReminderEngineTest.cpp
   planner/ReminderEntryTest.cpp
+  planner/ReminderEventsTest.cpp
+  planner/ReminderPhrasesTest.cpp
+  planner/ReminderSelectionTest.cpp
   planner/RowLookTest.cpp
+  planner/RowSortsPropertyTest.cpp
+  planner/RowSortsTest.cpp
   planner/SeriesEditsTest.cpp
+  planner/SortedRows.cpp
   planner/StudyBalanceTest.cpp
   planner/StudyTimeAlertTest.cpp
   planner/StudyTimeByDayTest.cpp
   planner/StudyTimeTodayTest.cpp
+  planner/TaskSelectionTest.cpp
   planner/TermEntryTest.cpp
   planner/TypeEntryTest.cpp
 )

@@ -1,0 +1,39 @@
+// The reminder engine: which reminders stand on the list, which fire now, and what that changes in the store.
+// There is no queue: a reminder is a few fields of its record, so it survives a restart by itself. The window
+// owns the rows and the flags; it draws the rows, shows itself and writes the files that the flags name.
+#pragma once
+
+#include "core/TextList.h"
+#include "platform/Clock.h"
+
+#include <string>
+
+// The rows of the reminder window, one entry each: tasks, homework, events, each in the store's order.
+struct ReminderListRows {
+    TextList ReminderIds;   // id of the record
+    TextList ReminderModes; // "Task", "Homework" or "Event"
+    TextList ReminderNames;
+    TextList ReminderTypes;
+    TextList ReminderWhens;
+    List<double> ReminderSortKeys; // days of a task or an assignment, minutes of an event
+    NumberList ReminderForeColors; // 0xBBGGRR
+    NumberList ReminderBackColors;
+};
+
+struct ReminderFlags {
+    bool ReminderFirstTick = true;     // no row has been found since the start
+    bool ReminderShowWindow = false;   // the window must come up and sound
+    bool ReminderTasksChanged = false; // the file must be written
+    bool ReminderHomeworkChanged = false;
+    bool ReminderEventsChanged = false;
+    int ReminderSelectedRow = 0; // 0 when none
+};
+
+// Fills the rows anew. What is due fires: its fields in the store change, the flag of its file is set, the
+// window is to come up and the selection is cleared. Deleted records and meetings of classes of other terms
+// are passed over and stay as they are. Raises the run-time error at a bad text among those that a reminder's
+// state lets it read: alarms of what is armed, dates, times and types of what stands.
+void CheckReminders(Moment now, ReminderFlags& flags, ReminderListRows& rows);
+
+// The name of an event on the list: its description or, where that is empty, what kind of event it is.
+std::string EventReminderName(int index);

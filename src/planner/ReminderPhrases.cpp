@@ -1,0 +1,49 @@
+// The words of the reminder list.
+#include "planner/ReminderPhrases.h"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr std::int64_t MinutesPerHour = 60;
+constexpr std::int64_t MinutesPerDay = 1440;
+
+std::string Hours(std::int64_t minutes) {
+    return minutes < 2 * MinutesPerHour ? "1 Hour" : std::to_string(minutes / MinutesPerHour) + " Hours";
+}
+
+std::string HoursOrMinutes(std::int64_t minutes) {
+    if (minutes > MinutesPerHour) {
+        return Hours(minutes);
+    }
+    return std::to_string(minutes) + (minutes == 1 ? " Minute" : " Minutes");
+}
+
+} // namespace
+
+std::string DayPhrase(int days) {
+    switch (days) {
+    case 1:
+        return "Tomorrow";
+    case 0:
+        return "Today";
+    case -1:
+        return "Yesterday";
+    default:
+        return std::to_string(std::abs(days)) + (days > 0 ? " Days from Now" : " Days Ago");
+    }
+}
+
+std::string MomentPhrase(std::int64_t minutes, int days) {
+    if (minutes == 0) {
+        return "Now";
+    }
+    if (std::abs(minutes) > MinutesPerDay && days != 0) {
+        return DayPhrase(days);
+    }
+    return HoursOrMinutes(std::abs(minutes)) + (minutes > 0 ? " from Now" : " Ago");
+}
+
+std::string ReminderTitle(int rows) {
+    return std::to_string(rows) + (rows == 1 ? " Reminder" : " Reminders");
+}
