@@ -1,6 +1,10 @@
 target_sources(planovarium_logic PRIVATE
   mainwindow/DayLayout.cpp
   mainwindow/GridLayout.cpp
+  mainwindow/LargeCalendarLayout.cpp
+  mainwindow/MonthCells.cpp
+  mainwindow/MonthMarks.cpp
   mainwindow/PopupCaptions.cpp
   mainwindow/TermStatus.cpp
+  mainwindow/ViewMenuColor.cpp
 )

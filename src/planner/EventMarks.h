@@ -2,11 +2,10 @@
 #pragma once
 
 #include "planner/ListFilter.h"
+#include "planner/MonthGrid.h"
 #include "platform/Clock.h"
 
 #include <array>
-
-inline constexpr int MonthCells = 42;
 
 // One entry a cell, from 0.
 struct EventMarks {

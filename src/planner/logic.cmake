@@ -5,6 +5,7 @@ target_sources(planovarium_logic PRIVATE
   planner/ClassLink.cpp
   planner/ComboRows.cpp
   planner/DateHelpers.cpp
+  planner/DateTitles.cpp
   planner/DayTotals.cpp
   planner/Decimal.cpp
   planner/DurationEntry.cpp
@@ -15,6 +16,7 @@ target_sources(planovarium_logic PRIVATE
   planner/EventWalk.cpp
   planner/Grades.cpp
   planner/HomeworkSelection.cpp
+  planner/MonthGrid.cpp
   planner/RecurrenceEntry.cpp
   planner/ReminderActions.cpp
   planner/ReminderEngine.cpp

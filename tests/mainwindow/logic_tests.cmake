@@ -1,5 +1,9 @@
 target_sources(logic_tests PRIVATE
   mainwindow/DayLayoutTest.cpp
   mainwindow/GridLayoutTest.cpp
+  mainwindow/LargeCalendarLayoutTest.cpp
+  mainwindow/MonthCellsTest.cpp
+  mainwindow/MonthMarksTest.cpp
   mainwindow/PopupCaptionsTest.cpp
+  mainwindow/ViewMenuColorTest.cpp
 )

@@ -5,6 +5,7 @@ target_sources(logic_tests PRIVATE
   planner/ClassLinkTest.cpp
   planner/ComboRowsTest.cpp
   planner/DateHelpersTest.cpp
+  planner/DateTitlesTest.cpp
   planner/DayTotalsTest.cpp
   planner/DecimalTest.cpp
   planner/DurationEntryTest.cpp
@@ -17,6 +18,7 @@ target_sources(logic_tests PRIVATE
   planner/GPATableTest.cpp
   planner/GradesTest.cpp
   planner/HomeworkSelectionTest.cpp
+  planner/MonthGridTest.cpp
   planner/RecurrenceEntryTest.cpp
   planner/RecurrenceOracle.cpp
   planner/RecurrenceOracleTest.cpp

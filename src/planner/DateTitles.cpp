@@ -1,0 +1,12 @@
+// The titles under which a month and a day are shown.
+#include "planner/DateTitles.h"
+
+ScreenText MonthTitle(Date date) {
+    const auto year = static_cast<int>(std::chrono::year_month_day{date}.year());
+    return {FormatDate(date, "MMMM").utf8 + " " + std::to_string(year)};
+}
+
+ScreenText DayTitle(Date date) {
+    return {FormatDate(date, "dddd").utf8 + ", " + FormatDate(date, "mmm").utf8 + " " +
+            FormatDate(date, "d").utf8};
+}
