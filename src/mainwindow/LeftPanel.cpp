@@ -10,8 +10,6 @@
 namespace {
 
 constexpr int StepperSize = 20;
-constexpr int CellHeight = 18;
-constexpr int HeadHeight = 16;
 constexpr int TodayHeight = 22;
 constexpr int SmallButtonWidth = 50; // the small buttons stand 750 units apart
 constexpr int SmallButtonHeight = 26;
@@ -19,14 +17,6 @@ constexpr int SmallIcon = 18;
 constexpr int PanelGap = 5;
 constexpr int CounterBoxWidth = 58;
 constexpr int TimeHeight = 26;
-constexpr double CellPoints = 8.25;
-
-ClickLabel* CentredLabel(const SurfaceFont& font) {
-    auto* label = new ClickLabel;
-    label->setAlignment(Qt::AlignCenter);
-    label->setFont(ToQFont(font));
-    return label;
-}
 
 QLabel* PlainLabel(const QString& text = {}) {
     auto* label = new QLabel(text);
@@ -73,13 +63,6 @@ QToolButton* SmallNewButton(const char* picture, const char* name) {
     return button;
 }
 
-// Puts the widget over the whole of another one.
-void LayOver(QWidget* over, QWidget* ground) {
-    auto* layout = new QVBoxLayout(ground);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(over);
-}
-
 } // namespace
 
 QWidget* frmMain::BuildLeftPanel() {
@@ -113,41 +96,25 @@ QWidget* frmMain::BuildSmallCalendar() {
     picCalMonthUp = Picture("picStashCalMonthRightUp.svg", {StepperSize, StepperSize});
     picCalMonthDown->setAccessibleName(QStringLiteral("One month back"));
     picCalMonthUp->setAccessibleName(QStringLiteral("One month on"));
-    LabelMonth = CentredLabel({Face::Title, CellPoints, true});
+    LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
     head->addWidget(picCalMonthDown);
     head->addWidget(LabelMonth, 1);
     head->addWidget(picCalMonthUp);
     grid->addLayout(head, 0, 0, 1, 7);
 
-    for (std::size_t i = 0; i < LabelCalDay.size(); ++i) {
-        LabelCalDay[i] = CentredLabel({Face::Title, CellPoints, false});
-        LabelCalDay[i]->setFixedHeight(HeadHeight);
-        grid->addWidget(LabelCalDay[i], 1, static_cast<int>(i));
-    }
-    for (std::size_t i = 0; i < LabelCalDate.size(); ++i) {
-        LabelCalDate[i] = CentredLabel({Face::Title, CellPoints, false});
-        LabelCalDate[i]->setFixedHeight(CellHeight);
-        grid->addWidget(LabelCalDate[i], 2 + static_cast<int>(i) / 7, static_cast<int>(i) % 7);
-    }
-    LabelCalTileBorder = new QFrame(PictureBoxCalendar);
-    LabelCalTileBorder->setFrameShape(QFrame::Box);
-    LabelCalTileBorder->setAttribute(Qt::WA_TransparentForMouseEvents);
-    LabelCalTileBorder->hide();
+    BuildDayLabels(grid, 1, LabelCalDay, LabelCalDate);
+    LabelCalTileBorder = new TileBorder(PictureBoxCalendar);
 
     auto* days = new QHBoxLayout;
-    picToday = Picture("picStashTodayUp.svg", {LeftPanelWidth / 2 - 6, TodayHeight});
-    picTomorrow = Picture("picStashTomorrowUp.svg", {LeftPanelWidth / 2 - 6, TodayHeight});
-    LabelToday = CentredLabel({Face::Title, CellPoints, false});
-    LabelToday->setText(QStringLiteral("Today"));
-    LayOver(LabelToday, picToday);
-    LabelTomorrow = CentredLabel({Face::Title, CellPoints, false});
-    LabelTomorrow->setText(QStringLiteral("Tomorrow"));
-    LayOver(LabelTomorrow, picTomorrow);
+    const QSize buttonSize{LeftPanelWidth / 2 - 6, TodayHeight};
+    picToday = DayButton("Today", buttonSize, LabelToday);
+    picTomorrow = DayButton("Tomorrow", buttonSize, LabelTomorrow);
     days->addWidget(picToday);
     days->addWidget(picTomorrow);
     grid->addLayout(days, 8, 0, 1, 7);
 
-    picLock = new PictureBox(PictureBoxCalendar);
+    picLock = new PictureBox;
+    grid->addWidget(picLock, 0, 0, 9, 7);
     picLock->hide();
     return PictureBoxCalendar;
 }

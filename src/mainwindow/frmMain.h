@@ -2,11 +2,14 @@
 // subject in files of their own; other windows read the fields directly.
 #pragma once
 
+#include "mainwindow/LargeCalendarLayout.h"
 #include "mainwindow/Mode.h"
+#include "mainwindow/MonthCells.h"
 #include "mainwindow/PopupCaptions.h"
 #include "planner/ListFilter.h"
 #include "platform/ClickLabel.h"
 #include "platform/Clock.h"
+#include "platform/DayLabels.h"
 #include "platform/PictureBox.h"
 
 #include <QAction>
@@ -58,7 +61,7 @@ public:
     PictureBox *picCalMonthUp = nullptr, *picCalMonthDown = nullptr;
     std::array<ClickLabel*, 7> LabelCalDay{};
     std::array<ClickLabel*, 42> LabelCalDate{};
-    QFrame* LabelCalTileBorder = nullptr; // the frame around today
+    TileBorder* LabelCalTileBorder = nullptr; // the frame around today
     PictureBox *picToday = nullptr, *picTomorrow = nullptr;
     ClickLabel *LabelToday = nullptr, *LabelTomorrow = nullptr;
     PictureBox* picLock = nullptr; // over the small calendar in Reminders mode
@@ -106,6 +109,11 @@ public:
     std::string RefreshReason{ReasonNone}; // the order to RefreshView
     bool ChangingMode = false;             // a mode entry fills the filter menus, whose handlers keep quiet
     int ShownMonth = 13;                   // month of which the marks are; 13 forces them anew
+    int ShownYear = 0;                     // and the year of that month
+    CalendarMonth Month;                   // the month that both calendars show
+    CalendarLayout CalendarGrid;           // where the large calendar was painted
+    bool StepperHeld = false;              // a stepper of the calendar is pressed
+    std::size_t HeldStepper = 0;           // the one pressed last
     int SortColumn = 0; // column that the rows are sorted by; what it means depends on the mode
     int SortDirection = Ascending;
     int FirstRow = 1;                  // number of the row at the top of the list
@@ -190,7 +198,16 @@ public:
     void PaintMonthCells();
     void ApplyStartDayOfWeek();
     void ChooseStartDayOfWeek(const std::string& day);
+
+    // Shows the date, in whatever mode.
     void GoToDate(Date date);
+
+    // What the controls of the calendar do: go to an entry of CellDate, step while a button is held. Nothing
+    // reacts in Reminders mode.
+    void GoToEntry(std::size_t entry);
+    void PressStepper(std::size_t index);
+    void StepperTick();
+    void ReleaseStepper();
     void LayoutCalendarGrid();
     void ShowCalendarTitles();
 

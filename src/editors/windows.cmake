@@ -1,0 +1,5 @@
+target_sources(planovarium_windows PRIVATE
+  editors/DatePicker.cpp
+  editors/DatePicker.h
+  editors/DatePickerSetup.cpp
+)
