@@ -38,6 +38,7 @@ std::filesystem::path DataFolder;
 std::filesystem::path BackupFolder;
 std::filesystem::path HelpFile;
 FileFlags FileWrittenFlags;
+std::array<ChosenFilter, 5> ChosenFilters;
 
 bool AssignmentDBFirstOpen = false;
 bool SelectCourseScheduleDBFirstOpen = false;

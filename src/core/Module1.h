@@ -6,6 +6,7 @@
 #include "core/TypeTable.h"
 #include "platform/Clock.h"
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -70,6 +71,17 @@ struct FileFlags {
 };
 
 extern FileFlags FileWrittenFlags;
+
+// --- The filter menus
+// ----------------------------------------------------------------------------------------------
+
+// The words last chosen in ComboList and ComboDateRange while a mode was shown.
+struct ChosenFilter {
+    std::string list, range;
+};
+
+// Of Homework, Study Sessions, Tasks, Events and Reminders, in this order.
+extern std::array<ChosenFilter, 5> ChosenFilters;
 
 // --- The run
 // ---------------------------------------------------------------------------------------------------

@@ -2,8 +2,11 @@ target_sources(logic_tests PRIVATE
   mainwindow/DayLayoutTest.cpp
   mainwindow/GridLayoutTest.cpp
   mainwindow/LargeCalendarLayoutTest.cpp
+  mainwindow/ModeTablesTest.cpp
   mainwindow/MonthCellsTest.cpp
   mainwindow/MonthMarksTest.cpp
   mainwindow/PopupCaptionsTest.cpp
+  mainwindow/StartupShortcutTest.cpp
+  mainwindow/StudyTimerClockTest.cpp
   mainwindow/ViewMenuColorTest.cpp
 )

@@ -154,7 +154,7 @@ long StartProcess(const std::string& program, std::initializer_list<std::string>
 }
 
 std::filesystem::path StartupFolder() {
-    return std::filesystem::temp_directory_path() / "planovarium-startup";
+    return Script.startupFolder;
 }
 
 void OnTermination(std::function<void()>) {

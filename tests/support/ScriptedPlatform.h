@@ -9,6 +9,7 @@
 #include "platform/Tray.h"
 
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -39,6 +40,7 @@ struct ScriptedPlatform {
     std::string trayTip; // empty while there is no icon
     TrayEvents trayEvents;
     std::function<bool(const std::string&)> receiveLink;
+    std::filesystem::path startupFolder; // from which the desktop session starts programs
     ScreenSize screen{1280, 1024};
     WorkArea workArea{0, 0, 1280, 994};
 };

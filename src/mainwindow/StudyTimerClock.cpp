@@ -1,0 +1,50 @@
+// The study timer's arithmetic: the time run so far, split and written out.
+#include "mainwindow/StudyTimerClock.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double SecondsPerHour = 3600;
+constexpr double SecondsPerMinute = 60;
+
+double SecondsBetween(Moment start, Moment end) {
+    return static_cast<double>((end - start).count());
+}
+
+std::string TwoDigits(double value) {
+    const std::string digits = "0" + std::to_string(static_cast<long long>(value));
+    return digits.substr(digits.size() - 2);
+}
+
+} // namespace
+
+void BankTimer(StudyTimerClock& timer, Moment now) {
+    timer.TimerBanked += SecondsBetween(timer.TimerStart, now);
+}
+
+void TickTimer(StudyTimerClock& timer, Moment now) {
+    timer.TimerElapsedNow = SecondsBetween(timer.TimerStart, now);
+    const double total = timer.TimerBanked + timer.TimerElapsedNow;
+    timer.TimerHours = std::trunc(total / SecondsPerHour);
+    const double rest = total - timer.TimerHours * SecondsPerHour;
+    timer.TimerMinutes = std::trunc(rest / SecondsPerMinute);
+    timer.TimerSeconds = rest - timer.TimerMinutes * SecondsPerMinute;
+}
+
+void ResetTimer(StudyTimerClock& timer) {
+    timer.TimerHours = 0;
+    timer.TimerMinutes = 0;
+    timer.TimerSeconds = 0;
+    timer.TimerBanked = 0;
+}
+
+std::string TimerText(const StudyTimerClock& timer) {
+    const std::string hours = TwoDigits(timer.TimerHours);
+    const std::string minutes = TwoDigits(timer.TimerMinutes);
+    if (timer.ShowSeconds) {
+        return hours + ":" + minutes + ":" + TwoDigits(timer.TimerSeconds);
+    }
+    const bool odd = std::fmod(timer.TimerSeconds, 2) != 0;
+    return hours + (odd ? " " : ":") + minutes;
+}
