@@ -1,10 +1,22 @@
 // The ways in which the main window appears and goes: at the start, for a second instance, from the tray, and
 // by the close box, which only hides it.
+#include "core/DateText.h"
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
 
 #include <QCloseEvent>
+
+namespace {
+
+// The day of the occurrence whose reminder was shown.
+Date ReminderDayOfEvent(int position) {
+    const EventLists& events = Store.EventRecord;
+    const bool single = events.recurrence.Item(position) == "None";
+    return DateValue((single ? events.date : events.reminder_currentday).Item(position));
+}
+
+} // namespace
 
 void frmMain::ShowAtStart(const std::string& commandLine) {
     if (commandLine != "Startup Folder") {
@@ -44,9 +56,29 @@ void frmMain::HideWindows() {
 }
 
 void frmMain::OpenFromReminders() {
+    if (!CalledFromReminders) {
+        return;
+    }
+    CalledFromReminders = false;
+    if (ReminderOpenMode == "Task") {
+        ChooseMode(Mode::Tasks);
+        EditTask(ReminderIndex);
+    } else if (ReminderOpenMode == "Homework") {
+        ChooseMode(Mode::Homework);
+        EditAssignment(ReminderIndex);
+    } else if (ReminderOpenMode == "Event") {
+        ClickedDate = ReminderDayOfEvent(ReminderIndex);
+        SelectedDate = ClickedDate; // which the mode entry takes the clicked day from
+        ShowEventMode();
+        EditEvent(ReminderIndex);
+    }
 }
 
+// An editor runs a loop of its own, so it opens once the activation is done.
 bool frmMain::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && CalledFromReminders) {
+        QMetaObject::invokeMethod(this, &frmMain::OpenFromReminders, Qt::QueuedConnection);
+    }
     return QMainWindow::event(event);
 }
 

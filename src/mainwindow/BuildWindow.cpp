@@ -63,7 +63,9 @@ frmMain::frmMain() {
     BindCalendar();
     BindGrid();
     BindPanels();
+    BindAlerts();
     BindStudyTimer();
+    BindAutoStart();
     BindCommands();
 }
 

@@ -1,6 +1,60 @@
 // The commands of the menu bar, the mode bar and the buttons, bound to their procedures.
+#include "core/Module1.h"
+#include "mainwindow/ModeTables.h"
 #include "mainwindow/frmMain.h"
+#include "platform/Process.h"
+
+namespace {
+
+constexpr const char* NewEventStart = "9:00 AM";
+
+// A checkable item turns its check mark before it tells that it was chosen. It is turned back, so that the
+// command finds the marks as they were.
+void BindCheckable(QAction* item, const std::function<void()>& command) {
+    QObject::connect(item, &QAction::triggered, item, [item, command](bool nowChecked) {
+        item->setChecked(!nowChecked);
+        command();
+    });
+}
+
+// The picture and the word of the reminders open their own window instead of the mode.
+void BindModeChoices(frmMain& window) {
+    const auto controls = window.AllModeControls();
+    for (const ModeRow& row : ModeRows) {
+        const ModeControls& mode = RowOf(controls, row.mode);
+        const auto choose = [&window, chosen = row.mode] { window.ChooseMode(chosen); };
+        BindCheckable(mode.item, choose);
+        if (row.mode != Mode::Reminders) {
+            QObject::connect(mode.picture, &PictureBox::Clicked, &window, choose);
+        }
+        if (mode.word != nullptr) {
+            QObject::connect(mode.word, &ClickLabel::Clicked, &window, choose);
+        }
+    }
+}
+
+} // namespace
 
 void frmMain::BindCommands() {
+    BindModeChoices(*this);
+    const auto newEvent = [this] {
+        EventClickedStartTime = NewEventStart;
+        NewEvent();
+    };
+    connect(MenuNewAssignment, &QAction::triggered, this, &frmMain::NewAssignment);
+    connect(MenuNewTask, &QAction::triggered, this, &frmMain::NewTask);
+    connect(MenuNewEvent, &QAction::triggered, this, newEvent);
+    connect(ButtonNewAssignmentSmall, &QToolButton::clicked, this, &frmMain::NewAssignment);
+    connect(ButtonNewTaskSmall, &QToolButton::clicked, this, &frmMain::NewTask);
+    connect(ButtonNewEventSmall, &QToolButton::clicked, this, newEvent);
+    connect(ButtonNewAssignment, &QPushButton::clicked, this, &frmMain::NewAssignment);
+    connect(ButtonNewTask, &QPushButton::clicked, this, &frmMain::NewTask);
+    connect(ButtonNewEvent, &QPushButton::clicked, this, newEvent);
+    connect(MenuClassSchedule, &QAction::triggered, this, &frmMain::ClassSchedule);
+    connect(ButtonSelectTerm, &QPushButton::clicked, this, [this] {
+        ClassSchedule();
+        picGrid->setFocus();
+    });
+    connect(MenuData, &QAction::triggered, this, [] { StartProcess("explorer", {DataFolder.string()}); });
     connect(MenuExit, &QAction::triggered, this, &frmMain::HideWindows);
 }

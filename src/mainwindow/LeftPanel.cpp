@@ -17,6 +17,7 @@ constexpr int SmallIcon = 18;
 constexpr int PanelGap = 5;
 constexpr int CounterBoxWidth = 58;
 constexpr int TimeHeight = 26;
+constexpr int AlertHeight = 23;
 
 QLabel* PlainLabel(const QString& text = {}) {
     auto* label = new QLabel(text);
@@ -61,6 +62,15 @@ QToolButton* SmallNewButton(const char* picture, const char* name) {
     button->setToolTip(QLatin1String(name));
     button->setAccessibleName(QLatin1String(name));
     return button;
+}
+
+// An alert is calm, and yet the one thing in the panel that is red.
+QString AlertButtonStyle() {
+    return QStringLiteral("QPushButton { text-align: left; padding: 2px 6px; color: %1; background: %2;"
+                          " border: 1px solid %3; border-radius: 4px; }"
+                          "QPushButton:hover, QPushButton:pressed { background: %3; }"
+                          "QPushButton:focus { border: 1px solid %4; }")
+        .arg(AlertColor.name(), AlertGroundColor.name(), AlertEdgeColor.name(), AccentColor.name());
 }
 
 } // namespace
@@ -254,7 +264,9 @@ QWidget* frmMain::BuildAlerts() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(3);
     for (QPushButton*& button : ButtonAlert) {
-        button = new QPushButton;
+        button = new QPushButton(QIcon(QStringLiteral(":/icons/picAlert.svg")), QString());
+        button->setStyleSheet(AlertButtonStyle());
+        button->setFixedHeight(AlertHeight);
         button->hide();
         column->addWidget(button);
     }
@@ -275,7 +287,7 @@ QWidget* frmMain::BuildTimerPanel() {
     grid->addWidget(picTime, 0, 0, 1, 3);
     int place = 0;
     for (QPushButton* button : {ButtonStart, ButtonReset, ButtonSeconds}) {
-        button->setMinimumWidth(0);
+        button->setMinimumWidth(1); // three stand side by side, each as wide as the panel leaves it
         grid->addWidget(button, 1, place++);
     }
     return PictureBoxTimer;

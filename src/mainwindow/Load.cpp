@@ -34,6 +34,15 @@ void ReadRecordFiles() {
     }
 }
 
+// A planner on a drive neither starts with the desktop session nor shows its folder. Both commands stay.
+void HideUnofferedItems(const frmMain& window) {
+    for (QAction* item : {window.MenuStartup->menuAction(), window.MenuData}) {
+        item->setEnabled(false);
+        item->setVisible(false);
+    }
+    window.mnuHelpBar1->setEnabled(false);
+}
+
 } // namespace
 
 bool frmMain::LoadPlanner() {
@@ -42,17 +51,31 @@ bool frmMain::LoadPlanner() {
     ReceiveLinkCommands("Planovarium", "Transfer Control",
                         [this](const std::string& /*any command is accepted*/) { return LinkExecute(); });
     FileWrittenFlags = {};
+    ClickedDate = Today();
+    SelectedDate = Today();
+    StartDayOfWeek = "Monday"; // until the preferences are read
     MakeProcessMarker();
     if (!SetupFolders()) {
         return false;
     }
     ReadRecordFiles();
+    HideUnofferedItems(*this);
     SetFirstOpenFlags();
     StartupComplete = true;
     if (ShuttingDown) {
         return false;
     }
+    InitViewMenus();
     SetDefaultTypeTable();
-    SetActiveTerm(ReadPreferences());
-    return !ShuttingDown;
+    const std::string term = ReadPreferences();
+    ApplyStartDayOfWeek();
+    SetActiveTerm(term);
+    if (ShuttingDown) {
+        return false;
+    }
+    ShowCalendarMode();
+    ClearStudyTimer();
+    TimerStatusBar->start();
+    picGrid->setFocus();
+    return true;
 }

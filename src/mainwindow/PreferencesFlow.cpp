@@ -33,6 +33,7 @@ std::string frmMain::ReadPreferences() {
     StartDayOfWeek = values.StartDayofWeek;
     tempShowTipsAtStartup = values.ShowTipsAtStartup;
     AutoStart = values.AutoStart;
+    CheckAutoStartItem(values.AutoStartChecked ? AutoStart : "");
     tempCurrentTip = values.CurrentTip;
     PlaceWindow(*this, values);
     PreferencesWereRead = true;

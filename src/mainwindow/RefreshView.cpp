@@ -1,11 +1,84 @@
 // The one procedure in which every change of the window ends: what is redone, by reason and mode.
+#include "mainwindow/ModeTables.h"
+#include "mainwindow/ShowBox.h"
 #include "mainwindow/frmMain.h"
+#include "planner/StudyTimeToday.h"
+
+namespace {
+
+constexpr int UnknownMonth = 13; // no month is shown, so the marks are made anew
+constexpr int MorningRow = 11;   // the day's schedule opens with the half hour of 5 AM
+
+void ShowStudyTimeToday(const frmMain& window, Date day) {
+    const StudyTimeBoxes boxes = StudyTimeToday(day);
+    ShowBox(window.TextBoxMinimum, boxes.TextBoxMinimum);
+    ShowBox(window.TextBoxSuggested, boxes.TextBoxSuggested);
+}
+
+void OpenAtMorning(QScrollBar* scroll) {
+    if (scroll->value() < MorningRow) {
+        scroll->setValue(MorningRow);
+    }
+}
+
+void RunStep(frmMain& window, char step) {
+    switch (step) {
+    case 'B':
+        window.ClickedDate = window.SelectedDate;
+        window.ShownMonth = UnknownMonth;
+        window.BuildMonth();
+        break;
+    case 'C':
+        window.ClickedDate = window.SelectedDate;
+        break;
+    case 'D':
+        window.ClickedDate = Today();
+        break;
+    case 'M':
+        window.ShownMonth = UnknownMonth;
+        break;
+    case 'b':
+        window.BuildMonth();
+        break;
+    case 'L':
+        window.LayoutGrid();
+        break;
+    case 'F':
+        window.FillGrid();
+        break;
+    case 'A':
+        window.StudyTimeAlerts();
+        break;
+    case 'T':
+        ShowStudyTimeToday(window, window.ClickedDate);
+        break;
+    case 'S':
+        OpenAtMorning(window.VSGridScroll);
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace
 
 void frmMain::RefreshView() {
+    for (const char step : RefreshSteps(RefreshReason, CurrentMode())) {
+        RunStep(*this, step);
+    }
     RefreshReason = ReasonNone;
 }
 
 void frmMain::RefreshFor(std::string_view reason) {
     RefreshReason = reason;
     RefreshView();
+}
+
+void frmMain::BindModes() {
+    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
+    connect(picGrid, &PictureBox::Resized, this, [this] {
+        if (!isMinimized() && RefreshReason == ReasonNone && CurrentMode() != Mode::None) {
+            RefreshFor(ReasonResize);
+        }
+    });
 }

@@ -15,6 +15,9 @@ namespace {
 
 // An error leaves the rest of the steps undone, and the process goes on ending.
 void RunShutdownSteps(const frmMain& window) {
+    for (QTimer* timer : {window.Timer1, window.TimerButton, window.TimerStatusBar}) {
+        timer->stop();
+    }
     try {
         DeleteProcessMarker();
         if (window.PreferencesWereRead) {

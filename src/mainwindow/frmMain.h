@@ -6,6 +6,7 @@
 #include "mainwindow/Mode.h"
 #include "mainwindow/MonthCells.h"
 #include "mainwindow/PopupCaptions.h"
+#include "mainwindow/StudyTimerClock.h"
 #include "planner/ListFilter.h"
 #include "platform/ClickLabel.h"
 #include "platform/Clock.h"
@@ -24,6 +25,17 @@
 
 #include <array>
 #include <string>
+
+class frmAlert;
+
+// What stands for a mode in the window: its menu item, its picture and word in the mode bar (some have no
+// word), and the boxes of its three counters (null for none).
+struct ModeControls {
+    QAction* item;
+    PictureBox* picture;
+    ClickLabel* word;
+    std::array<QLineEdit*, 3> boxes;
+};
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -51,7 +63,7 @@ public:
     // --- The mode bar (ModeBar.cpp) ---
     PictureBox *PictureBarCalendar = nullptr, *PictureBarHomework = nullptr,
                *PictureBarStudySessions = nullptr, *PictureBarEvents = nullptr, *PictureBarTasks = nullptr,
-               *PictureBarReminders = nullptr, *PictureBarWeb = nullptr;
+               *PictureBarReminders = nullptr, *PictureBarWeb = nullptr, *picHelp = nullptr;
     ClickLabel *LabelBarCalendar = nullptr, *LabelBarHomework = nullptr, *LabelBarEvents = nullptr,
                *LabelBarTasks = nullptr, *LabelBarReminders = nullptr, *LabelBarWeb = nullptr;
 
@@ -88,6 +100,7 @@ public:
     QLineEdit *TextboxAssignments = nullptr, *TextBoxTasks = nullptr, *TextBoxEvents = nullptr;
 
     std::array<QPushButton*, 4> ButtonAlert{};
+    frmAlert* AlertDialog = nullptr; // shows what an alert button means
     PictureBox* picTime = nullptr;
     QPushButton *ButtonStart = nullptr, *ButtonReset = nullptr, *ButtonSeconds = nullptr;
 
@@ -123,7 +136,7 @@ public:
     int ClickedRow = 0;                // row under the last press; 999 in a list when there is none
     std::string ModeCaption;           // the left text of the status bar
     std::string EventClickedStartTime; // the half hour clicked in the day schedule
-    std::string AlertWhen, AlertAmount, AlertBefore; // parts of the study time alert's message
+    StudyTimerClock StudyTimer;
 
     // --- Options, kept in Prefs.ini ---
     std::string StartDayOfWeek = "Monday"; // or "Sunday", "Saturday"
@@ -146,6 +159,14 @@ public:
     // Makes the term of that name the active one, reads its assignments and shows them.
     void SetActiveTerm(const std::string& name);
 
+    // --- AutoStart.cpp ---
+
+    // Starts with the desktop session from now on as the word says: "Full", "Min", "Tray" or "No".
+    void ChooseAutoStart(const std::string& word);
+
+    // Checks the start item of the word; with any other word none.
+    void CheckAutoStartItem(const std::string& word);
+
     // --- PreferencesFlow.cpp ---
 
     // Takes the options over and puts the window where it was left. Gives the name of the term to activate.
@@ -167,6 +188,12 @@ public:
 
     // --- Modes.cpp: the mode entries, and which mode it is ---
     Mode CurrentMode() const;
+
+    // In the order of Mode.
+    std::array<ModeControls, ModeCount> AllModeControls() const;
+
+    // Enters the mode unless its item is checked already.
+    void ChooseMode(Mode mode);
     void ShowCalendarMode();
     void ShowHomeworkMode();
     void ShowStudySessionsMode();
@@ -179,6 +206,10 @@ public:
     void SaveViewMenus();
     void RestoreViewMenus();
     void PaintViewMenus();
+
+    // Offers the mode's items in the menus, with the words last chosen in it; nothing for a mode without
+    // filters.
+    void FillViewMenus(Mode mode);
 
     // What the selections read from the window, filled for one call.
     ListFilter CurrentFilter() const;
@@ -280,6 +311,9 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    // The entry that all six share.
+    void EnterMode(Mode mode);
+
     // BuildWindow.cpp, MenuBar.cpp, ModeBar.cpp, LeftPanel.cpp: the parts of the window, built in this order.
     void BuildMenuBar();
     QWidget* BuildModeBar();
@@ -300,7 +334,9 @@ private:
     void BindCalendar();
     void BindGrid();
     void BindPanels();
+    void BindAlerts();
     void BindStudyTimer();
+    void BindAutoStart();
     void BindCommands();
 };
 

@@ -2,6 +2,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/ActiveTerm.cpp
   mainwindow/Alerts.cpp
   mainwindow/AssignmentFlow.cpp
+  mainwindow/AutoStart.cpp
   mainwindow/BringForward.cpp
   mainwindow/BuildWindow.cpp
   mainwindow/CalendarSteps.cpp
@@ -32,5 +33,8 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/Unload.cpp
   mainwindow/ViewMenus.cpp
   mainwindow/WindowStyle.cpp
+  mainwindow/frmAlert.cpp
+  mainwindow/frmAlert.h
+  mainwindow/frmAlert.ui
   mainwindow/frmMain.h
 )

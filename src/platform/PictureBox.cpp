@@ -192,6 +192,9 @@ void PictureBox::mousePressEvent(QMouseEvent* event) {
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     emit Released(Units(event->position().x()), Units(event->position().y()), event->button());
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        emit Clicked();
+    }
 }
 
 void PictureBox::wheelEvent(QWheelEvent* event) {

@@ -91,6 +91,9 @@ signals:
     void Pressed(int x, int y, Qt::MouseButton button);
     void Released(int x, int y, Qt::MouseButton button);
 
+    // A left press and release, both over the surface.
+    void Clicked();
+
     // The wheel turned by whole notches; above 0 is away from the user.
     void WheelTurned(int notches);
     void Resized();

@@ -1,4 +1,12 @@
 target_sources(window_tests PRIVATE
+  mainwindow/AlertsTest.cpp
+  mainwindow/AutoStartTest.cpp
+  mainwindow/BringForwardTest.cpp
+  mainwindow/CommandsTest.cpp
   mainwindow/HelpTopicsTest.cpp
+  mainwindow/ModesTest.cpp
   mainwindow/ProcessTest.cpp
+  mainwindow/StatusPanelsTest.cpp
+  mainwindow/StudyTimerTest.cpp
+  mainwindow/ViewMenusTest.cpp
 )

@@ -110,6 +110,10 @@ void WhenDialogOpens(const std::function<void(QWidget*)>& action) {
     poll->start(1);
 }
 
+void FireTimer(QTimer* timer) {
+    ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
+}
+
 QStringList DrawnTexts(const PictureBox& surface) {
     QStringList texts;
     for (const DrawnItem& item : surface.Drawn()) {

@@ -43,5 +43,8 @@ bool WaitUntil(const std::function<bool()>& condition);
 // meanwhile. Fails the test when no dialog opens within five seconds.
 void WhenDialogOpens(const std::function<void(QWidget*)>& action);
 
+// Lets the timer's next tick come now.
+void FireTimer(QTimer* timer);
+
 // The texts drawn on a surface, in order.
 QStringList DrawnTexts(const PictureBox& surface);

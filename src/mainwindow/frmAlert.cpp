@@ -1,0 +1,14 @@
+// frmAlert: a small window with one text and an OK button, which the alert buttons show.
+#include "mainwindow/frmAlert.h"
+
+#include <QCloseEvent>
+
+frmAlert::frmAlert(QWidget* parent) : QDialog(parent) {
+    setupUi(this);
+    connect(ButtonOK, &QPushButton::clicked, this, &QDialog::hide);
+}
+
+void frmAlert::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    hide();
+}

@@ -1,0 +1,209 @@
+// The alert buttons, and the window behind each.
+#include "core/Module1.h"
+#include "mainwindow/frmAlert.h"
+#include "support/StoreRecords.h"
+#include "support/WindowTest.h"
+
+#include <QPlainTextEdit>
+
+namespace {
+
+const std::string OneTerm = R"(<?xml version="1.0" encoding="ISO-8859-1"?>
+<term_data>
+<term>
+  <id>1</id>
+  <name>Fall 2009</name>
+  <start>2009/08/24</start>
+  <end>2009/12/18</end>
+</term>
+</term_data>
+)";
+
+class Alerts : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        WriteData("terms.xml", OneTerm);
+        LoadWindow();
+    }
+
+    // The clock stands at noon of 2009-10-14.
+    void AddHomework(const std::string& date, const std::string& done = "False") {
+        AddAssignmentRecord({.date = date, .time_left = "01 : 30", .done = done});
+        window->RefreshFor(ReasonNewRecord);
+    }
+
+    QStringList Shown() const {
+        QStringList captions;
+        for (const QPushButton* button : window->ButtonAlert) {
+            if (!button->isHidden()) {
+                captions.append(button->text());
+            }
+        }
+        return captions;
+    }
+
+    struct Message {
+        QString title, text;
+    };
+
+    // The window that a click on the button opens, closed by its OK button.
+    Message Click(std::size_t index) {
+        Message message;
+        WhenDialogOpens([&message](QWidget* dialog) {
+            message = {dialog->windowTitle(),
+                       dialog->findChild<QPlainTextEdit*>("TextBoxAlert")->toPlainText()};
+            QTest::mouseClick(dialog->findChild<QPushButton*>("ButtonOK"), Qt::LeftButton);
+        });
+        QTest::mouseClick(window->ButtonAlert[index], Qt::LeftButton);
+        return message;
+    }
+};
+
+} // namespace
+
+TEST_F(Alerts, NoneShowsWithoutHomework) {
+    EXPECT_EQ(Shown(), QStringList{});
+}
+
+TEST_F(Alerts, HomeworkDueTodayShowsItsButtonAndThatOfStudyTime) {
+    AddHomework("2009/10/14");
+    EXPECT_EQ(Shown(), (QStringList{"Study Time Alert", "Homework Due Today"}));
+}
+
+TEST_F(Alerts, HomeworkDueTomorrowShowsItsButtonAndThatOfStudyTime) {
+    AddHomework("2009/10/15");
+    EXPECT_EQ(Shown(), (QStringList{"Study Time Alert", "Homework Due Tomorrow"}));
+}
+
+TEST_F(Alerts, LateHomeworkShowsItsButtonAlone) {
+    AddHomework("2009/10/13");
+    EXPECT_EQ(Shown(), QStringList{"Late Assignment"});
+}
+
+TEST_F(Alerts, AllFourCanStandAtOnce) {
+    for (const char* date : {"2009/10/13", "2009/10/14", "2009/10/15"}) {
+        AddHomework(date);
+    }
+    EXPECT_EQ(Shown(), (QStringList{"Study Time Alert", "Homework Due Tomorrow", "Homework Due Today",
+                                    "Late Assignment"}));
+}
+
+TEST_F(Alerts, ButtonGoesWhenTheHomeworkIsDone) {
+    AddHomework("2009/10/14");
+    Store.Assignment.done.Replace(1, "True");
+    window->RefreshFor(ReasonNewRecord);
+    EXPECT_EQ(Shown(), QStringList{});
+}
+
+TEST_F(Alerts, AllFourFitIntoTheSmallestWindow) {
+    for (const char* date : {"2009/10/13", "2009/10/14", "2009/10/15"}) {
+        AddHomework(date);
+    }
+    ASSERT_EQ(window->size(), QSize(780, 575));
+    QCoreApplication::sendPostedEvents();
+    const auto areaOf = [this](const QWidget* widget) {
+        return QRect(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
+    };
+    std::vector<const QWidget*> stack{window->PictureBoxCalendar, window->ButtonNewTaskSmall,
+                                      window->PictureBoxTerm};
+    stack.insert(stack.end(), window->ButtonAlert.begin(), window->ButtonAlert.end());
+    stack.push_back(window->PictureBoxTimer);
+    for (std::size_t i = 0; i < stack.size(); ++i) {
+        EXPECT_GE(stack[i]->height(), stack[i]->minimumSizeHint().height()) << i;
+        if (i > 0) {
+            EXPECT_GT(areaOf(stack[i]).top(), areaOf(stack[i - 1]).bottom()) << i;
+        }
+    }
+    EXPECT_LE(areaOf(stack.back()).bottom(), areaOf(window->picStatusBar).top());
+    std::vector<const QPushButton*> buttons(window->ButtonAlert.begin(), window->ButtonAlert.end());
+    buttons.insert(buttons.end(), {window->ButtonStart, window->ButtonReset, window->ButtonSeconds});
+    for (const QPushButton* button : buttons) {
+        EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()) +
+                      (button->icon().isNull() ? 0 : button->iconSize().width()),
+                  button->width())
+            << button->text().toStdString();
+    }
+}
+
+TEST_F(Alerts, StudyTimeMessageNamesTheShortage) {
+    AddHomework("2009/10/14");
+    const Message message = Click(0);
+    EXPECT_EQ(message.title, "Planovarium - Study Time Alert");
+    EXPECT_TRUE(message.text.startsWith("You have not scheduled enough Study Time to finish homework due "
+                                        "today. You need to schedule at least "
+                                        "1 hour and 30 minutes more Study Time today.\n\nStudy Time can be "
+                                        "scheduled in Calendar Mode or Event "
+                                        "Mode. To schedule Study Time:\n\n- Create a new event\n"))
+        << message.text.toStdString();
+}
+
+TEST_F(Alerts, DueTomorrowMessage) {
+    AddHomework("2009/10/15");
+    const Message message = Click(1);
+    EXPECT_EQ(message.title, "Planovarium - Homework Due Tomorrow");
+    EXPECT_EQ(
+        message.text,
+        "You have homework due tomorrow.\n\nThe reminder button will disappear when you have finished your "
+        "assignments and marked them as 'Done'. To do this:\n\n- Open the assignment\n- Click the 'Done' "
+        "checkbox at the bottom\n- Click OK");
+}
+
+TEST_F(Alerts, DueTodayMessage) {
+    AddHomework("2009/10/14");
+    const Message message = Click(2);
+    EXPECT_EQ(message.title, "Planovarium - Homework Due Today");
+    EXPECT_TRUE(message.text.startsWith("You have homework due today.\n\nRemember to mark"));
+}
+
+TEST_F(Alerts, LateMessageHasATitleOfItsOwn) {
+    AddHomework("2009/10/13");
+    EXPECT_EQ(window->ButtonAlert[3]->text(), "Late Assignment");
+    const Message message = Click(3);
+    EXPECT_EQ(message.title, "Planovarium - Late Homework");
+    EXPECT_TRUE(message.text.startsWith("You have one or more late assignments.\n\n"));
+}
+
+TEST_F(Alerts, FirstMessageOpensBesideTheMainWindowAndLaterOnesWhereItWasLeft) {
+    AddHomework("2009/10/13");
+    window->move(40, 30);
+    QPoint first, second;
+    WhenDialogOpens([&first](QWidget* dialog) {
+        first = dialog->pos();
+        dialog->move(333, 222);
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+    EXPECT_EQ(first, window->pos() + QPoint(250, 150));
+    EXPECT_FALSE(AlertDBFirstOpen);
+    WhenDialogOpens([&second](QWidget* dialog) {
+        second = dialog->pos();
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+    EXPECT_EQ(second, QPoint(333, 222));
+}
+
+TEST_F(Alerts, CloseOfTheMessageOnlyHidesIt) {
+    AddHomework("2009/10/13");
+    WhenDialogOpens([](QWidget* dialog) { EXPECT_FALSE(dialog->close()); });
+    window->ShowAlertMessage(3);
+    EXPECT_TRUE(window->AlertDialog->isHidden());
+}
+
+TEST_F(Alerts, GridHasTheFocusAfterTheMessage) {
+    AddHomework("2009/10/13");
+    window->ButtonSelectTerm->setFocus();
+    Click(3);
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+}
+
+TEST_F(Alerts, MessageCannotBeTypedInto) {
+    AddHomework("2009/10/13");
+    WhenDialogOpens([](QWidget* dialog) {
+        auto* text = dialog->findChild<QPlainTextEdit*>("TextBoxAlert");
+        EXPECT_TRUE(text->isReadOnly());
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+}

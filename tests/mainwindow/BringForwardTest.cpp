@@ -1,0 +1,92 @@
+// What the main window opens when the reminder window has called it forward.
+#include "core/Module1.h"
+#include "support/EventRecords.h"
+#include "support/WindowTest.h"
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class OpenFromReminders : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        LoadWindow();
+    }
+
+    // The reminder window asks for a record, and the main window becomes the active one.
+    void CallForward(const std::string& mode, int index) {
+        CalledFromReminders = true;
+        ReminderOpenMode = mode;
+        ReminderIndex = index;
+        Activate();
+        ASSERT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
+    }
+
+    void Activate() {
+        QEvent activation(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(window.get(), &activation);
+    }
+};
+
+} // namespace
+
+TEST_F(OpenFromReminders, TaskEntersTasksMode) {
+    CallForward("Task", 1);
+    EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
+}
+
+TEST_F(OpenFromReminders, HomeworkEntersHomeworkMode) {
+    CallForward("Homework", 1);
+    EXPECT_EQ(window->CurrentMode(), Mode::Homework);
+}
+
+TEST_F(OpenFromReminders, ModeThatIsCheckedIsNotEnteredAgain) {
+    window->ShowTaskMode();
+    window->SortColumn = 2;
+    CallForward("Task", 1);
+    EXPECT_EQ(window->SortColumn, 2);
+    window->ShowHomeworkMode();
+    window->SortColumn = 3;
+    CallForward("Homework", 1);
+    EXPECT_EQ(window->SortColumn, 3);
+}
+
+TEST_F(OpenFromReminders, SingleEventShowsItsDate) {
+    const int event = AddEventRecord({.date = "2009/11/03", .reminder_currentday = "2009/12/24"});
+    CallForward("Event", event);
+    EXPECT_EQ(window->CurrentMode(), Mode::Events);
+    EXPECT_EQ(window->ClickedDate, Date{2009y / 11 / 3});
+    EXPECT_EQ(window->SelectedDate, Date{2009y / 11 / 3});
+}
+
+TEST_F(OpenFromReminders, SeriesShowsTheDayOfItsReminder) {
+    const int event =
+        AddEventRecord({.date = "2009/11/03", .recurrence = "Daily", .reminder_currentday = "2009/12/24"});
+    CallForward("Event", event);
+    EXPECT_EQ(window->ClickedDate, Date{2009y / 12 / 24});
+}
+
+TEST_F(OpenFromReminders, EventEntersItsModeEvenWhereItIsChecked) {
+    window->ShowEventMode();
+    window->SortColumn = 1;
+    CallForward("Event", AddEventRecord({.date = "2009/11/03"}));
+    EXPECT_EQ(window->SortColumn, 3);
+    EXPECT_EQ(window->ClickedDate, Date{2009y / 11 / 3});
+}
+
+TEST_F(OpenFromReminders, EditorOpensBehindTheActivationAndNotInIt) {
+    CalledFromReminders = true;
+    ReminderOpenMode = "Task";
+    Activate();
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+    ASSERT_TRUE(WaitUntil([this] { return window->CurrentMode() == Mode::Tasks; }));
+}
+
+TEST_F(OpenFromReminders, ActivationAloneOpensNothing) {
+    ReminderOpenMode = "Task";
+    ReminderIndex = 1;
+    Activate();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
