@@ -3,6 +3,7 @@
 #include "planner/RecurrenceOracle.h"
 #include "core/DateText.h"
 #include "core/Module1.h"
+#include "planner/DateHelpers.h"
 #include "planner/EventMarks.h"
 #include "planner/EventOccursOn.h"
 #include "planner/EventWalk.h"
@@ -88,10 +89,7 @@ TEST(RecurrenceOracle, AgreesOnSingleDays) {
 TEST(RecurrenceOracle, AgreesOnTheMarksOfAMonth) {
     ForEachBatch([](std::mt19937&, const Batch& batch) {
         const std::vector<OracleDay> row = OracleDays(batch.anchor, batch.anchor + days{MonthCells - 1});
-        std::vector<DayFacts> facts;
-        for (const OracleDay& day : row) {
-            facts.push_back(FactsOf(day.date));
-        }
+        const std::vector<DayFacts> facts = FactsOfDays(batch.anchor, MonthCells);
         std::array<int, MonthCells> counts{};
         for (std::size_t i = 0; i < batch.all.size(); ++i) {
             const OracleSeries& series = batch.all[i];
@@ -147,10 +145,8 @@ TEST(RecurrenceOracle, FindsNoDifferenceBetweenTheRulesButThoseThatAreMeant) {
         for (const EventOccurrence& occurrence : SelectEventsInRange(batch.anchor, "Month")) {
             walked[static_cast<std::size_t>(occurrence.position) - 1].push_back(occurrence.date);
         }
-        std::vector<DayFacts> facts;
-        for (Date day = batch.anchor; day <= LastOfRange(batch.anchor, "Month"); day += days{1}) {
-            facts.push_back(FactsOf(day));
-        }
+        const int count = DayDiff(batch.anchor, LastOfRange(batch.anchor, "Month")) + 1;
+        const std::vector<DayFacts> facts = FactsOfDays(batch.anchor, count);
         for (std::size_t i = 0; i < batch.all.size(); ++i) {
             DayBits inWalk = 0;
             for (const Date date : walked[i]) {
