@@ -1,3 +1,5 @@
 target_sources(planovarium_bench PRIVATE
+  ListBench.cpp
   RecurrenceBench.cpp
+  StudyBench.cpp
 )
