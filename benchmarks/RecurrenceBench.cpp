@@ -13,6 +13,7 @@
 #include <benchmark/benchmark.h>
 #include <libical/ical.h>
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <vector>
@@ -31,10 +32,8 @@ using CellCounts = std::array<int, MonthCells>;
 
 std::vector<RfcSeries> SampleSeries(int count) {
     std::mt19937 random{42};
-    std::vector<RfcSeries> all;
-    for (int i = 0; i < count; ++i) {
-        all.push_back(RandomRfcSeries(random, Earliest));
-    }
+    std::vector<RfcSeries> all(static_cast<std::size_t>(count));
+    std::ranges::generate(all, [&] { return RandomRfcSeries(random, Earliest); });
     return all;
 }
 

@@ -1,3 +1,7 @@
 target_sources(planovarium_bench PRIVATE
+  CalendarLibrariesBench.cpp
+  ListBench.cpp
+  RecordFilesBench.cpp
   RecurrenceBench.cpp
+  StudyBench.cpp
 )

@@ -12,9 +12,10 @@ endif()
 add_library(planovarium_flags INTERFACE)
 target_compile_options(planovarium_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
-# GCC 12 warns of an overlap in the library's own string concatenation (gcc.gnu.org/bugzilla 105651).
+# GCC 12 warns of an overlap in the library's own string concatenation (gcc.gnu.org/bugzilla 105651). Clang's tools
+# read the same flags and do not know that warning.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  target_compile_options(planovarium_flags INTERFACE -Wno-restrict)
+  target_compile_options(planovarium_flags INTERFACE -Wno-unknown-warning-option -Wno-restrict)
 endif()
 target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
 

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr int GreatestColor = 0xFFFFFF;
-constexpr std::size_t GreatestIdLength = 5;
+constexpr std::size_t GreatestBareLength = 9;
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';
@@ -50,6 +50,21 @@ std::array<unsigned char, 256> FoldTable() {
 
 const std::array<unsigned char, 256> Folded = FoldTable();
 
+// The number in a text of a few bare digits, which is what nearly every text of a number is.
+std::optional<int> BareNumberIn(std::string_view text) {
+    if (text.empty() || text.size() > GreatestBareLength) {
+        return std::nullopt;
+    }
+    int number = 0;
+    for (const char character : text) {
+        if (!IsDigit(character)) {
+            return std::nullopt;
+        }
+        number = number * 10 + (character - '0');
+    }
+    return number;
+}
+
 // The number rounded, halves to even; raises the run-time error beyond the limits.
 int WholeBetween(int least, int greatest, double number) {
     const double rounded = std::nearbyint(number); // the default rounding mode takes halves to even
@@ -81,6 +96,9 @@ std::string_view Trim(std::string_view text) {
 }
 
 std::optional<double> NumberIn(std::string_view text) {
+    if (const std::optional<int> bare = BareNumberIn(text)) {
+        return *bare;
+    }
     std::string_view digits = Trim(text);
     const bool negative = digits.starts_with('-');
     if (negative || digits.starts_with('+')) {
@@ -121,12 +139,6 @@ int ToInt16(std::string_view text) {
 }
 
 std::optional<int> IdIn(std::string_view text) {
-    // Nearly every id is bare digits, which are read without the detour over a fraction.
-    if (!text.empty() && text.size() <= GreatestIdLength && std::ranges::all_of(text, IsDigit)) {
-        int id = 0;
-        std::from_chars(text.data(), text.data() + text.size(), id);
-        return id <= GreatestInt16 ? std::optional<int>(id) : std::nullopt;
-    }
     const std::optional<double> number = NumberIn(text);
     const bool fits = number && *number >= LeastInt16 && *number <= GreatestInt16;
     if (!fits || static_cast<int>(*number) != *number) {
@@ -159,6 +171,13 @@ std::string BooleanText(bool value) {
 
 unsigned char FoldByte(unsigned char byte) {
     return Folded[byte];
+}
+
+char* CopyFolded(std::string_view text, char* to) {
+    for (const char character : text) {
+        *to++ = static_cast<char>(Folded[static_cast<unsigned char>(character)]);
+    }
+    return to;
 }
 
 int CompareFolded(std::string_view first, std::string_view second) {

@@ -49,6 +49,9 @@ std::string BooleanText(bool value);
 // The lower-case byte of an ASCII or Latin letter; any other byte unchanged.
 unsigned char FoldByte(unsigned char byte);
 
+// Copies the text with its letters folded; gives the place behind the copy.
+char* CopyFolded(std::string_view text, char* to);
+
 // Below, at or above 0 as the first text sorts before, with or after the second, letters folded.
 int CompareFolded(std::string_view first, std::string_view second);
 

@@ -34,11 +34,8 @@ void RotateFile(const std::string& name) {
 } // namespace
 
 void RotateBackups() {
-    std::error_code error;
-    fs::current_path(BackupFolder, error);
-    if (error) {
-        return;
-    }
+    std::error_code ignored;
+    fs::current_path(BackupFolder, ignored);
     const std::string assignments = "assignments_" + std::to_string(ActiveTermID);
     for (const std::string& name : {std::string("terms"), std::string("classes"), assignments,
                                     std::string("tasks"), std::string("events")}) {

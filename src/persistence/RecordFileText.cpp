@@ -6,6 +6,7 @@
 
 namespace {
 
+const std::string Indentation = "  ";
 constexpr std::string_view NoDate = "//";
 
 // What stands around the value of a field.
@@ -18,7 +19,7 @@ std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
     std::vector<FieldFrame> frames;
     frames.reserve(fields.size());
     for (const RecordField& field : fields) {
-        frames.push_back({"  " + OpeningTag(field.tag), ClosingTag(field.tag) + std::string(LineEnd)});
+        frames.push_back({Indentation + OpeningTag(field.tag), ClosingTag(field.tag).append(LineEnd)});
     }
     return frames;
 }
@@ -38,17 +39,17 @@ std::string FormattedDate(const std::string& text) {
 } // namespace
 
 std::string OpeningTag(std::string_view tag) {
-    return "<" + std::string(tag) + ">";
+    return std::string("<").append(tag).append(">");
 }
 
 std::string ClosingTag(std::string_view tag) {
-    return "</" + std::string(tag) + ">";
+    return std::string("</").append(tag).append(">");
 }
 
 std::string RecordFileText(const RecordFile& file) {
     const std::vector<FieldFrame> frames = FramesOf(file.fields);
-    const std::string recordStart = OpeningTag(file.record) + std::string(LineEnd);
-    const std::string recordEnd = ClosingTag(file.record) + std::string(LineEnd);
+    const std::string recordStart = OpeningTag(file.record).append(LineEnd);
+    const std::string recordEnd = ClosingTag(file.record).append(LineEnd);
     std::string text(RecordFileHeader);
     text.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
     for (int position = 1; position <= file.counted->Count(); ++position) {

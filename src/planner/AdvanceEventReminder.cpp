@@ -15,18 +15,9 @@
 namespace {
 
 using std::chrono::days;
-using std::chrono::year_month;
-using std::chrono::year_month_day;
 using namespace std::chrono_literals;
 
-constexpr int DaysInWeek = 7;
-constexpr int MonthsInYear = 12;
 constexpr Date LastDate{9999y / 12 / 31};
-
-year_month MonthOf(Date date) {
-    const year_month_day parts{date};
-    return parts.year() / parts.month();
-}
 
 std::optional<Date> StepByWeekdays(const SeriesRule& rule, Date day) {
     for (int step = 1; step <= DaysInWeek; ++step) {

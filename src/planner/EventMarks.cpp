@@ -12,18 +12,7 @@
 
 namespace {
 
-using Cells = std::array<DayFacts, MonthCells>;
-
-// What the rules ask of the cells is found once, not once a series.
-Cells CellsFrom(Date firstCell) {
-    Cells cells;
-    for (int cell = 0; cell < MonthCells; ++cell) {
-        cells[static_cast<std::size_t>(cell)] = FactsOf(firstCell + std::chrono::days{cell});
-    }
-    return cells;
-}
-
-DayBits CellsOfEvent(const Cells& cells, int index) {
+DayBits CellsOfEvent(std::span<const DayFacts> cells, int index) {
     const EventLists& events = Store.EventRecord;
     if (events.desc.Item(index) == DeletedRecord) {
         return 0;
@@ -35,7 +24,7 @@ DayBits CellsOfEvent(const Cells& cells, int index) {
 } // namespace
 
 EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
-    const Cells cells = CellsFrom(firstCell);
+    const std::vector<DayFacts> cells = FactsOfDays(firstCell, MonthCells); // once for all series
     const std::vector<int> activeClassIds = ActiveClassIds();
     EventMarks marks;
     for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {

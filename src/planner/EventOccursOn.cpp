@@ -16,7 +16,6 @@ using Row = std::span<const DayFacts>;
 
 // Day numbers above this one are lacking in some month, and move to the month's last day there.
 constexpr int GreatestDayOfEveryMonth = 28;
-constexpr int DaysInWeek = 7;
 
 bool IsSameDayNumber(const DayFacts& first, const DayFacts& day) {
     const bool lastStandsIn =
@@ -105,6 +104,14 @@ DayFacts FactsOf(Date date) {
     return {date, static_cast<int>(static_cast<unsigned>(parts.day())),
             static_cast<int>(static_cast<unsigned>(parts.month())), WeekdayNumber(date),
             static_cast<int>(static_cast<unsigned>(last.day()))};
+}
+
+std::vector<DayFacts> FactsOfDays(Date first, int count) {
+    std::vector<DayFacts> facts(static_cast<std::size_t>(count));
+    for (std::size_t n = 0; n < facts.size(); ++n) {
+        facts[n] = FactsOf(first + std::chrono::days{n});
+    }
+    return facts;
 }
 
 DayBits DayOf(std::span<const DayFacts> row, Date date) {

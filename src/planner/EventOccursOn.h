@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <vector>
 
 // True when the event at the position occurs on the day. A date that it has given up never counts, its first
 // date always does, and the days after it as the rule of the series says until its end. A deleted event never
@@ -24,6 +25,9 @@ struct DayFacts {
 };
 
 DayFacts FactsOf(Date date);
+
+// The facts of so many days in a row.
+std::vector<DayFacts> FactsOfDays(Date first, int count);
 
 // Bit n stands for the n-th day of a row, counted from 0.
 using DayBits = std::uint64_t;

@@ -17,21 +17,12 @@ using std::chrono::days;
 using std::chrono::months;
 using std::chrono::weeks;
 using std::chrono::year_month;
-using std::chrono::year_month_day;
-
-constexpr int DaysInWeek = 7;
-constexpr int MonthsInYear = 12;
 
 // Where a series is walked; it holds no day when the last is before the first.
 struct Span {
     Date first;
     Date last;
 };
-
-year_month MonthOf(Date date) {
-    const year_month_day parts{date};
-    return parts.year() / parts.month();
-}
 
 // What a monthly or yearly series makes of the month so many months behind that of its first date. The
 // weekday of a rank is that of the text of `repeat_day`; EventOccursOn takes it from the first date.

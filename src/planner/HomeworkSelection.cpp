@@ -40,14 +40,18 @@ void AddClassLooks() {
     for (const int row : HomeworkRows) {
         positions.push_back(ClassPositionOf(classes, Store.Assignment.class_.Item(row)));
     }
-    int positionBehind = 0;
-    for (auto position = positions.rbegin(); position != positions.rend(); ++position) {
-        *position = *position == 0 ? positionBehind : *position;
-        positionBehind = *position;
+    for (std::size_t row = positions.size(); row-- > 0;) {
+        const bool last = row + 1 == positions.size();
+        if (positions[row] == 0 && !last) {
+            positions[row] = positions[row + 1];
+        }
     }
+    std::unordered_map<int, RowLook> looks; // of the positions met so far
     for (const int position : positions) {
-        RowLook look = ClassLook(position);
-        RowClass.Add(std::move(look.name));
+        const auto known = looks.find(position);
+        const RowLook& look =
+            known != looks.end() ? known->second : looks.emplace(position, ClassLook(position)).first->second;
+        RowClass.Add(look.name);
         RowForeColor.Add(look.forecolor);
         RowBackColor.Add(look.backcolor);
     }

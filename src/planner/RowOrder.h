@@ -13,29 +13,37 @@
 // The present positions of the rows, from 1, in their new order.
 using RowOrder = std::vector<int>;
 
+template <class Key>
+struct KeyedRow {
+    Key key;
+    int row;
+};
+
 // What texts are compared by: their bytes, or those of their lower-case letters.
 enum class TextOrder { Folded, Bytes };
 
-RowOrder OrderOfNumbers(const std::vector<double>& keys, int direction);
-RowOrder OrderOfTexts(const std::vector<std::string_view>& keys, TextOrder textOrder, int direction);
+RowOrder OrderOfNumbers(std::vector<KeyedRow<double>> rows, int direction);
+RowOrder OrderOfTexts(std::vector<KeyedRow<std::string_view>> rows, TextOrder textOrder, int direction);
 
-// The order by the key that is given for each row; with fewer than two rows no key is asked.
+// The rows from 1 on with their keys; none where there are fewer than two, so that no key is asked.
+template <class Key, class KeyOfRow>
+std::vector<KeyedRow<Key>> KeyedRows(int rows, KeyOfRow keyOfRow) {
+    std::vector<KeyedRow<Key>> keyed;
+    keyed.reserve(static_cast<std::size_t>(rows));
+    for (int row = 1; row <= rows && rows > 1; ++row) {
+        keyed.push_back({keyOfRow(row), row});
+    }
+    return keyed;
+}
+
 template <class KeyOfRow>
 RowOrder OrderByNumber(int rows, int direction, KeyOfRow keyOfRow) {
-    std::vector<double> keys;
-    for (int row = 1; row <= rows && rows > 1; ++row) {
-        keys.push_back(keyOfRow(row));
-    }
-    return OrderOfNumbers(keys, direction);
+    return OrderOfNumbers(KeyedRows<double>(rows, keyOfRow), direction);
 }
 
 template <class KeyOfRow>
 RowOrder OrderByText(int rows, int direction, KeyOfRow keyOfRow, TextOrder textOrder = TextOrder::Folded) {
-    std::vector<std::string_view> keys;
-    for (int row = 1; row <= rows && rows > 1; ++row) {
-        keys.push_back(keyOfRow(row));
-    }
-    return OrderOfTexts(keys, textOrder, direction);
+    return OrderOfTexts(KeyedRows<std::string_view>(rows, keyOfRow), textOrder, direction);
 }
 
 // Puts the list into the order. An empty order, that of fewer than two rows, leaves it as it is.

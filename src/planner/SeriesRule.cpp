@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int DaysInWeek = 7;
-
 constexpr std::array<std::pair<std::string_view, Recurrence>, 4> RecurrenceTexts{{
     {"None", Recurrence::None},
     {"Day", Recurrence::Day},
@@ -114,4 +112,9 @@ Date RankDay(std::chrono::year_month month, Rank rank, int weekdayNumber) {
 
 Date LastDayOf(std::chrono::year_month month) {
     return Date{month / std::chrono::last};
+}
+
+std::chrono::year_month MonthOf(Date date) {
+    const std::chrono::year_month_day parts{date};
+    return parts.year() / parts.month();
 }

@@ -5,6 +5,9 @@
 
 #include <string_view>
 
+inline constexpr int DaysInWeek = 7;
+inline constexpr int MonthsInYear = 12;
+
 // What `recurrence` says. A weekly event is a Day with some of the days of the week set.
 enum class Recurrence { None, Day, Month, Year, Unlisted };
 
@@ -44,3 +47,5 @@ int FirstDayOfRank(Rank rank, int daysInMonth);
 Date RankDay(std::chrono::year_month month, Rank rank, int weekdayNumber);
 
 Date LastDayOf(std::chrono::year_month month);
+
+std::chrono::year_month MonthOf(Date date);

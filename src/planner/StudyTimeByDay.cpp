@@ -183,6 +183,7 @@ void StudyTimeByDay(Date today) {
         return;
     }
     LaterStudy later;
+    later.facts.reserve(AlertDays.values.size());
     later.weeklyChange.resize(AlertDays.values.size() + DaysInWeek);
     for (const int index : sessions) {
         AddStudyOfLaterDays(later, index);

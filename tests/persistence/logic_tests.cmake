@@ -2,9 +2,10 @@ target_sources(logic_tests PRIVATE
   persistence/BackupsTest.cpp
   persistence/DamagedFilesTest.cpp
   persistence/FoldersTest.cpp
-  persistence/RecordFilesTest.cpp
   persistence/RecordPropertiesTest.cpp
   persistence/SaveUnderFaultTest.cpp
   persistence/SaveWhenKilledTest.cpp
   persistence/ScanRecordFileTest.cpp
+  persistence/TaskAndEventFilesTest.cpp
+  persistence/TermFilesTest.cpp
 )

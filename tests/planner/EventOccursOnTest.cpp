@@ -237,6 +237,15 @@ TEST_F(Occurrence, DoesNotLookAtAnUnlistedRankThatNoStepReads) {
                          Date{2009y / 11 / 14}));
 }
 
+TEST_F(Occurrence, FollowsAChangeOfTheRecordAtTheNextQuestion) {
+    const Date thursday{2009y / 10 / 15};
+    EXPECT_FALSE(OccursOn({.recurrence = "Day"}, thursday));
+    Store.EventRecord.repeat_daily.Replace(1, "FFFTFFF");
+    EXPECT_TRUE(EventOccursOn(thursday, 1));
+    Store.EventRecord.exceptions.Replace(1, "2009/10/15");
+    EXPECT_FALSE(EventOccursOn(thursday, 1));
+}
+
 TEST_F(Occurrence, DoesNotLookAtTheParent) {
     EXPECT_TRUE(OccursOn({.parent_id = "77"}, Date{2009y / 10 / 14}));
 }

@@ -63,14 +63,6 @@ std::vector<Date> WalkedDates(Date from, std::string_view range) {
     return dates;
 }
 
-std::vector<DayFacts> FactsOfDays(Date first, int count) {
-    std::vector<DayFacts> facts;
-    for (int n = 0; n < count; ++n) {
-        facts.push_back(FactsOf(first + days{n}));
-    }
-    return facts;
-}
-
 std::vector<Date> OccurringDates(std::span<const DayFacts> range) {
     std::vector<Date> dates;
     while (!range.empty()) {

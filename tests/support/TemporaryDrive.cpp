@@ -12,10 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// In memory where the system has such a folder, since every save waits for its device.
-fs::path NewFolder() {
-    const fs::path memory = "/dev/shm";
-    const fs::path parent = fs::exists(memory) ? memory : fs::temp_directory_path();
+fs::path NewFolder(const fs::path& parent) {
     std::string name = (parent / "planovarium-XXXXXX").string();
     if (::mkdtemp(name.data()) == nullptr) {
         throw std::runtime_error("No temporary folder");
@@ -33,7 +30,13 @@ std::string BytesOf(const fs::path& path) {
 
 } // namespace
 
-TemporaryDrive::TemporaryDrive() : root(NewFolder()), previousFolder(fs::current_path()) {
+fs::path FolderOfDrives() {
+    const fs::path memory = "/dev/shm";
+    return fs::exists(memory) ? memory : fs::temp_directory_path();
+}
+
+TemporaryDrive::TemporaryDrive(const fs::path& parent)
+    : root(NewFolder(parent)), previousFolder(fs::current_path()) {
     for (const char* name :
          {"U3_HOST_EXEC_PATH", "U3_DEVICE_PATH", "U3_DEVICE_DOCUMENT_PATH", "U3_DEVICE_EXEC_PATH"}) {
         const fs::path folder = root / name;

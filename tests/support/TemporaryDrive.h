@@ -4,10 +4,14 @@
 #include <filesystem>
 #include <string>
 
+// The folder below which drives are made: in memory where the system has such a folder, since every save waits
+// for its device, else the one for temporary files.
+std::filesystem::path FolderOfDrives();
+
 // Sets the four variables of the drive to folders below a new temporary one. The planner's folders are not
 // made yet. Its end restores the current folder and removes all of it.
 struct TemporaryDrive {
-    TemporaryDrive();
+    explicit TemporaryDrive(const std::filesystem::path& parent = FolderOfDrives());
     ~TemporaryDrive();
     TemporaryDrive(const TemporaryDrive&) = delete;
     TemporaryDrive& operator=(const TemporaryDrive&) = delete;
