@@ -2,9 +2,11 @@
 // bar.
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
+#include "platform/ElidedLabel.h"
 
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QSizeGrip>
 #include <QVBoxLayout>
 
 namespace {
@@ -16,8 +18,7 @@ constexpr double TopPoints = 11;
 constexpr double InfoPoints = 9;
 
 QLabel* TitleLabel(double points, bool bold, Qt::Alignment alignment) {
-    auto* label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
+    auto* label = new ElidedLabel;
     label->setFont(ToQFont({Face::Title, points, bold}));
     label->setAlignment(alignment | Qt::AlignVCenter);
     return label;
@@ -54,6 +55,9 @@ frmMain::frmMain() {
     column->addLayout(row, 1);
     picStatusBar = new PictureBox;
     picStatusBar->setFixedHeight(StatusHeight);
+    auto* corner = new QHBoxLayout(picStatusBar);
+    corner->setContentsMargins(0, 0, 0, 0);
+    corner->addWidget(new QSizeGrip(picStatusBar), 0, Qt::AlignRight | Qt::AlignBottom);
     column->addWidget(picStatusBar);
     setCentralWidget(centre);
 
@@ -83,6 +87,7 @@ QWidget* frmMain::BuildRightSide() {
     picCalDayUp = Stepper("picStashCalDayRightUp.svg", "One day on");
     LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
     LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
+    LabelInfoTitle->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
     top->addWidget(picCalDayDown);
     top->addWidget(LabelTop, 1);
     top->addWidget(LabelInfoTitle);

@@ -3,6 +3,7 @@
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
+#include "platform/ElidedLabel.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -16,8 +17,13 @@ constexpr int SmallButtonHeight = 26;
 constexpr int SmallIcon = 18;
 constexpr int PanelGap = 5;
 constexpr int CounterBoxWidth = 58;
-constexpr int TimeHeight = 26;
-constexpr int AlertHeight = 23;
+constexpr int CounterBoxHeight = 19;
+constexpr int AlertHeight = 21;
+constexpr int AlertGap = 2;
+constexpr QSize TimeSize{76, 18};
+constexpr int TimerButtonWidth = 26;
+constexpr int LockSize = 32;
+constexpr int LockGround = 44; // edge of the square behind the lock
 
 QLabel* PlainLabel(const QString& text = {}) {
     auto* label = new QLabel(text);
@@ -49,7 +55,7 @@ QLineEdit* NumberBox(const char* name) {
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
     box->setAlignment(Qt::AlignCenter);
-    box->setFixedWidth(CounterBoxWidth);
+    box->setFixedSize(CounterBoxWidth, CounterBoxHeight);
     box->setAccessibleName(QLatin1String(name));
     return box;
 }
@@ -62,6 +68,28 @@ QToolButton* SmallNewButton(const char* picture, const char* name) {
     button->setToolTip(QLatin1String(name));
     button->setAccessibleName(QLatin1String(name));
     return button;
+}
+
+QPushButton* IconButton(const char* picture, const char* name) {
+    auto* button = new QPushButton(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)), QString());
+    button->setFixedWidth(TimerButtonWidth);
+    button->setToolTip(QLatin1String(name));
+    button->setAccessibleName(QLatin1String(name));
+    return button;
+}
+
+// The cover of a calendar that does not react: its days are seen, and a lock before them.
+void PaintLock(PictureBox* cover) {
+    const auto inset = [cover](int size) {
+        const int pixels = size * UnitsPerPixel;
+        return UnitRect{(cover->WidthInUnits() - pixels) / 2, (cover->HeightInUnits() - pixels) / 2, pixels,
+                        pixels};
+    };
+    const UnitRect ground = inset(LockGround);
+    const UnitRect lock = inset(LockSize);
+    cover->Clear(NoColor);
+    cover->FillRectangle(ground.left, ground.top, ground.width, ground.height, ColorAll);
+    cover->DrawPicture(lock.left, lock.top, lock.width, lock.height, QStringLiteral("picLock.svg"));
 }
 
 // An alert is calm, and yet the one thing in the panel that is red.
@@ -126,6 +154,7 @@ QWidget* frmMain::BuildSmallCalendar() {
     picLock = new PictureBox;
     grid->addWidget(picLock, 0, 0, 9, 7);
     picLock->hide();
+    connect(picLock, &PictureBox::Resized, this, [this] { PaintLock(picLock); });
     return PictureBoxCalendar;
 }
 
@@ -160,11 +189,10 @@ QWidget* frmMain::BuildTermPanel() {
     auto* column = new QVBoxLayout(PictureBoxTerm);
     column->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     column->setSpacing(2);
-    LabelTerm = PlainLabel();
+    LabelTerm = new ElidedLabel;
     QFont bold = LabelTerm->font();
     bold.setBold(true);
     LabelTerm->setFont(bold);
-    LabelTerm->setWordWrap(true);
     LabelDaysLeft = PlainLabel();
     ButtonSelectTerm = new QPushButton(QStringLiteral("Edit Class Schedule"));
     column->addWidget(LabelTerm);
@@ -262,7 +290,7 @@ QWidget* frmMain::BuildAlerts() {
     auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(3);
+    column->setSpacing(AlertGap);
     for (QPushButton*& button : ButtonAlert) {
         button = new QPushButton(QIcon(QStringLiteral(":/icons/picAlert.svg")), QString());
         button->setStyleSheet(AlertButtonStyle());
@@ -275,20 +303,19 @@ QWidget* frmMain::BuildAlerts() {
 
 QWidget* frmMain::BuildTimerPanel() {
     PictureBoxTimer = Panel();
-    auto* grid = new QGridLayout(PictureBoxTimer);
-    grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
-    grid->setSpacing(3);
+    auto* row = new QHBoxLayout(PictureBoxTimer);
+    row->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
+    row->setSpacing(2);
     picTime = new PictureBox;
-    picTime->setFixedHeight(TimeHeight);
+    picTime->setFixedSize(TimeSize);
     picTime->setAccessibleName(QStringLiteral("Study Timer"));
     ButtonStart = new QPushButton(QStringLiteral("Start"));
-    ButtonReset = new QPushButton(QStringLiteral("Reset"));
-    ButtonSeconds = new QPushButton(QStringLiteral("Seconds"));
-    grid->addWidget(picTime, 0, 0, 1, 3);
-    int place = 0;
-    for (QPushButton* button : {ButtonStart, ButtonReset, ButtonSeconds}) {
-        button->setMinimumWidth(1); // three stand side by side, each as wide as the panel leaves it
-        grid->addWidget(button, 1, place++);
+    ButtonStart->setMinimumWidth(1); // it takes what the panel leaves
+    ButtonReset = IconButton("picTimerReset.svg", "Reset Study Timer");
+    ButtonSeconds = IconButton("picTimerSeconds.svg", "Show or Hide Seconds");
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{picTime, ButtonStart, ButtonReset, ButtonSeconds}) {
+        row->addWidget(control);
     }
     return PictureBoxTimer;
 }

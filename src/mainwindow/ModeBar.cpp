@@ -39,6 +39,8 @@ QWidget* frmMain::BuildModeBar() {
     PictureBarTasks = BarPicture("picStashTasksUp.svg");
     PictureBarReminders = BarPicture("picStashRemindersUp.svg");
     PictureBarWeb = BarPicture("picBarWeb.svg");
+    picHelp = BarPicture("picHelp.svg");
+    picHelp->setAccessibleName(QStringLiteral("Help"));
     LabelBarCalendar = BarLabel("Calendar");
     LabelBarHomework = BarLabel("Homework");
     LabelBarEvents = BarLabel("Events");
@@ -71,5 +73,7 @@ QWidget* frmMain::BuildModeBar() {
     row->addStretch(1);
     row->addWidget(PictureBarWeb);
     row->addWidget(LabelBarWeb);
+    row->addSpacing(GapBehindMode);
+    row->addWidget(picHelp);
     return bar;
 }

@@ -127,6 +127,7 @@ void ShowCounters(const frmMain& window, const CounterRow& row) {
             RowOf(controls, row.mode).boxes[i]->show();
         }
     }
+    labels.front()->parentWidget()->setHidden(row.labels.front().empty()); // no counters, no gap for them
 }
 
 } // namespace

@@ -43,6 +43,22 @@ protected:
         return captions;
     }
 
+    // The shown widgets of the left panel that stand one below the other.
+    std::vector<const QWidget*> Stack() const {
+        std::vector<const QWidget*> shown;
+        for (const QWidget* widget : std::initializer_list<const QWidget*>{
+                 window->PictureBoxCalendar, window->ButtonNewAssignmentSmall->parentWidget(),
+                 window->PictureBoxTerm, window->PictureBoxViewMenus, window->LabelTotalAssignments,
+                 window->LabelFinishedAssignments, window->LabelTimeRemaining, window->ButtonAlert[0],
+                 window->ButtonAlert[1], window->ButtonAlert[2], window->ButtonAlert[3],
+                 window->PictureBoxTimer}) {
+            if (widget->isVisible()) {
+                shown.push_back(widget);
+            }
+        }
+        return shown;
+    }
+
     struct Message {
         QString title, text;
     };
@@ -96,34 +112,31 @@ TEST_F(Alerts, ButtonGoesWhenTheHomeworkIsDone) {
     EXPECT_EQ(Shown(), QStringList{});
 }
 
-TEST_F(Alerts, AllFourFitIntoTheSmallestWindow) {
+// What stands in the left panel, from top to bottom, neither overlaps nor is cut.
+TEST_F(Alerts, AllFourFitIntoTheSmallestWindowInEachModeOfTheBar) {
     for (const char* date : {"2009/10/13", "2009/10/14", "2009/10/15"}) {
         AddHomework(date);
     }
     ASSERT_EQ(window->size(), QSize(780, 575));
-    QCoreApplication::sendPostedEvents();
-    const auto areaOf = [this](const QWidget* widget) {
-        return QRect(widget->mapTo(window.get(), QPoint(0, 0)), widget->size());
-    };
-    std::vector<const QWidget*> stack{window->PictureBoxCalendar, window->ButtonNewTaskSmall,
-                                      window->PictureBoxTerm};
-    stack.insert(stack.end(), window->ButtonAlert.begin(), window->ButtonAlert.end());
-    stack.push_back(window->PictureBoxTimer);
-    for (std::size_t i = 0; i < stack.size(); ++i) {
-        EXPECT_GE(stack[i]->height(), stack[i]->minimumSizeHint().height()) << i;
-        if (i > 0) {
-            EXPECT_GT(areaOf(stack[i]).top(), areaOf(stack[i - 1]).bottom()) << i;
+    for (const auto& enter : {&frmMain::ShowHomeworkMode, &frmMain::ShowEventMode, &frmMain::ShowTaskMode,
+                              &frmMain::ShowCalendarMode}) {
+        (window.get()->*enter)();
+        QCoreApplication::sendPostedEvents();
+        int above = window->PictureBoxCalendar->mapTo(window.get(), QPoint(0, 0)).y();
+        for (const QWidget* widget : Stack()) {
+            const QPoint corner = widget->mapTo(window.get(), QPoint(0, 0));
+            EXPECT_GE(corner.y(), above) << widget->accessibleName().toStdString();
+            EXPECT_GE(widget->height(),
+                      std::min(widget->minimumSizeHint().height(), widget->maximumHeight()));
+            above = corner.y() + widget->height();
         }
+        EXPECT_LE(above, window->picStatusBar->mapTo(window.get(), QPoint(0, 0)).y());
     }
-    EXPECT_LE(areaOf(stack.back()).bottom(), areaOf(window->picStatusBar).top());
-    std::vector<const QPushButton*> buttons(window->ButtonAlert.begin(), window->ButtonAlert.end());
-    buttons.insert(buttons.end(), {window->ButtonStart, window->ButtonReset, window->ButtonSeconds});
-    for (const QPushButton* button : buttons) {
-        EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()) +
-                      (button->icon().isNull() ? 0 : button->iconSize().width()),
-                  button->width())
-            << button->text().toStdString();
+    for (const QPushButton* button : window->ButtonAlert) {
+        EXPECT_LE(button->fontMetrics().horizontalAdvance(button->text()) + button->iconSize().width(),
+                  button->width());
     }
+    EXPECT_LE(window->ButtonStart->fontMetrics().horizontalAdvance("Pause"), window->ButtonStart->width());
 }
 
 TEST_F(Alerts, StudyTimeMessageNamesTheShortage) {

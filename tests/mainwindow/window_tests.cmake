@@ -3,6 +3,7 @@ target_sources(window_tests PRIVATE
   mainwindow/AutoStartTest.cpp
   mainwindow/BringForwardTest.cpp
   mainwindow/CommandsTest.cpp
+  mainwindow/ElidedLabelTest.cpp
   mainwindow/HelpTopicsTest.cpp
   mainwindow/ModesTest.cpp
   mainwindow/ProcessTest.cpp

@@ -1,0 +1,21 @@
+// A label of one line that never asks for more width than it gets: a text that is too long ends in dots, and
+// the whole of it is the label's tip.
+#pragma once
+
+#include <QLabel>
+
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(QWidget* parent = nullptr);
+
+    QSize minimumSizeHint() const override;
+
+    // What is seen of the text.
+    QString ShownText() const;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+};
