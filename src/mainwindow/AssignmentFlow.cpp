@@ -1,8 +1,153 @@
 // The flows of an assignment: asked for, entered, written.
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "editors/frmAssignment.h"
+#include "mainwindow/FirstOpen.h"
 #include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Modal.h"
 
-void frmMain::NewAssignment() {
+#include <QCoreApplication>
+
+namespace {
+
+constexpr std::string_view NoTermQuestion = "There is no Term selected. Do you want to start a new Term?";
+constexpr std::string_view NoClassesQuestion =
+    "This Term has no classes. Do you want to edit the Class Schedule?";
+
+struct EnteredField {
+    TextList AssignmentLists::*list;
+    std::string text;
+};
+
+// What the closed dialog has for each field of the record but its id.
+std::array<EnteredField, AssignmentFields.size() - 1> EnteredFields(const frmAssignment& dialog) {
+    return {{
+        {&AssignmentLists::class_,
+         dialog.tempAssignmentClassLinkArray.Item(dialog.ComboClassNameList->currentIndex() + 1)},
+        {&AssignmentLists::date, StoredDate(DateValue(dialog.tempAssignmentDate))},
+        {&AssignmentLists::type, TextOf(dialog.ComboTypeList)},
+        {&AssignmentLists::priority, BooleanText(dialog.CheckBoxPriority->isChecked())},
+        {&AssignmentLists::est_time, TextOf(dialog.ComboEstTime)},
+        {&AssignmentLists::time_left, TextOf(dialog.TextBoxTimeLeft)},
+        {&AssignmentLists::desc, TextOf(dialog.TextBoxDescription)},
+        {&AssignmentLists::done, BooleanText(dialog.CheckBoxDone->isChecked())},
+        {&AssignmentLists::percent_complete, TextOf(dialog.ComboPercentComplete)},
+        {&AssignmentLists::score, TextOf(dialog.TextBoxScore)},
+        {&AssignmentLists::total, TextOf(dialog.TextBoxTotal)},
+        {&AssignmentLists::grade, TextOf(dialog.TextBoxPercentage)},
+        {&AssignmentLists::reminder, BooleanText(dialog.CheckboxReminder->isChecked())},
+        {&AssignmentLists::reminderdate, StoredDate(DateValue(dialog.tempAssignmentReminderDate))},
+        {&AssignmentLists::remindertime, TextOf(dialog.ComboReminderTime)},
+        {&AssignmentLists::reminderalarm, dialog.tempAssignmentReminderAlarm},
+        {&AssignmentLists::reminderlist, dialog.tempAssignmentReminderList},
+        {&AssignmentLists::notes, TextOf(dialog.TextBoxNotes)},
+    }};
 }
 
-void frmMain::EditAssignment(int /*index*/) {
+// The dialog's fields that an assignment's record gives.
+struct FilledField {
+    std::string frmAssignment::*field;
+    TextList AssignmentLists::*list;
+};
+
+constexpr std::array<FilledField, AssignmentFields.size() - 2> FilledFields{{
+    {&frmAssignment::tempAssignmentDate, &AssignmentLists::date},
+    {&frmAssignment::tempAssignmentType, &AssignmentLists::type},
+    {&frmAssignment::tempAssignmentPriority, &AssignmentLists::priority},
+    {&frmAssignment::tempAssignmentEstTime, &AssignmentLists::est_time},
+    {&frmAssignment::tempAssignmentTimeLeft, &AssignmentLists::time_left},
+    {&frmAssignment::tempAssignmentPercentComplete, &AssignmentLists::percent_complete},
+    {&frmAssignment::tempAssignmentDescription, &AssignmentLists::desc},
+    {&frmAssignment::tempAssignmentDone, &AssignmentLists::done},
+    {&frmAssignment::tempAssignmentScore, &AssignmentLists::score},
+    {&frmAssignment::tempAssignmentTotal, &AssignmentLists::total},
+    {&frmAssignment::tempAssignmentGrade, &AssignmentLists::grade},
+    {&frmAssignment::tempAssignmentReminder, &AssignmentLists::reminder},
+    {&frmAssignment::tempAssignmentReminderDate, &AssignmentLists::reminderdate},
+    {&frmAssignment::tempAssignmentReminderTime, &AssignmentLists::remindertime},
+    {&frmAssignment::tempAssignmentReminderAlarm, &AssignmentLists::reminderalarm},
+    {&frmAssignment::tempAssignmentReminderList, &AssignmentLists::reminderlist},
+    {&frmAssignment::tempAssignmentNotes, &AssignmentLists::notes},
+}};
+
+// The term's classes and limits. The class of a record is named only when it is one of these classes.
+void GiveTerm(frmAssignment& dialog, std::string_view classId) {
+    dialog.tempClassNameArray = ActiveClasses.name;
+    dialog.tempAssignmentClassLinkArray = ActiveClasses.id;
+    dialog.tempAssignmentClassName.clear();
+    for (int position = 1; position <= ActiveClasses.id.Count(); ++position) {
+        if (ActiveClasses.id.Item(position) == classId) {
+            dialog.tempAssignmentClassName = ActiveClasses.name.Item(position);
+        }
+    }
+    dialog.tempTermStartDate = ActiveTermStart;
+    dialog.tempTermEndDate = ActiveTermEnd;
+}
+
+void ShowDialog(frmAssignment& dialog) {
+    dialog.Fill();
+    PlaceAtFirstOpen(dialog, AssignmentDBFirstOpen);
+    RunModally(dialog);
+}
+
+void AppendRecord(const frmAssignment& dialog) {
+    const auto fields = EnteredFields(dialog);
+    Store.Assignment.id.Add(std::to_string(NextId(NextAssignmentID)));
+    for (const EnteredField& field : fields) {
+        (Store.Assignment.*field.list).Add(field.text);
+    }
+}
+
+void ReplaceRecord(const frmAssignment& dialog, int index) {
+    for (const EnteredField& field : EnteredFields(dialog)) {
+        (Store.Assignment.*field.list).Replace(index, field.text);
+    }
+}
+
+} // namespace
+
+void frmMain::NewAssignment() {
+    const bool noTerm = ActiveTermName.empty();
+    if (noTerm || ActiveClasses.id.Count() == 0) {
+        const Answer answer =
+            MsgBox(noTerm ? NoTermQuestion : NoClassesQuestion, Buttons::YesNo, Icon::Information);
+        if (answer == Answer::Yes && !ShuttingDown) {
+            ClassSchedule();
+        }
+        return;
+    }
+    frmAssignment& dialog = *AssignmentDialog;
+    dialog.EditMode = "New";
+    GiveTerm(dialog, {});
+    ShowDialog(dialog);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    AppendRecord(dialog);
+    WriteAssignments();
+    RefreshFor(ReasonNewRecord);
+}
+
+void frmMain::EditAssignment(int index) {
+    frmAssignment& dialog = *AssignmentDialog;
+    dialog.EditMode = "Edit";
+    GiveTerm(dialog, Store.Assignment.class_.Item(index));
+    for (const FilledField& filled : FilledFields) {
+        dialog.*filled.field = (Store.Assignment.*filled.list).Item(index);
+    }
+    ShowDialog(dialog);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    if (dialog.DeleteFlag) {
+        RemoveRecord(Store.Assignment, AssignmentFields, index);
+    } else {
+        ReplaceRecord(dialog, index);
+    }
+    WriteAssignments();
+    RefreshFor(ReasonNewRecord);
 }

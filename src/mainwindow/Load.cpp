@@ -1,5 +1,7 @@
 // The load of the main window. The order of its steps is required: later ones read what earlier ones set.
 #include "core/Module1.h"
+#include "editors/FrmTask.h"
+#include "editors/frmAssignment.h"
 #include "mainwindow/ProcessMarker.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
@@ -43,6 +45,12 @@ void HideUnofferedItems(const frmMain& window) {
     window.mnuHelpBar1->setEnabled(false);
 }
 
+// The dialogs are built once, in this order, and the main window owns them.
+void LoadDialogs(frmMain& window) {
+    AssignmentDialog = new frmAssignment(&window);
+    TaskDialog = new FrmTask(&window);
+}
+
 } // namespace
 
 bool frmMain::LoadPlanner() {
@@ -61,6 +69,7 @@ bool frmMain::LoadPlanner() {
     ReadRecordFiles();
     HideUnofferedItems(*this);
     SetFirstOpenFlags();
+    LoadDialogs(*this);
     StartupComplete = true;
     if (ShuttingDown) {
         return false;

@@ -1,8 +1,112 @@
 // The flows of a task: asked for, entered, written.
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "editors/FrmTask.h"
+#include "mainwindow/FirstOpen.h"
 #include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
+#include "platform/Modal.h"
 
-void frmMain::NewTask() {
+namespace {
+
+struct EnteredField {
+    TextList TaskLists::*list;
+    std::string text;
+};
+
+// What the closed dialog has for each field of the record but its id. A task without a deadline has the date
+// of the day on which it was last saved, and this is meant.
+std::array<EnteredField, TaskFields.size() - 1> EnteredFields(const FrmTask& dialog) {
+    const bool deadline = dialog.CheckBoxDeadline->isChecked();
+    return {{
+        {&TaskLists::date, StoredDate(deadline ? DateValue(dialog.tempTaskDate) : Today())},
+        {&TaskLists::desc, TextOf(dialog.TextBoxDescription)},
+        {&TaskLists::date_exists, BooleanText(deadline)},
+        {&TaskLists::type, dialog.tempTaskType},
+        {&TaskLists::priority, TextOf(dialog.ComboPriority)},
+        {&TaskLists::percent_complete, TextOf(dialog.ComboPercentComplete)},
+        {&TaskLists::done, BooleanText(dialog.CheckBoxDone->isChecked())},
+        {&TaskLists::reminder, BooleanText(dialog.CheckboxReminder->isChecked())},
+        {&TaskLists::reminder_date, StoredDate(DateValue(dialog.tempTaskReminderDate))},
+        {&TaskLists::reminder_time, TextOf(dialog.ComboReminderTime)},
+        {&TaskLists::reminder_alarm, dialog.tempTaskReminderAlarm},
+        {&TaskLists::reminder_list, dialog.tempTaskReminderList},
+        {&TaskLists::notes, TextOf(dialog.TextBoxNotes)},
+    }};
 }
 
-void frmMain::EditTask(int /*index*/) {
+// The dialog's fields that a task's record gives.
+struct FilledField {
+    std::string FrmTask::*field;
+    TextList TaskLists::*list;
+};
+
+constexpr std::array<FilledField, TaskFields.size() - 1> FilledFields{{
+    {&FrmTask::tempTaskDescription, &TaskLists::desc},
+    {&FrmTask::tempTaskDateExists, &TaskLists::date_exists},
+    {&FrmTask::tempTaskDate, &TaskLists::date},
+    {&FrmTask::tempTaskType, &TaskLists::type},
+    {&FrmTask::tempTaskPriority, &TaskLists::priority},
+    {&FrmTask::tempTaskPercentComplete, &TaskLists::percent_complete},
+    {&FrmTask::tempTaskDone, &TaskLists::done},
+    {&FrmTask::tempTaskNotes, &TaskLists::notes},
+    {&FrmTask::tempTaskReminder, &TaskLists::reminder},
+    {&FrmTask::tempTaskReminderDate, &TaskLists::reminder_date},
+    {&FrmTask::tempTaskReminderTime, &TaskLists::reminder_time},
+    {&FrmTask::tempTaskReminderAlarm, &TaskLists::reminder_alarm},
+    {&FrmTask::tempTaskReminderList, &TaskLists::reminder_list},
+}};
+
+void ShowDialog(FrmTask& dialog) {
+    dialog.Fill();
+    PlaceAtFirstOpen(dialog, TaskDBFirstOpen);
+    RunModally(dialog);
+}
+
+void AppendRecord(const FrmTask& dialog) {
+    const auto fields = EnteredFields(dialog);
+    Store.TaskRecord.id.Add(std::to_string(NextId(NextTaskID)));
+    for (const EnteredField& field : fields) {
+        (Store.TaskRecord.*field.list).Add(field.text);
+    }
+}
+
+void ReplaceRecord(const FrmTask& dialog, int index) {
+    for (const EnteredField& field : EnteredFields(dialog)) {
+        (Store.TaskRecord.*field.list).Replace(index, field.text);
+    }
+}
+
+} // namespace
+
+void frmMain::NewTask() {
+    FrmTask& dialog = *TaskDialog;
+    dialog.EditMode = "New";
+    ShowDialog(dialog);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    AppendRecord(dialog);
+    WriteTasks();
+    RefreshFor(ReasonNewRecord);
+}
+
+void frmMain::EditTask(int index) {
+    FrmTask& dialog = *TaskDialog;
+    dialog.EditMode = "Edit";
+    for (const FilledField& filled : FilledFields) {
+        dialog.*filled.field = (Store.TaskRecord.*filled.list).Item(index);
+    }
+    ShowDialog(dialog);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    if (dialog.DeleteFlag) {
+        RemoveRecord(Store.TaskRecord, TaskFields, index);
+    } else {
+        ReplaceRecord(dialog, index);
+    }
+    WriteTasks();
+    RefreshFor(ReasonNewRecord);
 }

@@ -1,0 +1,9 @@
+target_sources(window_tests PRIVATE
+  editors/AssignmentEntriesTest.cpp
+  editors/AssignmentFlowTest.cpp
+  editors/AssignmentOpeningTest.cpp
+  editors/EditorPartsTest.cpp
+  editors/EditorTest.cpp
+  editors/TaskEditorTest.cpp
+  editors/TaskFlowTest.cpp
+)

@@ -1,6 +1,7 @@
 // What the main window opens when the reminder window has called it forward.
 #include "core/Module1.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 
 using namespace std::chrono_literals;
@@ -23,6 +24,17 @@ protected:
         ASSERT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
     }
 
+    // The same for a record whose editor opens; gives the editor's title and cancels it.
+    QString CallIntoEditor(const std::string& mode, int index) {
+        QString title;
+        WhenDialogOpens([&title](QWidget* editor) {
+            title = editor->windowTitle();
+            editor->close();
+        });
+        CallForward(mode, index);
+        return title;
+    }
+
     void Activate() {
         QEvent activation(QEvent::WindowActivate);
         QCoreApplication::sendEvent(window.get(), &activation);
@@ -32,23 +44,23 @@ protected:
 } // namespace
 
 TEST_F(OpenFromReminders, TaskEntersTasksMode) {
-    CallForward("Task", 1);
+    EXPECT_EQ(CallIntoEditor("Task", AddTaskRecord({})), "Planovarium - Edit Task");
     EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
 }
 
 TEST_F(OpenFromReminders, HomeworkEntersHomeworkMode) {
-    CallForward("Homework", 1);
+    EXPECT_EQ(CallIntoEditor("Homework", AddAssignmentRecord({})), "Planovarium - Edit Assignment");
     EXPECT_EQ(window->CurrentMode(), Mode::Homework);
 }
 
 TEST_F(OpenFromReminders, ModeThatIsCheckedIsNotEnteredAgain) {
     window->ShowTaskMode();
     window->SortColumn = 2;
-    CallForward("Task", 1);
+    CallIntoEditor("Task", AddTaskRecord({}));
     EXPECT_EQ(window->SortColumn, 2);
     window->ShowHomeworkMode();
     window->SortColumn = 3;
-    CallForward("Homework", 1);
+    CallIntoEditor("Homework", AddAssignmentRecord({}));
     EXPECT_EQ(window->SortColumn, 3);
 }
 
@@ -78,8 +90,10 @@ TEST_F(OpenFromReminders, EventEntersItsModeEvenWhereItIsChecked) {
 TEST_F(OpenFromReminders, EditorOpensBehindTheActivationAndNotInIt) {
     CalledFromReminders = true;
     ReminderOpenMode = "Task";
+    ReminderIndex = AddTaskRecord({});
     Activate();
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+    WhenDialogOpens([](QWidget* editor) { editor->close(); });
     ASSERT_TRUE(WaitUntil([this] { return window->CurrentMode() == Mode::Tasks; }));
 }
 

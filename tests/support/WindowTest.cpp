@@ -34,9 +34,16 @@ void ResetStore() {
     ShuttingDown = false;
 }
 
+// Once a test has had the program exit, every loop of events ends at once, until the main loop starts anew.
+void ForgetExit() {
+    QTimer::singleShot(0, qApp, [] { QApplication::exit(); });
+    QApplication::exec();
+}
+
 } // namespace
 
 void WindowTest::SetUp() {
+    ForgetExit();
     ResetScript();
     ResetStore();
     drive = folder.path().toStdString();

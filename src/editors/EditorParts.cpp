@@ -1,0 +1,210 @@
+// What the editors have alike: boxes and combos, the end of an entry, dates, colours.
+#include "editors/EditorParts.h"
+
+#include "platform/Formats.h"
+#include "platform/HelpTopics.h"
+#include "platform/MessageBoxes.h"
+#include "platform/PictureBox.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QTextBlock>
+#include <QValidator>
+#include <QWhatsThis>
+
+namespace {
+
+QString OneLine(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    for (const char16_t lineBreak : {u'\r', u'\n', u'\x2028', u'\x2029'}) {
+        text.replace(QChar(lineBreak), QChar(u' '));
+    }
+    return WithinSet(text);
+}
+
+// Turns what a box of one line takes in into what the store can hold; no text is refused.
+class SetValidator : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& cursor) const override {
+        cursor = static_cast<int>(OneLine(text.left(cursor)).size());
+        text = OneLine(text);
+        return Acceptable;
+    }
+};
+
+// Takes the next press of the mouse and does nothing with it.
+class PressTaker : public QObject {
+public:
+    PressTaker() : QObject(qApp) {
+        qApp->installEventFilter(this);
+        deleteLater();
+    }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        const bool isPress = event->type() == QEvent::MouseButtonPress;
+        if (isPress) {
+            qApp->removeEventFilter(this);
+        }
+        return isPress;
+    }
+};
+
+Qt::FocusReason ReasonOf(const QEvent* event) {
+    return event->type() == QEvent::FocusOut ? static_cast<const QFocusEvent*>(event)->reason()
+                                             : Qt::NoFocusReason;
+}
+
+void ReplaceInBlock(const QTextBlock& block, QTextCursor& cursor) {
+    const QString text = block.text();
+    for (int at = static_cast<int>(text.size()) - 1; at >= 0; --at) {
+        const bool isPair = at > 0 && text[at].isLowSurrogate() && text[at - 1].isHighSurrogate();
+        const int first = isPair ? at - 1 : at;
+        const QString typed = text.mid(first, at - first + 1);
+        if (typed != QChar::LineSeparator && WithinSet(typed) != typed) {
+            cursor.setPosition(block.position() + first);
+            cursor.setPosition(block.position() + at + 1, QTextCursor::KeepAnchor);
+            cursor.insertText(QStringLiteral("?"));
+        }
+        at = first;
+    }
+}
+
+void ReplaceOutsideSet(QTextDocument* document) {
+    QTextCursor cursor(document);
+    cursor.joinPreviousEditBlock(); // one step of undo with what brought them in
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        ReplaceInBlock(block, cursor);
+    }
+    cursor.endEditBlock();
+}
+
+// The text with LF between its lines. Blanks that do not break stay what they are.
+QString LinesOf(const QPlainTextEdit* box) {
+    QString text = box->document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, QChar::LineFeed);
+    text.replace(QChar::LineSeparator, QChar::LineFeed);
+    return text;
+}
+
+void SetRoleColor(QWidget* widget, QPalette::ColorRole role, int color) {
+    QPalette colors = widget->palette();
+    colors.setColor(role, ToQColor(color));
+    widget->setPalette(colors);
+}
+
+} // namespace
+
+void LimitToSet(QLineEdit* box) {
+    box->setValidator(new SetValidator(box));
+}
+
+void LimitToSet(QPlainTextEdit* box) {
+    QObject::connect(box, &QPlainTextEdit::textChanged, box, [box] {
+        const QString text = LinesOf(box);
+        if (WithinSet(text) != text) {
+            ReplaceOutsideSet(box->document());
+        }
+    });
+}
+
+std::string TextOf(const QLineEdit* box) {
+    return ToStore(box->text());
+}
+
+std::string TextOf(const QComboBox* combo) {
+    return ToStore(combo->currentText());
+}
+
+std::string TextOf(const QPlainTextEdit* box) {
+    return ToStore(LinesOf(box).replace(QChar::LineFeed, QStringLiteral("\r\n")));
+}
+
+void ShowText(QLineEdit* box, const QString& text) {
+    box->setText(text);
+    box->setCursorPosition(0);
+}
+
+void ShowText(QLineEdit* box, std::string_view text) {
+    ShowText(box, FromStore(text));
+}
+
+void SetupTypedCombo(QComboBox* combo) {
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    LimitToSet(combo->lineEdit());
+}
+
+void ShowComboText(QComboBox* combo, std::string_view text) {
+    const QSignalBlocker quiet(combo);
+    const QString shown = FromStore(text);
+    combo->setCurrentIndex(combo->findText(shown));
+    if (combo->isEditable()) {
+        combo->setEditText(shown);
+    }
+}
+
+bool EntryEnds(const QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<const QKeyEvent*>(event)->key();
+        return key == Qt::Key_Return || key == Qt::Key_Enter;
+    }
+    const Qt::FocusReason reason = ReasonOf(event);
+    return event->type() == QEvent::FocusOut && reason != Qt::ActiveWindowFocusReason &&
+           reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
+}
+
+bool IsPressOn(const QWidget* widget, const QEvent* event) {
+    return ReasonOf(event) == Qt::MouseFocusReason && QApplication::focusWidget() == widget;
+}
+
+void DropPress(const QEvent* event) {
+    if (ReasonOf(event) == Qt::MouseFocusReason) {
+        new PressTaker; // goes with the event that is being handled
+    }
+}
+
+void AskForEntry(QWidget* field, std::string_view message) {
+    field->setFocus();
+    MsgBox(message, Buttons::Ok, Icon::Information);
+}
+
+std::string ShortDateText(Date date) {
+    return FormatDate(date, "Short Date").utf8;
+}
+
+void ShowDate(QLineEdit* box, Date date) {
+    ShowText(box, FromScreen(FormatDate(date, "Long Date")));
+}
+
+void SetupDateButton(QToolButton* button) {
+    button->setIcon(QIcon(QStringLiteral(":/icons/picButtonDate.svg")));
+}
+
+void SetupHelpButton(QToolButton* button) {
+    button->setIcon(QIcon(QStringLiteral(":/icons/picHelp.svg")));
+    QObject::connect(button, &QToolButton::clicked, button, [] { QWhatsThis::enterWhatsThisMode(); });
+}
+
+void SetHelpTopics(std::initializer_list<HelpNumber> numbers) {
+    for (const HelpNumber& number : numbers) {
+        SetHelpTopic(number.control, number.topic);
+    }
+}
+
+void SetBackColor(QWidget* widget, int color) {
+    widget->setAutoFillBackground(true);
+    SetRoleColor(widget, widget->backgroundRole(), color); // that of a check box is not that of a panel
+}
+
+void SetTextColor(QWidget* widget, int color) {
+    SetRoleColor(widget, QPalette::WindowText, color);
+}
+
+void SetBoxColor(QLineEdit* box, int backcolor) {
+    SetRoleColor(box, QPalette::Base, backcolor);
+}

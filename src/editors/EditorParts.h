@@ -1,0 +1,161 @@
+// What the editors have alike: boxes and combos that hold what the files can hold, the end of an entry,
+// dates, the done box, the reminder, and the ways in which an editor closes.
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/Text.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QToolButton>
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+// --- Texts -------------------------------------------------------------------------------------------------
+
+// Lets the box hold only what the files can hold: a character outside the store's set becomes "?" as it is
+// typed or pasted, and in a box of one line a line break becomes a blank.
+void LimitToSet(QLineEdit* box);
+void LimitToSet(QPlainTextEdit* box);
+
+// The text as the store holds it; lines end with CR LF.
+std::string TextOf(const QLineEdit* box);
+std::string TextOf(const QComboBox* combo);
+std::string TextOf(const QPlainTextEdit* box);
+
+// Shows the text from its beginning, where the box is too short for all of it.
+void ShowText(QLineEdit* box, const QString& text);
+void ShowText(QLineEdit* box, std::string_view text);
+
+// --- Combos ------------------------------------------------------------------------------------------------
+
+// Adds a row for each text.
+template <class Rows>
+void AddRows(QComboBox* combo, const Rows& rows) {
+    for (const std::string_view row : rows) {
+        combo->addItem(FromStore(row));
+    }
+}
+
+// A combo that is typed into: nothing is completed, and what is typed becomes no row.
+void SetupTypedCombo(QComboBox* combo);
+
+// Selects the row of that text. Where there is none no row is selected, and a combo that is typed into shows
+// the text. The combo tells nobody.
+void ShowComboText(QComboBox* combo, std::string_view text);
+
+// --- The end of an entry -----------------------------------------------------------------------------------
+
+// True for a field that loses the focus, unless to another window, a popup or a menu, and for Enter in it.
+bool EntryEnds(const QEvent* event);
+
+// True for a field that loses the focus to a press on the widget.
+bool IsPressOn(const QWidget* widget, const QEvent* event);
+
+// The press that has taken the focus from the field does nothing more: a message has come between. To be
+// called as the field loses the focus.
+void DropPress(const QEvent* event);
+
+// Gives the field the focus again and shows the message.
+void AskForEntry(QWidget* field, std::string_view message);
+
+// --- Dates and help ----------------------------------------------------------------------------------------
+
+// The text of a date as a dialog's field holds it, which reads back as the same day.
+std::string ShortDateText(Date date);
+
+// Shows the date in its long form.
+void ShowDate(QLineEdit* box, Date date);
+
+// Gives the small button of a date box its picture.
+void SetupDateButton(QToolButton* button);
+
+// Lets the button lead into the what's-this mode.
+void SetupHelpButton(QToolButton* button);
+
+struct HelpNumber {
+    QWidget* control;
+    int topic;
+};
+
+void SetHelpTopics(std::initializer_list<HelpNumber> numbers);
+
+// --- Colours, 0xBBGGRR -------------------------------------------------------------------------------------
+
+void SetBackColor(QWidget* widget, int color);   // behind a label, a check box or a panel
+void SetTextColor(QWidget* widget, int color);   // of a label or a check box
+void SetBoxColor(QLineEdit* box, int backcolor); // of a text box
+
+// --- The done box and the percent --------------------------------------------------------------------------
+
+struct DoneControls {
+    QCheckBox* box;
+    QWidget* ground; // the coloured strip behind the box
+    QComboBox* percent;
+};
+
+// True when the percent reads "100%", chosen or typed.
+bool IsComplete(const DoneControls& controls);
+
+// Ticks the box or not, with its colours.
+void SetDone(const DoneControls& controls, bool done);
+
+// Makes the percent "100%" or "0%" as the box is ticked or not, with its colours.
+void PercentFollowsDone(const DoneControls& controls);
+
+// Makes a whole percent of what was typed, and the box follow it.
+void ValidatePercentEntry(const DoneControls& controls);
+
+// --- The reminder ------------------------------------------------------------------------------------------
+
+struct ReminderControls {
+    QCheckBox* box;
+    QLabel *dateLabel, *timeLabel;
+    QWidget* strip;  // dark, behind the box and the labels
+    QWidget* ground; // behind the date and the time
+    QLineEdit* date;
+    QToolButton* button;
+    QComboBox* time;
+};
+
+// Gives the strip its colours and the time its rows.
+void SetupReminder(const ReminderControls& controls);
+
+// Enables or disables the date and the time by the box, with the colours.
+void PaintReminder(const ReminderControls& controls);
+
+// The alarm of an item from the text of its reminder date and the time in the combo. What is no time counts
+// as 9:00 AM, which it becomes as soon as the combo is left.
+std::string AlarmOf(const std::string& date, const QComboBox* time);
+
+// --- The ways in which an editor closes --------------------------------------------------------------------
+
+struct EditorState {
+    bool ChangeFlag = false;    // the student has touched something
+    bool CancelledFlag = false; // the answer is Cancel
+    bool CloseOK = false;       // the dialog may hide
+    bool DeleteFlag = false;    // the answer is Delete
+    std::string EditMode;       // "New" or "Edit"
+};
+
+// Clears the four flags, as the last step of filling an editor.
+void ClearFlags(EditorState& state);
+
+// Hides the dialog with OK as the answer.
+void AcceptEditor(QDialog& dialog, EditorState& state);
+
+// Hides the dialog with Cancel as the answer, after a question if something has changed. The item is what the
+// dialog edits, as the question has it.
+void CancelEditor(QDialog& dialog, EditorState& state, std::string_view item);
+
+// Hides the dialog with Delete as the answer, after a question.
+void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item);
+
+// The close box counts as Cancel; a close that is not the student's passes.
+void CloseEditor(QDialog& dialog, EditorState& state, std::string_view item, QCloseEvent& event);

@@ -1,0 +1,257 @@
+// FrmTask, the dialog in which a task is created, changed or deleted.
+#include "editors/FrmTask.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "mainwindow/frmMain.h"
+#include "planner/AssignmentEntry.h"
+#include "planner/Colors.h"
+#include "planner/ComboRows.h"
+#include "planner/ReminderEntry.h"
+#include "planner/TypeEntry.h"
+
+namespace {
+
+constexpr std::string_view ItemName = "Task";
+constexpr std::string_view NewReminderTime = "9:00 AM";
+constexpr int ColorNoDeadline = 0x808080;     // 0xBBGGRR
+constexpr int ColorNoDeadlineText = 0xC0C0C0; // 0xBBGGRR
+
+} // namespace
+
+FrmTask* TaskDialog = nullptr;
+
+FrmTask::FrmTask(QWidget* parent) : QDialog(parent) {
+    setupUi(this);
+    SetupControls();
+    SetTopics();
+    BindControls();
+    UpdateEstimateFlag = false;
+}
+
+void FrmTask::SetupControls() {
+    LimitToSet(TextBoxDescription);
+    LimitToSet(TextBoxNotes);
+    SetupTypedCombo(ComboPriority);
+    AddRows(ComboPriority, PriorityRows);
+    SetupTypedCombo(ComboPercentComplete);
+    AddRows(ComboPercentComplete, PercentRows);
+    SetupReminder(Reminder());
+    SetupDateButton(picButtonTaskDate);
+    SetupHelpButton(picHelp);
+    Picker = new DatePicker(this);
+    Picker->AddField(true, TextboxTaskDate, picButtonTaskDate, tempTaskDate);
+    Picker->AddField(false, TextboxReminderDate, PicButtonReminderDate, tempTaskReminderDate);
+}
+
+void FrmTask::SetTopics() {
+    SetHelpTopics({{ButtonCancel, 601},
+                   {ButtonDelete, 602},
+                   {ButtonOK, 603},
+                   {CheckBoxDeadline, 604},
+                   {CheckBoxDone, 605},
+                   {CheckboxReminder, 606},
+                   {ComboPercentComplete, 607},
+                   {ComboPriority, 608},
+                   {ComboReminderTime, 609},
+                   {ComboType, 610},
+                   {PicButtonReminderDate, 611},
+                   {TextBoxDescription, 612},
+                   {TextBoxNotes, 613},
+                   {TextboxReminderDate, 614},
+                   {TextboxTaskDate, 615},
+                   {picButtonTaskDate, 616},
+                   {picHelp, 617}});
+}
+
+void FrmTask::BindControls() {
+    const auto changed = [this] { ChangeFlag = true; };
+    connect(TextBoxDescription, &QLineEdit::textChanged, this, changed);
+    connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
+    connect(ComboType, &QComboBox::activated, this, changed);
+    connect(ComboPriority, &QComboBox::activated, this, changed);
+    connect(ComboPercentComplete, &QComboBox::activated, this, &FrmTask::PercentClicked);
+    connect(CheckBoxDone, &QCheckBox::toggled, this, &FrmTask::DoneClicked);
+    connect(CheckboxReminder, &QCheckBox::clicked, this, &FrmTask::ReminderClicked);
+    connect(CheckBoxDeadline, &QCheckBox::clicked, this, [this] {
+        PaintDeadline();
+        ChangeFlag = true;
+    });
+    connect(LabelDeadline, &ClickLabel::Clicked, CheckBoxDeadline, &QCheckBox::click);
+    connect(TextboxReminderDate, &QLineEdit::textChanged, this, [this] {
+        SetAlarm();
+        ChangeFlag = true;
+    });
+    connect(Picker, &DatePicker::DatePicked, this, &FrmTask::TakeDate);
+    for (QComboBox* combo : {ComboPriority, ComboPercentComplete, ComboReminderTime}) {
+        combo->installEventFilter(this);
+    }
+    connect(ButtonOK, &QPushButton::clicked, this, &FrmTask::Accept);
+    connect(ButtonCancel, &QPushButton::clicked, this, [this] { CancelEditor(*this, *this, ItemName); });
+    connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
+}
+
+DoneControls FrmTask::Done() const {
+    return {CheckBoxDone, LabelDoneBG, ComboPercentComplete};
+}
+
+ReminderControls FrmTask::Reminder() const {
+    return {CheckboxReminder, LabelRemDate,        LabelRemTime,          LabelRemBG,
+            LabelRemBG2,      TextboxReminderDate, PicButtonReminderDate, ComboReminderTime};
+}
+
+// --- Opening -----------------------------------------------------------------------------------------------
+
+void FrmTask::Fill() {
+    UpdateEstimateFlag = true;
+    ComboType->clear();
+    AddRows(ComboType, TaskTypeRows());
+    if (EditMode == "New") {
+        FillNew();
+    } else {
+        FillEdit();
+    }
+    UpdateEstimateFlag = false;
+    PaintDeadline();
+    PaintReminder(Reminder());
+    Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
+    TextBoxDescription->setFocus();
+    ClearFlags(*this);
+}
+
+void FrmTask::FillNew() {
+    setWindowTitle(QStringLiteral("Planovarium - New Task"));
+    TextBoxDescription->clear();
+    TextBoxNotes->clear();
+    SetDone(Done(), false);
+    ButtonDelete->setEnabled(false);
+    ShowComboText(ComboPriority, PriorityRows.front());
+    ShowComboText(ComboType, NoType);
+    ShowComboText(ComboReminderTime, NewReminderTime);
+    ShowComboText(ComboPercentComplete, PercentRows.front());
+    CheckBoxDeadline->setChecked(true);
+    CheckboxReminder->setChecked(false);
+    tempTaskReminderList = BooleanText(false);
+    FillDates(MainWindow->ClickedDate, MainWindow->ClickedDate);
+}
+
+void FrmTask::FillEdit() {
+    setWindowTitle(QStringLiteral("Planovarium - Edit Task"));
+    ShowText(TextBoxDescription, tempTaskDescription);
+    TextBoxNotes->setPlainText(FromStore(tempTaskNotes));
+    SetDone(Done(), IsTrue(tempTaskDone));
+    ButtonDelete->setEnabled(true);
+    ShowComboText(ComboPriority, tempTaskPriority);
+    ShowComboText(ComboType, ShownTaskType(tempTaskType));
+    ShowComboText(ComboReminderTime, tempTaskReminderTime);
+    ShowComboText(ComboPercentComplete, tempTaskPercentComplete);
+    CheckBoxDeadline->setChecked(IsTrue(tempTaskDateExists));
+    CheckboxReminder->setChecked(IsTrue(tempTaskReminder));
+    FillDates(DateValue(tempTaskDate), DateValue(tempTaskReminderDate));
+}
+
+// The alarm follows the reminder date also where its text stays the same.
+void FrmTask::FillDates(Date date, Date reminderDate) {
+    tempTaskDate = ShortDateText(date);
+    ShowDate(TextboxTaskDate, date);
+    tempTaskReminderDate = ShortDateText(reminderDate);
+    ShowDate(TextboxReminderDate, reminderDate);
+    SetAlarm();
+}
+
+// --- What follows an entry ---------------------------------------------------------------------------------
+
+void FrmTask::PaintDeadline() {
+    const bool on = CheckBoxDeadline->isChecked();
+    SetLabelColors(LabelDeadline, on ? ColorWhite : ColorNoDeadlineText, on ? ColorBlack : ColorNoDeadline);
+}
+
+void FrmTask::PercentClicked() {
+    if (UpdateEstimateFlag) {
+        return;
+    }
+    UpdateEstimateFlag = true;
+    SetDone(Done(), IsComplete(Done()));
+    UpdateEstimateFlag = false;
+    ChangeFlag = true;
+}
+
+void FrmTask::DoneClicked() {
+    if (UpdateEstimateFlag) {
+        return;
+    }
+    UpdateEstimateFlag = true;
+    PercentFollowsDone(Done());
+    UpdateEstimateFlag = false;
+    ChangeFlag = true;
+}
+
+void FrmTask::ReminderClicked() {
+    PaintReminder(Reminder());
+    if (CheckboxReminder->isChecked()) {
+        SetAlarm();
+    }
+    ChangeFlag = true;
+}
+
+void FrmTask::SetAlarm() {
+    tempTaskReminderAlarm = AlarmOf(tempTaskReminderDate, ComboReminderTime);
+}
+
+void FrmTask::TakeDate(Date date) {
+    if (Picker->DateTarget) {
+        tempTaskDate = ShortDateText(date);
+        ShowDate(TextboxTaskDate, date);
+        CheckBoxDeadline->setChecked(true);
+        PaintDeadline();
+    } else {
+        tempTaskReminderDate = ShortDateText(date);
+        ShowDate(TextboxReminderDate, date);
+    }
+    ChangeFlag = true;
+}
+
+void FrmTask::ValidateField(const QObject* field) {
+    if (field == ComboPercentComplete) {
+        UpdateEstimateFlag = true;
+        ValidatePercentEntry(Done());
+        UpdateEstimateFlag = false;
+        ChangeFlag = true;
+    } else if (field == ComboPriority) {
+        ShowComboText(ComboPriority, CutToLimit(TextOf(ComboPriority)));
+    } else if (field == ComboReminderTime) {
+        ShowComboText(ComboReminderTime, ValidateTime(TextOf(ComboReminderTime)));
+        SetAlarm();
+        ChangeFlag = true;
+    }
+}
+
+bool FrmTask::eventFilter(QObject* watched, QEvent* event) {
+    if (CloseOK || ShuttingDown || !EntryEnds(event)) {
+        return QDialog::eventFilter(watched, event);
+    }
+    ValidateField(watched);
+    return event->type() == QEvent::KeyPress; // Enter does not press OK as well
+}
+
+// --- Closing -----------------------------------------------------------------------------------------------
+
+// Nothing is required of a task. A field that still has the focus is validated first, as it would be in
+// losing it.
+void FrmTask::Accept() {
+    ValidateField(focusWidget());
+    tempTaskType = ResolveTaskType(TextOf(ComboType), tempTaskType);
+    if (CheckboxReminder->isChecked()) {
+        tempTaskReminderList = BooleanText(false); // armed again
+    }
+    AcceptEditor(*this, *this);
+}
+
+void FrmTask::reject() {
+    CancelEditor(*this, *this, ItemName);
+}
+
+void FrmTask::closeEvent(QCloseEvent* event) {
+    CloseEditor(*this, *this, ItemName, *event);
+}

@@ -1,0 +1,120 @@
+// What the editors of assignments and tasks have alike: the done box and the percent, the reminder, the ways
+// in which an editor closes.
+#include "editors/EditorParts.h"
+
+#include "core/DateText.h"
+#include "mainwindow/WindowStyle.h"
+#include "planner/AssignmentEntry.h"
+#include "planner/Colors.h"
+#include "planner/ComboRows.h"
+#include "planner/ReminderEntry.h"
+#include "platform/MessageBoxes.h"
+
+#include <QCloseEvent>
+
+namespace {
+
+// 0xBBGGRR
+constexpr int ColorBoxNotDone = 0x2D52A0;
+constexpr int ColorBoxDone = 0x008000;
+constexpr int ColorReminderOff = 0xC0C0C0;
+constexpr int ColorReminderOn = 0xFFFFFF;
+
+void SetTitleGround(QWidget* strip, const QColor& color) {
+    SetBackColor(strip, color.blue() << 16 | color.green() << 8 | color.red());
+}
+
+bool IsYes(std::string_view question) {
+    return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
+}
+
+} // namespace
+
+bool IsComplete(const DoneControls& controls) {
+    return TextOf(controls.percent) == PercentRows.back();
+}
+
+void SetDone(const DoneControls& controls, bool done) {
+    controls.box->setChecked(done);
+    for (QWidget* colored : {static_cast<QWidget*>(controls.box), controls.ground}) {
+        SetBackColor(colored, done ? ColorBoxDone : ColorBoxNotDone);
+    }
+    SetTextColor(controls.box, ColorWhite);
+}
+
+void PercentFollowsDone(const DoneControls& controls) {
+    const bool done = controls.box->isChecked();
+    SetDone(controls, done);
+    ShowComboText(controls.percent, done ? PercentRows.back() : PercentRows.front());
+}
+
+void ValidatePercentEntry(const DoneControls& controls) {
+    ShowComboText(controls.percent, ValidatePercent(TextOf(controls.percent)));
+    SetDone(controls, IsComplete(controls));
+}
+
+void SetupReminder(const ReminderControls& controls) {
+    SetTitleGround(controls.strip, BarColor);
+    SetTextColor(controls.box, ColorWhite);
+    SetupTypedCombo(controls.time);
+    AddRows(controls.time, TimeOfDayRows());
+    SetupDateButton(controls.button);
+}
+
+void PaintReminder(const ReminderControls& controls) {
+    const bool on = controls.box->isChecked();
+    const int color = on ? ColorReminderOn : ColorReminderOff;
+    SetTextColor(controls.dateLabel, color);
+    SetTextColor(controls.timeLabel, color);
+    SetBackColor(controls.ground, color);
+    for (QWidget* input : {static_cast<QWidget*>(controls.date), static_cast<QWidget*>(controls.button),
+                           static_cast<QWidget*>(controls.time)}) {
+        input->setEnabled(on);
+    }
+}
+
+std::string AlarmOf(const std::string& date, const QComboBox* time) {
+    return ItemReminderAlarm(DateValue(date), ValidateTime(TextOf(time)));
+}
+
+void ClearFlags(EditorState& state) {
+    state.ChangeFlag = false;
+    state.CancelledFlag = false;
+    state.CloseOK = false;
+    state.DeleteFlag = false;
+}
+
+void AcceptEditor(QDialog& dialog, EditorState& state) {
+    state.CancelledFlag = false;
+    state.DeleteFlag = false;
+    state.CloseOK = true;
+    dialog.hide();
+}
+
+void CancelEditor(QDialog& dialog, EditorState& state, std::string_view item) {
+    const std::string_view what = state.EditMode == "New" ? "Cancel this " : "Cancel all changes to this ";
+    if (state.ChangeFlag && !IsYes(std::string(what) + std::string(item) + "?")) {
+        return;
+    }
+    state.CancelledFlag = true;
+    state.CloseOK = true;
+    dialog.hide();
+}
+
+void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item) {
+    if (IsYes("Are you sure you want to Delete this " + std::string(item) + "?")) {
+        state.DeleteFlag = true;
+        state.CloseOK = true;
+        dialog.hide();
+    }
+}
+
+void CloseEditor(QDialog& dialog, EditorState& state, std::string_view item, QCloseEvent& event) {
+    if (event.spontaneous()) {
+        event.ignore();
+        CancelEditor(dialog, state, item);
+    } else {
+        state.CancelledFlag = true;
+        event.accept();
+    }
+}

@@ -1,0 +1,84 @@
+// frmAssignment, the dialog in which an assignment is created, changed or deleted. It never touches the
+// store: NewAssignment and EditAssignment of the main window fill its fields, show it, read its controls and
+// write the record.
+#pragma once
+
+#include "core/TextList.h"
+#include "editors/DatePicker.h"
+#include "editors/EditorParts.h"
+
+#include "ui_frmAssignment.h"
+
+class frmAssignment : public QDialog, public Ui::frmAssignment, public EditorState {
+    Q_OBJECT
+
+public:
+    explicit frmAssignment(QWidget* parent);
+
+    // Fills all controls, for "New" from the main window's ClickedDate, for "Edit" from the fields; to be
+    // called before each opening. Raises the run-time error where a field holds no date or neither "True" nor
+    // "False".
+    void Fill();
+
+    TextList tempClassNameArray;           // of the active term
+    TextList tempAssignmentClassLinkArray; // the ids of these classes
+    Date tempTermStartDate{}, tempTermEndDate{};
+    std::string tempAssignmentClassName;
+    std::string tempAssignmentDate; // in the short form while the dialog is open
+    std::string tempAssignmentType;
+    std::string tempAssignmentPriority; // "True" or "False", like the other yes and no fields
+    std::string tempAssignmentEstTime;  // "HH : MM"
+    std::string tempAssignmentTimeLeft;
+    std::string tempAssignmentPercentComplete;
+    std::string tempAssignmentDescription;
+    std::string tempAssignmentDone;
+    std::string tempAssignmentScore, tempAssignmentTotal;
+    std::string tempAssignmentGrade; // the percentage, as "85%"
+    std::string tempAssignmentReminder;
+    std::string tempAssignmentReminderDate; // in the short form while the dialog is open
+    std::string tempAssignmentReminderTime;
+    std::string tempAssignmentReminderAlarm; // the stored form of a moment
+    std::string tempAssignmentReminderList;
+    std::string tempAssignmentNotes;
+
+    DatePicker* Picker = nullptr;
+
+    // Escape counts as Cancel.
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void SetupControls();
+    void SetTopics();
+    void BindControls();
+    void BindCombos();
+    void FillClasses();
+    void FillNew();
+    void FillEdit();
+    void FillDates(Date date, Date reminderDate);
+    void ShowTimeLeft(std::string_view text);
+    void UpdateTimeLeft();
+    void UpdateGrade();
+    void PercentClicked();
+    void DoneClicked();
+    void ReminderClicked();
+    void SetAlarm();
+    void TakeDate(Date date);
+    bool ValidateField(const QObject* field, bool quiet);
+    void ValidatePercent();
+    void ValidateEstimate();
+    void ValidateReminderTime();
+    bool ValidateNumber(QLineEdit* box, std::string_view wanted, bool quiet);
+    void Accept();
+
+    DoneControls Done() const;
+    ReminderControls Reminder() const;
+
+    bool UpdateEstimateFlag = true; // the program changes the percent and the done box
+};
+
+// The one dialog, from the load of the main window on, which owns it.
+extern frmAssignment* AssignmentDialog;

@@ -1,0 +1,59 @@
+// The tests of the editors of assignments and tasks: a loaded window with a term of two classes, and the keys
+// and presses that a student makes in a dialog.
+#pragma once
+
+#include "core/Module1.h"
+#include "editors/EditorParts.h"
+#include "editors/FrmTask.h"
+#include "editors/frmAssignment.h"
+#include "platform/PictureBox.h"
+#include "support/StoreRecords.h"
+#include "support/WindowTest.h"
+
+class EditorTest : public WindowTest {
+protected:
+    // The window's ClickedDate is 2009-10-20, six days after today.
+    void SetUp() override;
+
+    // The dialogs open without their flow, so that the test goes on while they are open.
+    void Open(frmAssignment& dialog, const std::string& mode);
+    void Open(FrmTask& dialog, const std::string& mode);
+
+    // Gives the focus to the widget as the tab key does.
+    static void GoTo(QWidget* widget);
+
+    // Replaces the field's text by typing; the field keeps the focus.
+    static void Type(QComboBox* combo, const QString& text);
+    static void Type(QLineEdit* box, const QString& text);
+
+    // The same, leaving the field by tab or ending the entry with Enter.
+    template <class Input>
+    void TypeAndLeave(Input* input, const QString& text) {
+        Type(input, text);
+        GoTo(Elsewhere(input));
+    }
+
+    template <class Input>
+    void TypeAndEnter(Input* input, const QString& text) {
+        Type(input, text);
+        QTest::keyClick(input, Qt::Key_Return);
+    }
+
+    // Chooses the row as the student does.
+    static void Choose(QComboBox* combo, int row);
+
+    static void Click(QWidget* widget);
+
+    // The box that the dialogs of these tests show.
+    static ShownBox Message(const std::string& text);
+    static ShownBox Question(const std::string& text);
+
+private:
+    static QWidget* Elsewhere(const QWidget* input);
+    static void ShowAlone(QDialog& dialog);
+};
+
+// Colours as the screen has them, 0xRRGGBB.
+int BackColorOf(const QWidget* widget);
+int TextColorOf(const QWidget* widget);
+int BoxColorOf(const QLineEdit* box);
