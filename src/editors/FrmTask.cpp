@@ -87,7 +87,7 @@ void FrmTask::BindControls() {
     for (QComboBox* combo : {ComboPriority, ComboPercentComplete, ComboReminderTime}) {
         combo->installEventFilter(this);
     }
-    connect(ButtonOK, &QPushButton::clicked, this, &FrmTask::Accept);
+    connect(ButtonOK, &QPushButton::clicked, this, &FrmTask::accept);
     connect(ButtonCancel, &QPushButton::clicked, this, [this] { CancelEditor(*this, *this, ItemName); });
     connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
 }
@@ -239,7 +239,7 @@ bool FrmTask::eventFilter(QObject* watched, QEvent* event) {
 
 // Nothing is required of a task. A field that still has the focus is validated first, as it would be in
 // losing it.
-void FrmTask::Accept() {
+void FrmTask::accept() {
     ValidateField(focusWidget());
     tempTaskType = ResolveTaskType(TextOf(ComboType), tempTaskType);
     if (CheckboxReminder->isChecked()) {

@@ -34,7 +34,8 @@ public:
 
     DatePicker* Picker = nullptr;
 
-    // Escape counts as Cancel.
+    // OK, and Cancel, which Escape counts as.
+    void accept() override;
     void reject() override;
 
 protected:
@@ -55,7 +56,6 @@ private:
     void SetAlarm();
     void TakeDate(Date date);
     void ValidateField(const QObject* field);
-    void Accept();
 
     DoneControls Done() const;
     ReminderControls Reminder() const;

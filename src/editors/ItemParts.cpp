@@ -3,7 +3,6 @@
 #include "editors/EditorParts.h"
 
 #include "core/DateText.h"
-#include "mainwindow/WindowStyle.h"
 #include "planner/AssignmentEntry.h"
 #include "planner/Colors.h"
 #include "planner/ComboRows.h"
@@ -17,12 +16,9 @@ namespace {
 // 0xBBGGRR
 constexpr int ColorBoxNotDone = 0x2D52A0;
 constexpr int ColorBoxDone = 0x008000;
+constexpr int ColorReminderStrip = 0x5A4239; // that of the mode bar
 constexpr int ColorReminderOff = 0xC0C0C0;
 constexpr int ColorReminderOn = 0xFFFFFF;
-
-void SetTitleGround(QWidget* strip, const QColor& color) {
-    SetBackColor(strip, color.blue() << 16 | color.green() << 8 | color.red());
-}
 
 bool IsYes(std::string_view question) {
     return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
@@ -54,7 +50,7 @@ void ValidatePercentEntry(const DoneControls& controls) {
 }
 
 void SetupReminder(const ReminderControls& controls) {
-    SetTitleGround(controls.strip, BarColor);
+    SetBackColor(controls.strip, ColorReminderStrip);
     SetTextColor(controls.box, ColorWhite);
     SetupTypedCombo(controls.time);
     AddRows(controls.time, TimeOfDayRows());

@@ -81,7 +81,7 @@ void frmAssignment::BindControls() {
     connect(CheckBoxDone, &QCheckBox::toggled, this, &frmAssignment::DoneClicked);
     connect(CheckboxReminder, &QCheckBox::clicked, this, &frmAssignment::ReminderClicked);
     connect(Picker, &DatePicker::DatePicked, this, &frmAssignment::TakeDate);
-    connect(ButtonOK, &QPushButton::clicked, this, &frmAssignment::Accept);
+    connect(ButtonOK, &QPushButton::clicked, this, &frmAssignment::accept);
     connect(ButtonCancel, &QPushButton::clicked, this, [this] { CancelEditor(*this, *this, ItemName); });
     connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
 }
@@ -319,7 +319,7 @@ bool frmAssignment::eventFilter(QObject* watched, QEvent* event) {
 // --- Closing -----------------------------------------------------------------------------------------------
 
 // A field that still has the focus is validated first, as it would be in losing it.
-void frmAssignment::Accept() {
+void frmAssignment::accept() {
     if (!ValidateField(focusWidget(), false)) {
         return;
     }

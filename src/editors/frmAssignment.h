@@ -43,7 +43,8 @@ public:
 
     DatePicker* Picker = nullptr;
 
-    // Escape counts as Cancel.
+    // OK, and Cancel, which Escape counts as.
+    void accept() override;
     void reject() override;
 
 protected:
@@ -72,7 +73,6 @@ private:
     void ValidateEstimate();
     void ValidateReminderTime();
     bool ValidateNumber(QLineEdit* box, std::string_view wanted, bool quiet);
-    void Accept();
 
     DoneControls Done() const;
     ReminderControls Reminder() const;

@@ -115,7 +115,7 @@ void frmMain::NewAssignment() {
         const Answer answer =
             MsgBox(noTerm ? NoTermQuestion : NoClassesQuestion, Buttons::YesNo, Icon::Information);
         if (answer == Answer::Yes && !ShuttingDown) {
-            ClassSchedule();
+            ClassSchedule(); // and nothing more, even if there are classes now
         }
         return;
     }
