@@ -9,7 +9,7 @@ namespace {
 constexpr int PanelWidth = 204;
 constexpr int PanelPadding = 3;
 constexpr QSize MonthButtonSize{20, 20};
-constexpr QSize DayButtonSize{95, 22};
+constexpr QSize DayButtonSize{80, 22};
 constexpr int RepeatMilliseconds = 300;
 constexpr int GuardMilliseconds = 100;
 
@@ -19,6 +19,13 @@ void SetGround(QWidget* widget, const QColor& ground, const QColor& edge) {
     colors.setColor(QPalette::WindowText, edge);
     widget->setPalette(colors);
     widget->setAutoFillBackground(true);
+}
+
+// The panel's own text colour is that of its edge.
+void SetTextColor(QWidget* label, const QColor& color) {
+    QPalette colors = label->palette();
+    colors.setColor(QPalette::WindowText, color);
+    label->setPalette(colors);
 }
 
 } // namespace
@@ -38,6 +45,9 @@ void DatePicker::SetupCalendar() {
     SetGround(LabelCalDayBG, PanelColor, EdgeColor);
     grid->addWidget(LabelCalDayBG, 1, 0, 1, DaysPerWeek);
     BuildDayLabels(grid, 1, LabelCalDay, LabelCalDate);
+    for (ClickLabel* head : LabelCalDay) {
+        SetTextColor(head, TextColor);
+    }
     LabelCalTileBorder = new TileBorder(this);
     auto* buttons = new QHBoxLayout;
     picToday = DayButton("Today", DayButtonSize, LabelToday);
@@ -52,6 +62,7 @@ void DatePicker::SetupCalendar() {
     connect(LabelToday, &ClickLabel::Clicked, this, [this] { Pick(TodayDate); });
     connect(LabelTomorrow, &ClickLabel::Clicked, this, [this] { Pick(TomorrowDate); });
     SetupTimers();
+    ReleaseMonthButton();
 }
 
 QWidget* DatePicker::BuildMonthName() {
@@ -61,6 +72,7 @@ QWidget* DatePicker::BuildMonthName() {
     picCalMonthDown = BuildMonthButton(LabelCalMonthDown, false);
     picCalMonthUp = BuildMonthButton(LabelCalMonthUp, true);
     LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
+    SetTextColor(LabelMonth, TextColor);
     row->addWidget(picCalMonthDown);
     row->addWidget(LabelMonth, 1);
     row->addWidget(picCalMonthUp);

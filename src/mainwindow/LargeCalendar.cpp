@@ -11,8 +11,6 @@ constexpr int HeadForeColor = 0x5C5C5C;
 constexpr int GridLineColor = 0x808080;
 constexpr int OutOfMonthColor = 0xF5F5F5;
 constexpr int TodayColor = 0x5A4239;
-constexpr int TodayLines = 2;
-constexpr int IconSize = 240;
 constexpr int TextLeft = 300; // of a line's text behind the left of its picture
 
 constexpr SurfaceFont HeadFont{Face::List, 9, true};
@@ -74,8 +72,7 @@ void PaintTab(PictureBox& surface, const UnitRect& tab, const CalendarMonth& mon
 }
 
 void PaintTodayFrame(PictureBox& surface, const UnitRect& area) {
-    for (int line = 0; line < TodayLines; ++line) {
-        const int inset = line * UnitsPerPixel;
+    for (int inset = 0; inset < TodayFrameWidth; inset += UnitsPerPixel) {
         surface.DrawFrame(area.left + inset, area.top + inset, area.width - 2 * inset,
                           area.height - 2 * inset, TodayColor);
     }
@@ -83,9 +80,9 @@ void PaintTodayFrame(PictureBox& surface, const UnitRect& area) {
 
 void PaintLine(PictureBox& surface, const UnitRect& box, const char* picture, const QString& text,
                int color) {
-    surface.DrawPicture(box.left, box.top, IconSize, IconSize, QLatin1String(picture));
-    surface.DrawText(box.left + TextLeft, box.top + (IconSize - TextHeight(LineFont)) / 2, text, LineFont,
-                     color);
+    surface.DrawPicture(box.left, box.top, CalendarIconSize, CalendarIconSize, QLatin1String(picture));
+    surface.DrawText(box.left + TextLeft, box.top + (CalendarIconSize - TextHeight(LineFont)) / 2, text,
+                     LineFont, color);
 }
 
 struct LineText {

@@ -35,12 +35,12 @@ std::array<bool, CalendarIcons> LinesOf(const CalendarMonth& month, std::size_t 
 }
 
 // The lines stack under the tab, all from one left. In a low cell they move together, so that three of them
-// still end within it.
+// still end within it, inside the frame of today.
 void StackLines(CalendarCell& cell, const std::array<bool, CalendarIcons>& drawn) {
     const int gap = std::max(0, (cell.area.height - HeightWithoutGaps) / GapsInCell);
     const int top = cell.area.top + TabHeight + gap;
-    const int room = cell.area.top + cell.area.height - top;
-    const int pitch = std::min(LineHeight + gap, room / CalendarIcons);
+    const int lastTop = cell.area.top + cell.area.height - TodayFrameWidth - CalendarIconSize;
+    const int pitch = std::min(LineHeight + gap, (lastTop - top) / (CalendarIcons - 1));
     const int left = cell.area.left + (cell.area.width - WidestLine) / 2;
     int place = 0;
     for (std::size_t line = 0; line < drawn.size(); ++line) {

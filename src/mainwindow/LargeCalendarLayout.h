@@ -24,6 +24,8 @@ struct CalendarLayout {
 };
 
 inline constexpr int CalendarHeadHeight = 375;
+inline constexpr int CalendarIconSize = 240; // of the picture at the left of a line
+inline constexpr int TodayFrameWidth = 30;   // two lines
 
 // The layout on a grid of that size. Which lines a cell has follows from the month's counters.
 CalendarLayout LayOutCalendar(int gridWidth, int gridHeight, const CalendarMonth& month);

@@ -2,6 +2,8 @@ target_sources(window_tests PRIVATE
   editors/AssignmentEntriesTest.cpp
   editors/AssignmentFlowTest.cpp
   editors/AssignmentOpeningTest.cpp
+  editors/DatePickerStepsTest.cpp
+  editors/DatePickerTest.cpp
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
   editors/TaskEditorTest.cpp

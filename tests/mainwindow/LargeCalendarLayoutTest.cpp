@@ -147,14 +147,14 @@ RC_GTEST_PROP(LargeCalendarLayout, CoversTheGridWithoutGapOrOverlap, ()) {
     RC_ASSERT(Holds(layout.cell[static_cast<std::size_t>(*cell)].area, x, y));
 }
 
-RC_GTEST_PROP(LargeCalendarLayout, KeepsTheTopsOfAllLinesInTheirCell, ()) {
-    const int height = *rc::gen::inRange(375 + 6 * 400, 40000);
+RC_GTEST_PROP(LargeCalendarLayout, KeepsThePicturesOfAllLinesInsideTheFrameOfTheirCell, ()) {
+    const int height = *rc::gen::inRange(375 + 6 * 800, 40000);
     const CalendarLayout layout = LayOutCalendar(Width, height, FullCell(20));
     const CalendarCell& cell = layout.cell[20];
     int above = Bottom(cell.tab);
     for (const UnitRect& line : cell.icon) {
         RC_ASSERT(line.top >= above);
-        RC_ASSERT(line.top < Bottom(cell.area));
-        above = line.top;
+        RC_ASSERT(line.top + CalendarIconSize <= Bottom(cell.area) - TodayFrameWidth);
+        above = line.top + 1;
     }
 }
