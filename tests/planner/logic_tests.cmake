@@ -24,6 +24,7 @@ target_sources(logic_tests PRIVATE
   planner/ReminderEngineTest.cpp
   planner/ReminderEntryTest.cpp
   planner/ReminderEventsTest.cpp
+  planner/ReminderListRowsTest.cpp
   planner/ReminderPhrasesTest.cpp
   planner/ReminderSelectionTest.cpp
   planner/RowLookTest.cpp
