@@ -27,6 +27,7 @@ target_sources(logic_tests PRIVATE
   planner/ReminderListRowsTest.cpp
   planner/ReminderPhrasesTest.cpp
   planner/ReminderSelectionTest.cpp
+  planner/ReminderSimulationTest.cpp
   planner/RowLookTest.cpp
   planner/RowSortsPropertyTest.cpp
   planner/RowSortsTest.cpp
