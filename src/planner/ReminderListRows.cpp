@@ -19,7 +19,8 @@ RowOrder OrderOf(const ReminderListRows& rows, SortOrder order) {
     case ReminderListColumn::Name:
         return OrderByTexts(rows.ReminderNames, order.direction);
     case ReminderListColumn::Time:
-        return OrderOfNumbers(rows.ReminderSortKeys.values, order.direction);
+        return OrderByNumber(rows.ReminderSortKeys.Count(), order.direction,
+                             [&](int row) { return rows.ReminderSortKeys.Item(row); });
     }
     return {};
 }
