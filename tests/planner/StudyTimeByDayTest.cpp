@@ -161,6 +161,23 @@ TEST_F(StudyOfDays, RoundsWeeklySessionsInStoreOrderToo) {
     EXPECT_EQ(std::accumulate(study.begin(), study.end(), 0), 29 * 3);
 }
 
+TEST_F(StudyOfDays, RoundsInStoreOrderWhereTheFirstWeeksAreGivenUp) {
+    AddStudy({.date = "2009/10/15", .duration = "1 Minutes", .recurrence = "Day", .repeat_daily = "FFFTFFF"});
+    std::string exceptions;
+    for (int week = 0; week < 10; ++week) {
+        exceptions += StoredDate(Wednesday + std::chrono::days{1 + 7 * week}) + " ";
+    }
+    AddStudy({.date = "2009/10/15",
+              .duration = "0.5 Minutes",
+              .recurrence = "Day",
+              .exceptions = exceptions,
+              .repeat_daily = "FFFTFFF"});
+    const Minutes study = StudyOf(200);
+    EXPECT_EQ(study[64], 1);
+    EXPECT_EQ(study[71], 2); // 1, 1.5 becomes 2
+    EXPECT_EQ(study[197], 2);
+}
+
 TEST_F(StudyOfDays, LeavesTheDatesOutThatASeriesHasGivenUp) {
     AddStudy({.date = "2009/10/12",
               .time = "08:00 PM",
