@@ -288,6 +288,7 @@ std::vector<Session> RandomSessions(std::mt19937& random, Date today) {
 
 void StoreSessions(const std::vector<Session>& sessions) {
     std::vector<OracleSeries> series;
+    series.reserve(sessions.size());
     for (const Session& session : sessions) {
         series.push_back(session.series);
     }
