@@ -304,7 +304,7 @@ void StoreSessions(const std::vector<Session>& sessions) {
     }
 }
 
-// The rule day by day and session by session, as it is told.
+// The rule day by day and session by session.
 Minutes NaiveStudy(const std::vector<Session>& sessions, const std::vector<OracleDay>& days,
                    TimeOfDay present) {
     Minutes study(days.size(), 0);
