@@ -110,7 +110,7 @@ void HomeworkListByColumn(benchmark::State& state) {
     for (auto _ : state) {
         SelectHomeworkRows(filter);
         SortHomeworkRows({static_cast<int>(state.range(0)), Ascending});
-        benchmark::DoNotOptimize(HomeworkRows);
+        benchmark::DoNotOptimize(HomeworkRows.Count());
     }
 }
 
@@ -122,7 +122,7 @@ void HomeworkListOfADay(benchmark::State& state) {
     for (auto _ : state) {
         SelectHomeworkRows(filter);
         SortHomeworkRows({static_cast<int>(HomeworkColumn::Due), Ascending});
-        benchmark::DoNotOptimize(HomeworkRows);
+        benchmark::DoNotOptimize(HomeworkRows.Count());
     }
 }
 
@@ -146,7 +146,7 @@ void EventsOfADay(benchmark::State& state) {
     for (auto _ : state) {
         SelectEventsForDay(FirstDay + std::chrono::days{21}, filter);
         SortEventRowsByDuration(Ascending);
-        benchmark::DoNotOptimize(EventRows);
+        benchmark::DoNotOptimize(EventRows.Count());
     }
 }
 
@@ -158,7 +158,7 @@ void ReminderList(benchmark::State& state) {
     for (auto _ : state) {
         SelectReminders(FirstDay + std::chrono::days{21}, filter);
         SortReminderRows({static_cast<int>(ReminderColumn::When), Ascending});
-        benchmark::DoNotOptimize(ReminderRows);
+        benchmark::DoNotOptimize(ReminderRows.Count());
     }
 }
 

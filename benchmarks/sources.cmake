@@ -3,5 +3,6 @@ target_sources(planovarium_bench PRIVATE
   ListBench.cpp
   RecordFilesBench.cpp
   RecurrenceBench.cpp
+  RemindersBench.cpp
   StudyBench.cpp
 )

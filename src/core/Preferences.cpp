@@ -93,7 +93,9 @@ bool ReadOptionLine(PreferenceValues& values, std::string_view line) {
         values.ShowTipsAtStartup = *tips == "No" ? "No" : "Yes";
     } else if (const auto mode = ValueBehind(line, AutoStartKey)) {
         values.AutoStartChecked = std::ranges::find(StartModes, *mode) != StartModes.end();
-        values.AutoStart = values.AutoStartChecked ? *mode : values.AutoStart;
+        if (values.AutoStartChecked) {
+            values.AutoStart = *mode;
+        }
     } else if (const auto tip = ValueBehind(line, TipKey)) {
         values.CurrentTip = ToInt16(*tip);
     } else {

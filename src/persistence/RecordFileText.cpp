@@ -6,7 +6,8 @@
 
 namespace {
 
-const std::string Indentation = "  ";
+constexpr std::string_view Header = R"(<?xml version="1.0" encoding="ISO-8859-1"?>)";
+constexpr std::string_view Indentation = "  ";
 constexpr std::string_view NoDate = "//";
 
 // What stands around the value of a field.
@@ -19,7 +20,8 @@ std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
     std::vector<FieldFrame> frames;
     frames.reserve(fields.size());
     for (const RecordField& field : fields) {
-        frames.push_back({Indentation + OpeningTag(field.tag), ClosingTag(field.tag).append(LineEnd)});
+        frames.push_back(
+            {std::string(Indentation).append(OpeningTag(field.tag)), ClosingTag(field.tag).append(LineEnd)});
     }
     return frames;
 }
@@ -46,13 +48,13 @@ std::string ClosingTag(std::string_view tag) {
     return std::string("</").append(tag).append(">");
 }
 
-std::string RecordFileText(const RecordFile& file) {
+std::string RecordFileText(const RecordFile& file, int records) {
     const std::vector<FieldFrame> frames = FramesOf(file.fields);
     const std::string recordStart = OpeningTag(file.record).append(LineEnd);
     const std::string recordEnd = ClosingTag(file.record).append(LineEnd);
-    std::string text(RecordFileHeader);
+    std::string text(Header);
     text.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
-    for (int position = 1; position <= file.counted->Count(); ++position) {
+    for (int position = 1; position <= records; ++position) {
         text.append(recordStart);
         for (std::size_t i = 0; i < frames.size(); ++i) {
             const std::string& value = file.fields[i].list->Item(position);

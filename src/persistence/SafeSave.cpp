@@ -13,7 +13,7 @@ bool SaveRecordFile(const RecordFile& file) {
     const std::string temporary = file.name + ".tmp";
     try {
         OutputFile output = OpenForWriting(temporary);
-        WriteAndClose(std::move(output), RecordFileText(file));
+        WriteAndClose(std::move(output), RecordFileText(file, file.counted->Count()));
     } catch (const RunTimeError&) {
         ShowFileError(temporary, "writing");
         return false;

@@ -11,12 +11,6 @@
 
 namespace {
 
-std::string EmptyRecordFile(const RecordFile& file) {
-    std::string text(RecordFileHeader);
-    text.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
-    return text.append(ClosingTag(file.root)).append(LineEnd);
-}
-
 // A file that could not be written whole is taken away again: empty as it is, it would fail at every later
 // start.
 void CreateWhereMissing(const RecordFile& file) {
@@ -26,7 +20,7 @@ void CreateWhereMissing(const RecordFile& file) {
     }
     OutputFile output = OpenForWriting(file.name);
     try {
-        WriteAndClose(std::move(output), EmptyRecordFile(file));
+        WriteAndClose(std::move(output), RecordFileText(file, 0));
     } catch (const RunTimeError&) {
         std::filesystem::remove(file.name, error);
         throw;

@@ -125,25 +125,29 @@ void SetNext(int index, const Occurrence& next) {
 bool AdvanceEventReminder(int index, Moment now) {
     EventLists& events = Store.EventRecord;
     const SeriesReminder series = ReadSeriesReminder(index);
-    const bool presentIsNext = events.reminder_currentday.Item(index) == events.reminder_nextday.Item(index);
+    const bool snoozed = events.reminder_currentday.Item(index) != events.reminder_nextday.Item(index);
     Occurrence next{DateValue(events.reminder_nextday.Item(index)), events.reminder_nextalarm.Item(index)};
     const Following following = WalkOn(series, next.day, now);
     std::optional<Occurrence> missed = following.latestDue;
     if (!missed && !IsException(series.exceptions, next.day)) {
         missed = next;
     }
-    if (following.next) {
-        next = *following.next;
-    } else {
-        events.reminder.Replace(index, BooleanText(false));
-    }
     if (missed) {
         events.reminder_list.Replace(index, BooleanText(true));
         SetPresent(index, *missed);
-    } else if (presentIsNext) {
-        SetPresent(index, next); // else a snoozed occurrence stays the present one
+    }
+    if (following.next) {
+        next = *following.next;
+    } else if (!missed && snoozed) {
+        // Only the snoozed occurrence is left, and comes next.
+        next = {DateValue(events.reminder_currentday.Item(index)), events.reminder_alarm.Item(index)};
+    } else {
+        events.reminder.Replace(index, BooleanText(false));
     }
     SetNext(index, next);
+    if (!missed && !snoozed) {
+        FollowNextOccurrence(index);
+    }
     return missed.has_value();
 }
 

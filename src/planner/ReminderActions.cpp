@@ -85,13 +85,6 @@ int ReminderPosition(std::string_view mode, std::string_view id) {
 }
 
 void TakeOutReminderRow(ReminderListRows& rows, int row, ReminderFlags& flags) {
-    rows.ReminderIds.Remove(row);
-    rows.ReminderModes.Remove(row);
-    rows.ReminderNames.Remove(row);
-    rows.ReminderTypes.Remove(row);
-    rows.ReminderWhens.Remove(row);
-    rows.ReminderSortKeys.Remove(row);
-    rows.ReminderForeColors.Remove(row);
-    rows.ReminderBackColors.Remove(row);
+    ForEachList(rows, [row](auto& list) { list.Remove(row); });
     flags.ReminderSelectedRow = std::min(flags.ReminderSelectedRow, rows.ReminderIds.Count());
 }

@@ -10,7 +10,6 @@
 #include "planner/ReminderItems.h"
 #include "planner/ReminderPhrases.h"
 #include "planner/RowLook.h"
-#include "planner/TypeEntry.h"
 
 #include <cstdint>
 #include <optional>
@@ -112,9 +111,9 @@ bool ItemStands(const ItemReminderLists& items, int position, Scan& scan, bool& 
 }
 
 ReminderRow ItemRow(const ItemReminderLists& items, int position, std::string_view mode,
-                    const char* newName) {
+                    std::string_view newName) {
     const std::string& desc = items.desc.Item(position);
-    return {items.id.Item(position), mode, desc.empty() ? newName : desc};
+    return {items.id.Item(position), mode, desc.empty() ? std::string(newName) : desc};
 }
 
 void TellDay(ReminderRow& row, const std::string& date, const Scan& scan) {
@@ -129,7 +128,7 @@ void CheckTasks(Scan& scan) {
         if (!ItemStands(items, position, scan, scan.flags.ReminderTasksChanged)) {
             continue;
         }
-        ReminderRow row = ItemRow(items, position, TaskMode, "New Task");
+        ReminderRow row = ItemRow(items, position, TaskMode, NewTaskText);
         if (IsTrue(Store.TaskRecord.date_exists.Item(position))) {
             TellDay(row, items.date.Item(position), scan);
         } else {
@@ -150,7 +149,7 @@ void CheckHomework(Scan& scan) {
         if (!scan.classes) {
             scan.classes = ClassPositionsById();
         }
-        ReminderRow row = ItemRow(items, position, HomeworkMode, "New Assignment");
+        ReminderRow row = ItemRow(items, position, HomeworkMode, NewAssignmentText);
         TellDay(row, items.date.Item(position), scan);
         row.look = ClassLook(ClassPositionOf(*scan.classes, Store.Assignment.class_.Item(position)));
         AppendRow(scan, std::move(row));
@@ -228,9 +227,12 @@ void CheckEvents(Scan& scan) {
         }
         const Moment moment = MomentOfEvent(index);
         const std::int64_t away = (floor<minutes>(moment) - floor<minutes>(scan.now)).count();
-        AppendRow(scan, {events.id.Item(index), EventMode, EventReminderName(index),
-                         MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
-                         EventTypeLook(events.type.Item(index))});
+        const std::string& type = events.type.Item(index);
+        const std::string& desc = events.desc.Item(index);
+        AppendRow(scan,
+                  {events.id.Item(index), EventMode, desc.empty() ? std::string(NewEventText(type)) : desc,
+                   MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
+                   EventTypeLook(type)});
     }
 }
 
@@ -242,15 +244,4 @@ void CheckReminders(Moment now, ReminderFlags& flags, ReminderListRows& rows) {
     CheckTasks(scan);
     CheckHomework(scan);
     CheckEvents(scan);
-}
-
-std::string EventReminderName(int index) {
-    const EventLists& events = Store.EventRecord;
-    if (!events.desc.Item(index).empty()) {
-        return events.desc.Item(index);
-    }
-    if (IsClassMeeting(events.type.Item(index))) {
-        return "Class";
-    }
-    return events.type.Item(index) == StudyTimeType ? std::string(StudyTimeType) : "New Event";
 }

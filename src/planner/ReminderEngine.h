@@ -3,22 +3,8 @@
 // owns the rows and the flags; it draws the rows, shows itself and writes the files that the flags name.
 #pragma once
 
-#include "core/TextList.h"
+#include "planner/ReminderListRows.h"
 #include "platform/Clock.h"
-
-#include <string>
-
-// The rows of the reminder window, one entry each: tasks, homework, events, each in the store's order.
-struct ReminderListRows {
-    TextList ReminderIds;   // id of the record
-    TextList ReminderModes; // "Task", "Homework" or "Event"
-    TextList ReminderNames;
-    TextList ReminderTypes;
-    TextList ReminderWhens;
-    List<double> ReminderSortKeys; // days of a task or an assignment, minutes of an event
-    NumberList ReminderForeColors; // 0xBBGGRR
-    NumberList ReminderBackColors;
-};
 
 struct ReminderFlags {
     bool ReminderFirstTick = true;     // no row has been found since the start
@@ -34,6 +20,3 @@ struct ReminderFlags {
 // are passed over and stay as they are. Raises the run-time error at a bad text among those that a reminder's
 // state lets it read: alarms of what is armed, dates, times and types of what stands.
 void CheckReminders(Moment now, ReminderFlags& flags, ReminderListRows& rows);
-
-// The name of an event on the list: its description or, where that is empty, what kind of event it is.
-std::string EventReminderName(int index);

@@ -21,6 +21,7 @@ target_sources(planovarium_logic PRIVATE
   planner/ReminderActions.cpp
   planner/ReminderEngine.cpp
   planner/ReminderEntry.cpp
+  planner/ReminderListRows.cpp
   planner/ReminderPhrases.cpp
   planner/ReminderSelection.cpp
   planner/RowLook.cpp

@@ -295,6 +295,38 @@ TEST_F(Advance, LeavesASnoozedOccurrenceAloneWhenTheNextWasGivenUp) {
     ExpectNext("2009/10/03", "2009/10/03 08:30:00");
 }
 
+TEST_F(Advance, KeepsASnoozedOccurrenceWhenAllOthersToComeWereGivenUp) {
+    EventTexts event = EveryDay;
+    event.end = "True";
+    event.end_date = "2009/10/02";
+    AddArmedEvent(event);
+    SetClock(2009, 10, 1, 9, 0);
+    AdvanceEventReminder(1, Now());
+    Store.EventRecord.reminder_list.Replace(1, "False");
+    Store.EventRecord.reminder_alarm.Replace(1, "2009/10/04 09:00:00"); // snoozed for three days
+    Store.EventRecord.exceptions.Replace(1, "2009/10/02");
+    SetClock(2009, 10, 2, 9, 0);
+    EXPECT_FALSE(AdvanceEventReminder(1, Now()));
+    EXPECT_EQ(Field(&EventLists::reminder), "True");
+    ExpectNext("2009/10/01", "2009/10/04 09:00:00");
+    SetClock(2009, 10, 4, 9, 0);
+    EXPECT_TRUE(AdvanceEventReminder(1, Now()));
+    ExpectPresent("2009/10/01", "2009/10/04 09:00:00");
+    EXPECT_EQ(Field(&EventLists::reminder), "False");
+}
+
+TEST_F(Advance, DisarmsASeriesWhoseLastOccurrenceWasGivenUp) {
+    EventTexts event = EveryDay;
+    event.end = "True";
+    event.end_date = "2009/10/01";
+    event.exceptions = "2009/10/01";
+    AddArmedEvent(event);
+    SetClock(2009, 10, 1, 9, 0);
+    EXPECT_FALSE(AdvanceEventReminder(1, Now()));
+    EXPECT_EQ(Field(&EventLists::reminder), "False");
+    EXPECT_EQ(Field(&EventLists::reminder_list), "False");
+}
+
 TEST_F(Advance, OfASeriesWithoutAnyFurtherDayDisarmsIt) {
     for (const EventTexts& event :
          {EventTexts{.recurrence = "Day", .repeat_daily = "FFFFFFF"}, EventTexts{.recurrence = "Fortnight"},

@@ -4,6 +4,7 @@
 #include "planner/DateHelpers.h"
 #include "planner/SortedRows.h"
 
+#include <cmath>
 #include <rapidcheck.h>
 
 namespace {
@@ -170,7 +171,7 @@ Value EventValue(int column, int row, int direction) {
     case 3:
         return Number(DayDiff(Wednesday, DateValue(store.date.Item(row))));
     case 4:
-        return Number(IsTime(time) ? static_cast<double>(TimeValue(time).count() / 60) : 0);
+        return Number(IsTime(time) ? std::floor(static_cast<double>(TimeValue(time).count()) / 60) : 0);
     case 5:
         return {Or(store.recurrence.Item(row), "None", up ? "z" : "a")};
     default:

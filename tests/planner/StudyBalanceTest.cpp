@@ -36,9 +36,10 @@ struct Outcome {
 };
 
 std::vector<Portion> Portions(int leastAhead, int greatestAhead, int greatestMinutes) {
-    std::vector<Portion> portions;
     const auto pairs = *rc::gen::container<std::vector<std::pair<int, int>>>(rc::gen::pair(
         rc::gen::inRange(leastAhead, greatestAhead + 1), rc::gen::inRange(0, greatestMinutes + 1)));
+    std::vector<Portion> portions;
+    portions.reserve(pairs.size());
     for (const auto& [daysAhead, minutes] : pairs) {
         portions.push_back({daysAhead, minutes});
     }

@@ -161,6 +161,23 @@ TEST_F(StudyOfDays, RoundsWeeklySessionsInStoreOrderToo) {
     EXPECT_EQ(std::accumulate(study.begin(), study.end(), 0), 29 * 3);
 }
 
+TEST_F(StudyOfDays, RoundsInStoreOrderWhereTheFirstWeeksAreGivenUp) {
+    AddStudy({.date = "2009/10/15", .duration = "1 Minutes", .recurrence = "Day", .repeat_daily = "FFFTFFF"});
+    std::string exceptions;
+    for (int week = 0; week < 10; ++week) {
+        exceptions += StoredDate(Wednesday + std::chrono::days{1 + 7 * week}) + " ";
+    }
+    AddStudy({.date = "2009/10/15",
+              .duration = "0.5 Minutes",
+              .recurrence = "Day",
+              .exceptions = exceptions,
+              .repeat_daily = "FFFTFFF"});
+    const Minutes study = StudyOf(200);
+    EXPECT_EQ(study[64], 1);
+    EXPECT_EQ(study[71], 2); // 1, 1.5 becomes 2
+    EXPECT_EQ(study[197], 2);
+}
+
 TEST_F(StudyOfDays, LeavesTheDatesOutThatASeriesHasGivenUp) {
     AddStudy({.date = "2009/10/12",
               .time = "08:00 PM",
@@ -271,6 +288,7 @@ std::vector<Session> RandomSessions(std::mt19937& random, Date today) {
 
 void StoreSessions(const std::vector<Session>& sessions) {
     std::vector<OracleSeries> series;
+    series.reserve(sessions.size());
     for (const Session& session : sessions) {
         series.push_back(session.series);
     }
@@ -286,7 +304,7 @@ void StoreSessions(const std::vector<Session>& sessions) {
     }
 }
 
-// The rule day by day and session by session, as it is told.
+// The rule day by day and session by session.
 Minutes NaiveStudy(const std::vector<Session>& sessions, const std::vector<OracleDay>& days,
                    TimeOfDay present) {
     Minutes study(days.size(), 0);

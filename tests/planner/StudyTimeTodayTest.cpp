@@ -116,7 +116,7 @@ TEST_F(StudyToday, EndsInTheRunTimeErrorAtAnEstimateThatIsNone) {
     EXPECT_THROW(StudyTimeToday(Today14), RunTimeError);
 }
 
-// The rates asked on every day, as the rule is told.
+// The rates asked on every day.
 TEST_F(StudyToday, AgreesWithTheRatesOfAllDays) {
     EXPECT_TRUE(rc::check([] {
         ResetStore();

@@ -26,8 +26,10 @@ target_sources(logic_tests PRIVATE
   planner/ReminderEngineTest.cpp
   planner/ReminderEntryTest.cpp
   planner/ReminderEventsTest.cpp
+  planner/ReminderListRowsTest.cpp
   planner/ReminderPhrasesTest.cpp
   planner/ReminderSelectionTest.cpp
+  planner/ReminderSimulationTest.cpp
   planner/RowLookTest.cpp
   planner/RowSortsPropertyTest.cpp
   planner/RowSortsTest.cpp

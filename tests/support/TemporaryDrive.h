@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <string>
 
-// The folder below which drives are made: in memory where the system has such a folder, since every save waits
-// for its device, else the one for temporary files.
+// The folder below which drives are made: in memory where the system has such a folder, since every save
+// waits for its device, else the one for temporary files.
 std::filesystem::path FolderOfDrives();
 
 // Sets the four variables of the drive to folders below a new temporary one. The planner's folders are not

@@ -1,0 +1,175 @@
+// Reminders through simulated years of a student's work, held against a plain model and against what has to
+// hold whatever happens. Ticks lie on a grid of 40 seconds; in the long runs most ticks between the student's
+// actions are left out.
+#include "core/DateText.h"
+#include "planner/ClassLink.h"
+#include "planner/EventOccursOn.h"
+#include "planner/ReminderItems.h"
+#include "support/ReminderStudent.h"
+#include "support/ScriptedPlatform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+using std::chrono::days;
+using Texts = std::vector<std::string>;
+
+constexpr std::chrono::seconds TickInterval = 40s;
+
+template <class Lists, std::size_t Count>
+void AddChanged(std::set<std::string>& changed, const std::string& mode, const Lists& before,
+                const Lists& after, const std::array<Field<Lists>, Count>& fields) {
+    for (const Field<Lists>& field : fields) {
+        for (int i = 1; i <= before.id.Count(); ++i) {
+            if ((before.*field.list).Item(i) != (after.*field.list).Item(i)) {
+                changed.insert(mode + " " + before.id.Item(i));
+            }
+        }
+    }
+}
+
+// The records that are not what they were, as "mode id". None was added or taken out.
+std::set<std::string> ChangedSince(const PlannerStore& before) {
+    std::set<std::string> changed;
+    AddChanged(changed, "Task", before.TaskRecord, Store.TaskRecord, TaskFields);
+    AddChanged(changed, "Homework", before.Assignment, Store.Assignment, AssignmentFields);
+    AddChanged(changed, "Event", before.EventRecord, Store.EventRecord, EventFields);
+    return changed;
+}
+
+Texts ShownRows(const ReminderWindow& window) {
+    Texts rows = window.Standing();
+    for (std::string& row : rows) {
+        if (row.starts_with("Event ")) {
+            const int index = ReminderPosition("Event", row.substr(6));
+            if (Store.EventRecord.recurrence.Item(index) != "None") {
+                row += " " + Store.EventRecord.reminder_currentday.Item(index);
+            }
+        }
+    }
+    return rows;
+}
+
+// What is armed and due has fired, or waits behind its own row, or for its term.
+void ExpectNothingLost() {
+    for (const std::string mode : {"Task", "Homework"}) {
+        const ItemReminderLists items = ItemReminders(mode);
+        for (int i = 1; i <= items.id.Count(); ++i) {
+            ASSERT_FALSE(items.reminder.Item(i) == "True" &&
+                         MomentValue(items.reminderAlarm.Item(i)) <= Now());
+        }
+    }
+    const EventLists& events = Store.EventRecord;
+    for (int i = 1; i <= events.id.Count(); ++i) {
+        if (events.reminder.Item(i) == "True" && events.reminder_list.Item(i) == "False" &&
+            BelongsToActiveTerm(events.type.Item(i))) {
+            ASSERT_GT(MomentValue(events.reminder_alarm.Item(i)), Now());
+            ASSERT_TRUE(events.recurrence.Item(i) == "None" ||
+                        MomentValue(events.reminder_nextalarm.Item(i)) > Now());
+        }
+    }
+}
+
+// A series that has fired shows an occurrence behind which none is due that it has not given up.
+void ExpectLatestShown(const ModelItem& item) {
+    const int index = ReminderPosition("Event", item.id);
+    const Date shown = DateValue(Store.EventRecord.reminder_currentday.Item(index));
+    for (Date day = shown + days{1}; AlarmOfOccurrence(index, day) <= Now(); ++day) {
+        ASSERT_FALSE(EventOccursOn(day, index)) << StoredDate(day);
+    }
+}
+
+void ExpectFlags(const Simulation& simulation, const std::vector<const ModelItem*>& fired, bool firstRows) {
+    const ReminderFlags& flags = simulation.window.flags;
+    const auto any = [&](const std::string& mode) {
+        return std::ranges::any_of(fired, [&](const ModelItem* item) { return item->mode == mode; });
+    };
+    ASSERT_EQ(flags.ReminderShowWindow, firstRows || !fired.empty());
+    ASSERT_EQ(flags.ReminderTasksChanged, any("Task"));
+    ASSERT_EQ(flags.ReminderHomeworkChanged, any("Homework"));
+    ASSERT_TRUE(flags.ReminderEventsChanged || !any("Event")); // a given-up occurrence changes the file too
+}
+
+void ExpectOnlyFiredRecordsChanged(const PlannerStore& before, const std::vector<const ModelItem*>& fired) {
+    std::set<std::string> allowed;
+    for (const ModelItem* item : fired) {
+        allowed.insert(NameOf(*item));
+    }
+    for (const std::string& changed : ChangedSince(before)) {
+        const bool mayPassOver =
+            changed.starts_with("Event") &&
+            !Store.EventRecord.exceptions.Item(ReminderPosition("Event", changed.substr(6))).empty();
+        ASSERT_TRUE(allowed.contains(changed) || mayPassOver) << changed;
+    }
+}
+
+// One tick, and a second at once: what the first only passed over may uncover a snoozed occurrence.
+void Tick(Simulation& simulation) {
+    const std::vector<const ModelItem*> fired = simulation.model.Tick(Now(), ActiveTermID);
+    const bool compared = !fired.empty() || simulation.Below(1000) == 0;
+    const PlannerStore before = compared ? Store : PlannerStore{};
+    const bool first = simulation.window.flags.ReminderFirstTick;
+    simulation.window.flags = {.ReminderFirstTick = first};
+    simulation.window.Tick();
+    simulation.window.Tick();
+    const Texts rows = ShownRows(simulation.window);
+    ASSERT_EQ(rows, simulation.model.Rows(ActiveTermID));
+    ASSERT_NO_FATAL_FAILURE(ExpectFlags(simulation, fired, first && !rows.empty()));
+    ASSERT_NO_FATAL_FAILURE(ExpectNothingLost());
+    for (const ModelItem* item : fired) {
+        ASSERT_FALSE(simulation.dismissed.contains(RowOf(*item))) << RowOf(*item);
+        if (item->series) {
+            ASSERT_NO_FATAL_FAILURE(ExpectLatestShown(*item));
+        }
+    }
+    if (compared) {
+        ASSERT_NO_FATAL_FAILURE(ExpectOnlyFiredRecordsChanged(before, fired));
+    }
+    simulation.rows = rows;
+}
+
+// No action on one record changes another.
+void ActOnOneRecordOnly(Simulation& simulation) {
+    const PlannerStore before = Store;
+    const std::string actedOn = Act(simulation);
+    if (!actedOn.empty()) {
+        for (const std::string& changed : ChangedSince(before)) {
+            ASSERT_EQ(changed, actedOn);
+        }
+    }
+}
+
+// Simulates to the date with up to so many ticks left out between two, and an action at every so manieth on
+// average.
+void Simulate(unsigned seed, Date until, int ticksLeftOut, int ticksPerAction) {
+    Simulation simulation{seed};
+    Begin(simulation);
+    while (Now() < Moment{until}) {
+        Script.now += TickInterval * (1 + simulation.Below(ticksLeftOut + 1));
+        ASSERT_NO_FATAL_FAILURE(Tick(simulation)) << "seed " << seed << ", " << StoredMoment(Now());
+        if (simulation.Below(ticksPerAction) == 0) {
+            ASSERT_NO_FATAL_FAILURE(ActOnOneRecordOnly(simulation))
+                << "seed " << seed << ", " << StoredMoment(Now());
+        }
+    }
+    ResetStore();
+}
+
+} // namespace
+
+TEST(ReminderSimulation, OfAMonthTickByTick) {
+    Simulate(1, Date{2009y / 2 / 1}, 0, 400);
+}
+
+class ReminderYears : public testing::TestWithParam<unsigned> {};
+
+TEST_P(ReminderYears, LoseNothingRepeatNothingAndShowTheLatest) {
+    Simulate(GetParam(), Date{2012y / 1 / 1}, 180, 25);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, ReminderYears, testing::Range(100U, 105U));
