@@ -74,12 +74,17 @@ void frmMain::OpenFromReminders() {
     }
 }
 
-// An editor runs a loop of its own, so it opens once the activation is done.
 bool frmMain::event(QEvent* event) {
+    const bool done = QMainWindow::event(event);
     if (event->type() == QEvent::WindowActivate && CalledFromReminders) {
+        // An editor runs a loop of its own, so it opens once the activation is done.
         QMetaObject::invokeMethod(this, &frmMain::OpenFromReminders, Qt::QueuedConnection);
     }
-    return QMainWindow::event(event);
+    if (event->type() == QEvent::WindowStateChange &&
+        static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized)) {
+        RefreshAfterResize(); // what was resized while it was minimized has not been laid out
+    }
+    return done;
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {

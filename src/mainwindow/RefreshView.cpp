@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr int UnknownMonth = 13; // no month is shown, so the marks are made anew
-constexpr int MorningRow = 11;   // the day's schedule opens with the half hour of 5 AM
+constexpr int MorningRow = 11; // the day's schedule opens with the half hour of 5 AM
 
 void ShowStudyTimeToday(const frmMain& window, Date day) {
     const StudyTimeBoxes boxes = StudyTimeToday(day);
@@ -24,9 +23,9 @@ void OpenAtMorning(QScrollBar* scroll) {
 void RunStep(frmMain& window, char step) {
     switch (step) {
     case 'B':
-        window.ClickedDate = window.SelectedDate;
-        window.ShownMonth = UnknownMonth;
-        window.BuildMonth();
+        for (const char part : std::string_view("CMb")) {
+            RunStep(window, part);
+        }
         break;
     case 'C':
         window.ClickedDate = window.SelectedDate;
@@ -74,11 +73,13 @@ void frmMain::RefreshFor(std::string_view reason) {
     RefreshView();
 }
 
+void frmMain::RefreshAfterResize() {
+    if (!isMinimized() && RefreshReason == ReasonNone && CurrentMode() != Mode::None) {
+        RefreshFor(ReasonResize);
+    }
+}
+
 void frmMain::BindModes() {
     // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
-    connect(picGrid, &PictureBox::Resized, this, [this] {
-        if (!isMinimized() && RefreshReason == ReasonNone && CurrentMode() != Mode::None) {
-            RefreshFor(ReasonResize);
-        }
-    });
+    connect(picGrid, &PictureBox::Resized, this, &frmMain::RefreshAfterResize);
 }

@@ -10,6 +10,7 @@
 #include <QApplication>
 
 #include <filesystem>
+#include <ranges>
 
 namespace {
 
@@ -35,8 +36,8 @@ void RunShutdownSteps(const frmMain& window) {
 // From the last to the first.
 void HideAllWindows() {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (auto window = windows.rbegin(); window != windows.rend(); ++window) {
-        (*window)->hide();
+    for (QWidget* window : windows | std::views::reverse) {
+        window->hide();
     }
 }
 

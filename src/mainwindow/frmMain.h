@@ -28,6 +28,8 @@
 
 class frmAlert;
 
+inline constexpr int UnknownMonth = 13;
+
 // What stands for a mode in the window: its menu item, its picture and word in the mode bar (some have no
 // word), and the boxes of its three counters (null for none).
 struct ModeControls {
@@ -121,7 +123,7 @@ public:
     Date SelectedDate{};                   // the date that the last one did show
     std::string RefreshReason{ReasonNone}; // the order to RefreshView
     bool ChangingMode = false;             // a mode entry fills the filter menus, whose handlers keep quiet
-    int ShownMonth = 13;                   // month of which the marks are; 13 forces them anew
+    int ShownMonth = UnknownMonth;         // month of which the marks are; 13 forces them anew
     int ShownYear = 0;                     // and the year of that month
     CalendarMonth Month;                   // the month that both calendars show
     CalendarLayout CalendarGrid;           // where the large calendar was painted
@@ -222,6 +224,9 @@ public:
 
     // Sets the reason and refreshes.
     void RefreshFor(std::string_view reason);
+
+    // For the window's new size, unless it is minimized or at work.
+    void RefreshAfterResize();
 
     // --- MonthCalendar.cpp, CalendarSteps.cpp, LargeCalendar.cpp ---
     void BuildMonth();
