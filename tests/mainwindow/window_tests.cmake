@@ -3,9 +3,16 @@ target_sources(window_tests PRIVATE
   mainwindow/AutoStartTest.cpp
   mainwindow/BringForwardTest.cpp
   mainwindow/CommandsTest.cpp
+  mainwindow/DayScheduleTest.cpp
   mainwindow/ElidedLabelTest.cpp
+  mainwindow/GridAccessibleTest.cpp
+  mainwindow/GridClicksTest.cpp
+  mainwindow/GridKeysTest.cpp
+  mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
+  mainwindow/ListGridTest.cpp
   mainwindow/ModesTest.cpp
+  mainwindow/PopupMenusTest.cpp
   mainwindow/ProcessTest.cpp
   mainwindow/StatusPanelsTest.cpp
   mainwindow/StudyTimerTest.cpp
