@@ -5,7 +5,7 @@
 
 class frmMain;
 
-// Lets the toolkit describe the grid of the window as a table. To be called once its grid is built.
+// Lets the toolkit describe the grid of the window as a table. To be called as the grid is built.
 void InstallGridAccessible(PictureBox& grid);
 
 // Tell a screen reader, if there is one, that the grid shows something else, and where the keys stand.

@@ -1,7 +1,6 @@
 // The clicks on the grid and on its titles, and what they open.
 #include "core/RowLists.h"
 #include "mainwindow/DayLayout.h"
-#include "mainwindow/GridAccessible.h"
 #include "mainwindow/frmMain.h"
 
 namespace {
@@ -86,7 +85,6 @@ void EditReminder(frmMain& window, int row) {
 } // namespace
 
 void frmMain::BindGrid() {
-    InstallGridAccessible(*picGrid);
     InstallGridKeys();
     VSGridScroll->setFocusPolicy(Qt::NoFocus);
     VSGridScroll->setFocusProxy(picGrid);

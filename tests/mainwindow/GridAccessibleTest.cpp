@@ -80,11 +80,11 @@ TEST_F(GridAccessible, TheMonthIsATableOfItsDays) {
     window->ShowCalendarMode();
     EXPECT_EQ(Table()->rowCount(), 6);
     EXPECT_EQ(Columns(),
-              (QStringList{"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"}));
-    EXPECT_EQ(Table()->cellAt(2, 2)->text(QAccessible::Name),
+              (QStringList{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"}));
+    EXPECT_EQ(Table()->cellAt(2, 3)->text(QAccessible::Name),
               "Wednesday, October 14, homework 1 / 2, events 1");
-    EXPECT_EQ(Table()->cellAt(2, 3)->text(QAccessible::Name), "Thursday, October 15");
-    EXPECT_EQ(Table()->selectedCells(), QList<QAccessibleInterface*>{Table()->cellAt(2, 2)});
+    EXPECT_EQ(Table()->cellAt(2, 4)->text(QAccessible::Name), "Thursday, October 15");
+    EXPECT_EQ(Table()->selectedCells(), QList<QAccessibleInterface*>{Table()->cellAt(2, 3)});
 }
 
 TEST_F(GridAccessible, TheDayIsATableOfItsEvents) {

@@ -3,6 +3,7 @@
 
 #include "core/RowLists.h"
 
+#include <QApplication>
 #include <QWheelEvent>
 
 namespace {
@@ -13,7 +14,8 @@ protected:
         const QPointF place = QPointF(over->rect().center());
         QWheelEvent event(place, over->mapToGlobal(place), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
                           Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(over, &event);
+        QSpontaneKeyEvent::setSpontaneous(&event); // only such an event goes on to what lies behind
+        qApp->notify(over, &event);
     }
 
     void ClickTitle(std::size_t column) { QTest::mouseClick(window->picColHeader[column], Qt::LeftButton); }

@@ -144,9 +144,10 @@ TEST_F(GridKeys, TheMonthMovesByDaysWeeksMonthsAndToItsEnds) {
     window->ShowCalendarMode();
     ASSERT_EQ(window->SelectedDate, Wednesday);
     const std::vector<std::pair<int, Date>> steps{
-        {Qt::Key_Right, 2009y / 10 / 15},   {Qt::Key_Down, 2009y / 10 / 22}, {Qt::Key_Left, 2009y / 10 / 21},
-        {Qt::Key_Up, 2009y / 10 / 14},      {Qt::Key_End, 2009y / 10 / 31},  {Qt::Key_Home, 2009y / 10 / 1},
-        {Qt::Key_PageDown, 2009y / 11 / 1}, {Qt::Key_PageUp, 2009y / 10 / 1}};
+        {Qt::Key_Right, Date{2009y / 10 / 15}},   {Qt::Key_Down, Date{2009y / 10 / 22}},
+        {Qt::Key_Left, Date{2009y / 10 / 21}},    {Qt::Key_Up, Date{2009y / 10 / 14}},
+        {Qt::Key_End, Date{2009y / 10 / 31}},     {Qt::Key_Home, Date{2009y / 10 / 1}},
+        {Qt::Key_PageDown, Date{2009y / 11 / 1}}, {Qt::Key_PageUp, Date{2009y / 10 / 1}}};
     for (const auto& [key, date] : steps) {
         Press(key);
         EXPECT_EQ(window->SelectedDate, date);
