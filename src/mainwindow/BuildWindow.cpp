@@ -1,5 +1,6 @@
 // The main window put together: the menu bar over the mode bar, the left panel beside the view, the status
 // bar.
+#include "mainwindow/GridAccessible.h"
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/ElidedLabel.h"
@@ -95,6 +96,7 @@ QWidget* frmMain::BuildRightSide() {
     column->addWidget(picTop);
 
     picGrid = new PictureBox;
+    InstallGridAccessible(*picGrid); // before anything describes it
     picGrid->setFocusPolicy(Qt::StrongFocus);
     picGrid->setAccessibleName(QStringLiteral("View"));
     for (PictureBox*& header : picColHeader) {

@@ -101,6 +101,12 @@ void LayoutDayEvents(int gridWidth) {
     }
 }
 
+std::string EventBoxText(int eventRow) {
+    const std::string& type = EventRowType.Item(eventRow);
+    const std::string& desc = Store.EventRecord.desc.Item(EventRows.Item(eventRow));
+    return type.empty() || desc.empty() ? " " + type + desc : type + " - " + desc;
+}
+
 UnitRect EventBoxOf(int eventRow, int firstRow) {
     return {EventBoxLeft.Item(eventRow), EventBoxTop.Item(eventRow) - (firstRow - 1) * SlotUnits,
             EventBoxWidth.Item(eventRow), EventBoxHeight.Item(eventRow)};
@@ -132,6 +138,14 @@ std::vector<int> EventRowsInHalfHour(int halfHour) {
         }
     }
     return rows;
+}
+
+int EventInHalfHour(int halfHour, int wanted) {
+    const std::vector<int> rows = EventRowsInHalfHour(halfHour);
+    if (rows.empty() || std::ranges::find(rows, wanted) != rows.end()) {
+        return rows.empty() ? 0 : wanted;
+    }
+    return rows.front();
 }
 
 std::string_view HalfHourLabel(int halfHour) {

@@ -5,6 +5,7 @@
 #include "mainwindow/GridLayout.h"
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -41,6 +42,10 @@ DayColumns ColumnsOfDay(std::span<const DaySpan> spans);
 // labels and the scroll bar by the number of columns that the whole day needs.
 void LayoutDayEvents(int gridWidth);
 
+// What stands in the box of an event row: its type and its description, joined by " - "; one alone has a
+// blank in front of it.
+std::string EventBoxText(int eventRow);
+
 // Where the box of an event row stands on a schedule that begins with that row.
 UnitRect EventBoxOf(int eventRow, int firstRow);
 
@@ -53,6 +58,9 @@ int HalfHourAt(int y, int firstRow);
 
 // The event rows whose boxes touch the half hour, in their order.
 std::vector<int> EventRowsInHalfHour(int halfHour);
+
+// The event row wanted, when it is one of these; else the first of them, or 0 without.
+int EventInHalfHour(int halfHour, int wanted);
 
 // What the schedule shows of the half hour: a label on the hours and none beyond the day.
 std::string_view HalfHourLabel(int halfHour);

@@ -1,8 +1,101 @@
-// The schedule of a day in Events mode.
+// The schedule of a day in Events mode: half hours from midnight on, and the boxes of the events over them.
+#include "core/RowLists.h"
+#include "mainwindow/DayLayout.h"
+#include "mainwindow/ListGrid.h"
+#include "mainwindow/ShowBox.h"
 #include "mainwindow/frmMain.h"
+#include "planner/Colors.h"
+#include "planner/DayTotals.h"
+#include "planner/EventSelection.h"
+#include "planner/RowSorts.h"
+#include "platform/Text.h"
+
+namespace {
+
+constexpr SurfaceFont LabelFont{Face::List, 9, true};
+constexpr int LabelColor = 0x808080;
+constexpr int LabelRight = TimeColumnWidth - 60;
+constexpr int LabelBelowLine = 60;
+constexpr int RowsLeft = 720;
+constexpr int BoxTextIndent = 90;
+constexpr int BoxTextTop = 60;
+
+int RowsRight(const PictureBox& grid) {
+    return grid.WidthInUnits() - ScrollStripWidth;
+}
+
+void DrawHalfHours(PictureBox& grid, int firstRow) {
+    for (int top = 0; top < grid.HeightInUnits(); top += SlotUnits) {
+        const int halfHour = HalfHourAt(top, firstRow);
+        const QString label = FromStore(HalfHourLabel(halfHour));
+        if (!label.isEmpty()) {
+            grid.DrawText(LabelRight - TextWidth(label, LabelFont), top + LabelBelowLine, label, LabelFont,
+                          LabelColor);
+        }
+        grid.FillRectangle(RowsLeft, top, RowsRight(grid) - RowsLeft, SlotUnits, HalfHourColor(halfHour));
+        grid.DrawLine(RowsLeft, top, RowsRight(grid), top, HalfHourLineColor(halfHour));
+    }
+    grid.DrawLine(0, 0, RowsRight(grid), 0, EdgeLineColor);
+    grid.DrawLine(TimeColumnWidth, 0, TimeColumnWidth, grid.HeightInUnits(), EdgeLineColor);
+}
+
+void DrawEventBox(PictureBox& grid, int row, const UnitRect& box, bool current) {
+    const QString text = ShortenedText(FromStore(EventBoxText(row)), ListFont, box.width - 2 * BoxTextIndent);
+    grid.FillRectangle(box.left, box.top, box.width, box.height, EventRowBackColor.Item(row));
+    grid.DrawFrame(box.left, box.top, box.width, box.height, ColorBlack);
+    if (current) {
+        grid.DrawFrame(box.left + UnitsPerPixel, box.top + UnitsPerPixel, box.width - 2 * UnitsPerPixel,
+                       box.height - 2 * UnitsPerPixel, CurrentColor);
+    }
+    grid.DrawText(box.left + BoxTextIndent, box.top + BoxTextTop, text, ListFont,
+                  EventRowForeColor.Item(row));
+}
+
+void DrawEventBoxes(PictureBox& grid, int firstRow, int currentEvent) {
+    for (int row = 1; row <= EventRows.Count(); ++row) {
+        const UnitRect box = EventBoxOf(row, firstRow);
+        if (box.top < grid.HeightInUnits() && box.top + box.height > 0) {
+            DrawEventBox(grid, row, box, row == currentEvent);
+        }
+    }
+}
+
+// The half hour on which the keys stand.
+void DrawCurrentHalfHour(PictureBox& grid, int halfHour, int firstRow) {
+    grid.DrawFrame(0, (halfHour - firstRow + 1) * SlotUnits, RowsRight(grid), SlotUnits + UnitsPerPixel,
+                   CurrentColor);
+}
+
+} // namespace
 
 void frmMain::LayoutEventGrid() {
+    HideColumnTitles(*this);
+    PlaceScrollBar(*this);
+    picGrid->Clear();
+    HeaderHeight = 0;
+    RowsVisible = WholeRows(picGrid->height(), HeaderHeight, SlotHeight);
+    PaintStatusBar();
 }
 
 void frmMain::FillEventDay() {
+    ShowTopTitlesOfDay(*this, "Events for ");
+    const EventDayBoxes boxes = EventDayTotals(ClickedDate);
+    ShowBox(TextBoxSchedStudy, boxes.TextBoxSchedStudy);
+    ShowBox(TextBoxClasses, boxes.TextBoxClasses);
+    ShowBox(TextBoxOtherEvents, boxes.TextBoxOtherEvents);
+    SelectEventsForDay(ClickedDate, CurrentFilter());
+    SortEventRowsByDuration(SortDirection);
+    LayoutDayEvents(picGrid->WidthInUnits());
+    SortEventRowsByColumn();
+    RowCount = DayRowCount;
+    SetGridScroll();
+    if (RefreshReason == ReasonModeChange) {
+        CurrentHalfHour = -1;
+    }
+    CurrentEvent = EventInHalfHour(CurrentHalfHour, CurrentEvent);
+    DrawHalfHours(*picGrid, FirstRow);
+    if (CurrentHalfHour >= 0) {
+        DrawCurrentHalfHour(*picGrid, CurrentHalfHour, FirstRow);
+    }
+    DrawEventBoxes(*picGrid, FirstRow, CurrentEvent);
 }

@@ -1,17 +1,182 @@
 // The clicks on the grid and on its titles, and what they open.
+#include "core/RowLists.h"
+#include "mainwindow/DayLayout.h"
 #include "mainwindow/frmMain.h"
 
+namespace {
+
+bool OnSurface(const PictureBox& grid, int x, int y) {
+    return Holds({0, 0, grid.WidthInUnits(), grid.HeightInUnits()}, x, y);
+}
+
+// What ClickedRow becomes: the cell of the month from 0, the box of the day or 0, the row under the titles.
+int RowUnder(const frmMain& window, int x, int y) {
+    switch (window.CurrentMode()) {
+    case Mode::Calendar:
+        return CalendarCellAt(window.CalendarGrid, x, y).value_or(NoRow);
+    case Mode::Events:
+        return EventBoxAt(x, y, window.FirstRow);
+    default:
+        return RowAt(x, y, window.picGrid->WidthInUnits());
+    }
+}
+
+void ClickCalendar(frmMain& window, int x, int y, bool right) {
+    const int cell = window.ClickedRow;
+    if (cell == NoRow) {
+        return;
+    }
+    window.GoToDate(window.Month.CellDate[static_cast<std::size_t>(cell)]);
+    if (const auto icon = CalendarIconAt(window.CalendarGrid, cell, x, y)) {
+        window.ShowDayMenu(*icon);
+    } else if (right) {
+        window.ShowCalendarMenu();
+    }
+}
+
+void ClickDay(frmMain& window, int y, bool right) {
+    if (right) {
+        window.ShowEventListMenu();
+    } else if (window.ClickedRow > 0) {
+        window.OpenEventBox(window.ClickedRow);
+    } else {
+        window.OpenHalfHour(HalfHourAt(y, window.FirstRow));
+    }
+}
+
+bool HasListMenu(Mode mode) {
+    return mode == Mode::Homework || mode == Mode::Tasks;
+}
+
+void ClickList(frmMain& window, bool right) {
+    const Mode mode = window.CurrentMode();
+    if (right && HasListMenu(mode)) {
+        return mode == Mode::Homework ? window.ShowHomeworkListMenu() : window.ShowTaskListMenu();
+    }
+    const int row = window.FirstRow + window.ClickedRow - 1;
+    if (window.ClickedRow == NoRow) {
+        return;
+    }
+    if (row <= window.RowCount) {
+        window.CurrentRow = row;
+        window.OpenRow(row);
+    } else if (mode == Mode::Homework) {
+        window.NewAssignment();
+    } else if (mode == Mode::Tasks) {
+        window.NewTask();
+    }
+}
+
+// The event of a reminder is the occurrence of the row's date, so that day counts as the clicked one.
+void EditReminder(frmMain& window, int row) {
+    const std::string& kind = ReminderRowKind.Item(row);
+    const int index = ReminderRows.Item(row);
+    if (kind == "Homework") {
+        window.EditAssignment(index);
+    } else if (kind == "Task") {
+        window.EditTask(index);
+    } else {
+        window.ClickedDate = ReminderRowDate.Item(row);
+        window.EditEvent(index);
+        window.ClickedDate = window.SelectedDate;
+    }
+}
+
+} // namespace
+
 void frmMain::BindGrid() {
+    InstallGridKeys();
+    VSGridScroll->setFocusPolicy(Qt::NoFocus);
+    VSGridScroll->setFocusProxy(picGrid);
+    connect(VSGridScroll, &QScrollBar::valueChanged, this, &frmMain::GridScrolled);
+    connect(picGrid, &PictureBox::Pressed, this, &frmMain::GridPressed);
+    connect(picGrid, &PictureBox::Released, this, &frmMain::GridReleased);
+    connect(picGrid, &PictureBox::WheelTurned, this, &frmMain::MouseWheel);
+    connect(picGrid, &PictureBox::Resized, this, &frmMain::GridResized);
+    for (std::size_t i = 0; i < picColHeader.size(); ++i) {
+        connect(picColHeader[i], &PictureBox::Clicked, this,
+                [this, i] { ColumnClicked(static_cast<int>(i)); });
+        connect(picColHeader[i], &PictureBox::WheelTurned, this, &frmMain::MouseWheel);
+    }
+}
+
+void frmMain::GridResized() {
+    const bool idle = RefreshReason == ReasonNone && !ChangingMode;
+    if (idle && CurrentMode() != Mode::None && !isMinimized()) {
+        RefreshFor(ReasonResize);
+    }
 }
 
 void frmMain::ResortGrid() {
+    if (VSGridScroll->value() != 1) {
+        VSGridScroll->setValue(1); // repaints
+        picGrid->setFocus();
+        return;
+    }
+    LayoutGrid();
+    FillGrid();
 }
 
-void frmMain::ColumnClicked(int /*index*/) {
+void frmMain::ColumnClicked(int index) {
+    if (index == 0) {
+        picGrid->setFocus();
+        return;
+    }
+    if (index == SortColumn) {
+        SortDirection = SortDirection == Ascending ? Descending : Ascending;
+    }
+    SortColumn = index;
+    ResortGrid();
 }
 
-void frmMain::GridPressed(int /*x*/, int /*y*/, Qt::MouseButton /*button*/) {
+void frmMain::GridPressed(int x, int y, Qt::MouseButton /*button*/) {
+    ClickedRow = RowUnder(*this, x, y);
 }
 
-void frmMain::GridReleased(int /*x*/, int /*y*/, Qt::MouseButton /*button*/) {
+// Press and release must fall on one row.
+void frmMain::GridReleased(int x, int y, Qt::MouseButton button) {
+    if (!OnSurface(*picGrid, x, y) || RowUnder(*this, x, y) != ClickedRow) {
+        return;
+    }
+    const bool right = button == Qt::RightButton;
+    PopupPoint = picGrid->mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
+    switch (CurrentMode()) {
+    case Mode::Calendar:
+        return ClickCalendar(*this, x, y, right);
+    case Mode::Events:
+        return ClickDay(*this, y, right);
+    case Mode::None:
+        return;
+    default:
+        return ClickList(*this, right);
+    }
+}
+
+void frmMain::OpenRow(int row) {
+    const int place = row - FirstRow + 1;
+    HighlightRow(place, true);
+    switch (CurrentMode()) {
+    case Mode::Homework:
+    case Mode::StudySessions:
+        EditAssignment(HomeworkRows.Item(row));
+        break;
+    case Mode::Tasks:
+        EditTask(TaskRows.Item(row));
+        break;
+    case Mode::Reminders:
+        EditReminder(*this, row);
+        break;
+    default:
+        break;
+    }
+    HighlightRow(place, false);
+}
+
+void frmMain::OpenEventBox(int row) {
+    EditEvent(EventRows.Item(row));
+}
+
+void frmMain::OpenHalfHour(int halfHour) {
+    EventClickedStartTime = StartTimeOfHalfHour(halfHour);
+    NewEvent();
 }

@@ -7,10 +7,8 @@
 
 namespace {
 
-constexpr std::string_view ReminderMark = "\xAE";
-
 constexpr std::array<ListColumn, 10> HomeworkColumns{{
-    {" #", 28},
+    {" #", RowNumberWidth},
     {ReminderMark, 19},
     {" !", 19},
     {"Class", 0.35},
@@ -23,7 +21,7 @@ constexpr std::array<ListColumn, 10> HomeworkColumns{{
 }};
 
 constexpr std::array<ListColumn, 8> StudyColumns{{
-    {"#", 28},
+    {"#", RowNumberWidth},
     {"Class", 0.35},
     {"Type", 85},
     {"Description", 0.65},
@@ -34,7 +32,7 @@ constexpr std::array<ListColumn, 8> StudyColumns{{
 }};
 
 constexpr std::array<ListColumn, 7> TaskColumns{{
-    {"#", 28},
+    {"#", RowNumberWidth},
     {ReminderMark, 19},
     {"Name", 0.996},
     {"Type", 75},
@@ -44,7 +42,7 @@ constexpr std::array<ListColumn, 7> TaskColumns{{
 }};
 
 constexpr std::array<ListColumn, 6> EventColumns{{
-    {"#", 28},
+    {"#", RowNumberWidth},
     {"Name", 0.995},
     {"Type", 75},
     {"Date", 75},
@@ -53,7 +51,7 @@ constexpr std::array<ListColumn, 6> EventColumns{{
 }};
 
 constexpr std::array<ListColumn, 7> ReminderColumns{{
-    {"#", 28},
+    {"#", RowNumberWidth},
     {"For", 75},
     {"Class", 0.3},
     {"Type", 80},

@@ -15,8 +15,13 @@ inline constexpr int RowUnits = RowHeight * UnitsPerPixel;
 inline constexpr int SlotUnits = SlotHeight * UnitsPerPixel;
 inline constexpr int TitleUnits = TitleHeight * UnitsPerPixel;
 inline constexpr int ScrollStripWidth = 255;
+inline constexpr int RowNumberWidth = 28;  // pixels of column 0
 inline constexpr int RowNumberRight = 345; // the right end of the row numbers
 inline constexpr int NoRow = 999;          // ClickedRow where no row lies under the point
+
+// The marks of a reminder and of a high priority in lists and menus, in the characters of the store.
+inline constexpr std::string_view ReminderMark = "\xAE";
+inline constexpr std::string_view PriorityMark = "!";
 
 enum class ListKind { Homework, StudySessions, Tasks, Events, Reminders };
 

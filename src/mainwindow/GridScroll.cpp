@@ -1,17 +1,82 @@
 // The scroll bar of the grid, the wheel, and which layout and fill the mode has.
+#include "mainwindow/GridAccessible.h"
+#include "mainwindow/GridLayout.h"
 #include "mainwindow/frmMain.h"
 
+#include <QCoreApplication>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+// Silent, since a fill is under way that shows what the bar then says.
 void frmMain::SetGridScroll() {
+    const GridScroll scroll = GridScrollFor(RowCount, RowsVisible);
+    const QSignalBlocker silence(VSGridScroll);
+    VSGridScroll->setEnabled(scroll.enabled);
+    VSGridScroll->setRange(1, scroll.greatest);
+    VSGridScroll->setSingleStep(1);
+    VSGridScroll->setPageStep(scroll.largeStep);
+    FirstRow = VSGridScroll->value();
 }
 
 void frmMain::GridScrolled() {
+    FirstRow = VSGridScroll->value();
+    LayoutGrid();
+    FillGrid();
 }
 
-void frmMain::MouseWheel(int /*rotation*/) {
+// The bar is hidden, but not disabled, while the month is shown.
+void frmMain::MouseWheel(int rotation) {
+    if (VSGridScroll->isEnabled() && !VSGridScroll->isHidden()) {
+        VSGridScroll->setValue(WheelTarget(rotation, VSGridScroll->value(), VSGridScroll->maximum()));
+    }
+}
+
+// The wheel counts wherever the pointer is over the window.
+void frmMain::wheelEvent(QWheelEvent* event) {
+    QCoreApplication::sendEvent(picGrid, event);
 }
 
 void frmMain::LayoutGrid() {
+    switch (CurrentMode()) {
+    case Mode::Homework:
+        return LayoutHomeworkGrid();
+    case Mode::Calendar:
+        return LayoutCalendarGrid();
+    case Mode::StudySessions:
+        return LayoutStudyGrid();
+    case Mode::Tasks:
+        return LayoutTaskGrid();
+    case Mode::Events:
+        return LayoutEventGrid();
+    case Mode::Reminders:
+        return LayoutReminderGrid();
+    case Mode::None:
+        return;
+    }
 }
 
 void frmMain::FillGrid() {
+    switch (CurrentMode()) {
+    case Mode::Homework:
+        FillHomeworkList();
+        break;
+    case Mode::Calendar:
+        ShowCalendarTitles();
+        break;
+    case Mode::StudySessions:
+        FillStudyList();
+        break;
+    case Mode::Tasks:
+        FillTaskList();
+        break;
+    case Mode::Events:
+        FillEventDay();
+        break;
+    case Mode::Reminders:
+        FillReminderList();
+        break;
+    case Mode::None:
+        return;
+    }
+    NotifyGridChanged(*this);
 }

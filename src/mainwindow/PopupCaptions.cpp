@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
+#include "mainwindow/GridLayout.h"
 #include "planner/RowLook.h"
 #include "platform/Formats.h"
 
@@ -55,8 +56,7 @@ constexpr std::array HomeworkDayEnd{Separator, NewAssignmentItem, SeeAssignments
 constexpr std::array TaskDayEnd{Separator, NewTaskItem, SeeTasksItem};
 constexpr std::array EventDayEnd{Separator, NewEventItem, SeeEventsItem};
 
-constexpr std::string_view ReminderMark = "\xAE ";
-constexpr std::string_view RecurrenceMark = "\xA7 ";
+constexpr std::string_view RecurrenceMark = "\xA7";
 constexpr std::size_t CaptionLimit = 75;
 
 PopupItem ItemOf(const FixedItem& item) {
@@ -75,8 +75,9 @@ PopupItems ItemsOf(std::span<const FixedItem> fixed) {
     return items;
 }
 
-std::string_view MarkIf(const std::string& flag, std::string_view mark) {
-    return IsTrue(flag) ? mark : std::string_view{};
+// The mark and a blank behind it, or nothing.
+std::string MarkIf(bool shown, std::string_view mark) {
+    return shown ? std::string(mark) + " " : std::string{};
 }
 
 std::string OrElse(const std::string& text, std::string_view instead) {
@@ -92,8 +93,8 @@ std::string HomeworkCaption(int row) {
     const AssignmentLists& store = Store.Assignment;
     const int index = HomeworkRows.Item(row);
     std::string caption;
-    caption += MarkIf(store.reminder.Item(index), ReminderMark);
-    caption += MarkIf(store.priority.Item(index), "! ");
+    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
+    caption += MarkIf(IsTrue(store.priority.Item(index)), PriorityMark);
     caption += IsTrue(store.done.Item(index)) ? "(Done)  "
                                               : "(" + WithoutBlanks(store.time_left.Item(index)) + " left)  ";
     caption += RowClass.Item(row) + " - " + OrElse(store.desc.Item(index), NewAssignmentText);
@@ -104,7 +105,7 @@ std::string TaskCaption(int row) {
     const TaskLists& store = Store.TaskRecord;
     const int index = TaskRows.Item(row);
     std::string caption = IsTrue(store.done.Item(index)) ? "(Done)  " : "(Not Done)  ";
-    caption += MarkIf(store.reminder.Item(index), ReminderMark);
+    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
     const std::string& type = TaskRowType.Item(row);
     if (!type.empty() && type != NoType) {
         caption += type + " - ";
@@ -120,8 +121,8 @@ std::string EventCaption(int row) {
     if (const auto time = TimeIn(store.time.Item(index))) {
         caption += "(" + FormatTime(*time, "Medium Time").utf8 + ")  ";
     }
-    caption += MarkIf(store.reminder.Item(index), ReminderMark);
-    caption += store.recurrence.Item(index) != NoType ? RecurrenceMark : std::string_view{};
+    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
+    caption += MarkIf(store.recurrence.Item(index) != NoType, RecurrenceMark);
     const std::string& type = EventRowType.Item(row);
     const std::string& desc = store.desc.Item(index);
     const bool both = !type.empty() && !desc.empty();

@@ -1,58 +1,187 @@
 // The menus that are built as they are wanted, and the one procedure that runs their commands.
 #include "core/Module1.h"
+#include "core/RowLists.h"
+#include "core/Values.h"
 #include "mainwindow/frmMain.h"
+#include "planner/EventSelection.h"
+#include "planner/HomeworkSelection.h"
+#include "planner/RowSorts.h"
+#include "planner/TaskSelection.h"
 #include "platform/Modal.h"
+#include "platform/Text.h"
 
-void frmMain::ShowCalendarMenu() {
+#include <optional>
+
+namespace {
+
+enum class PopupCommand {
+    ShowWindow,
+    Shutdown,
+    SeeCalendar,
+    NewAssignment,
+    SeeHomework,
+    NewTask,
+    SeeTasks,
+    NewEvent,
+    SeeEvents
+};
+
+struct TagCommand {
+    std::string_view tag;
+    PopupCommand command;
+};
+
+constexpr std::array<TagCommand, 9> TagCommands{{
+    {"tray view", PopupCommand::ShowWindow},
+    {"tray shutdown", PopupCommand::Shutdown},
+    {"calendar view", PopupCommand::SeeCalendar},
+    {"homework new", PopupCommand::NewAssignment},
+    {"homework view", PopupCommand::SeeHomework},
+    {"task new", PopupCommand::NewTask},
+    {"task view", PopupCommand::SeeTasks},
+    {"event new", PopupCommand::NewEvent},
+    {"event view", PopupCommand::SeeEvents},
+}};
+
+constexpr const char* MorningTime = "9:00 AM";
+
+// The columns by which the menus of a day are sorted.
+constexpr int HomeworkDayColumn = 8;
+constexpr int TaskDayColumn = 6;
+constexpr int EventDayColumn = 4;
+
+void SortBy(frmMain& window, int column) {
+    window.SortColumn = column;
+    window.SortDirection = Ascending;
 }
 
-void frmMain::ShowHomeworkDayMenu() {
+void OpenWindow(frmMain& window) {
+    if (window.isVisible() && window.isMinimized()) {
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    } else {
+        window.show();
+    }
+}
+
+void RunCommand(frmMain& window, PopupCommand command) {
+    switch (command) {
+    case PopupCommand::ShowWindow:
+        return OpenWindow(window);
+    case PopupCommand::Shutdown:
+        return window.Unload();
+    case PopupCommand::SeeCalendar:
+        return window.ShowCalendarMode();
+    case PopupCommand::NewAssignment:
+        return window.NewAssignment();
+    case PopupCommand::SeeHomework:
+        return window.ShowHomeworkMode();
+    case PopupCommand::NewTask:
+        return window.NewTask();
+    case PopupCommand::SeeTasks:
+        return window.ShowTaskMode();
+    case PopupCommand::NewEvent:
+        window.EventClickedStartTime = MorningTime;
+        return window.NewEvent();
+    case PopupCommand::SeeEvents:
+        return window.ShowEventMode();
+    }
+}
+
+void OpenRowOf(frmMain& window, const std::string& subject, int row) {
+    if (subject == "homework") {
+        window.EditAssignment(HomeworkRows.Item(row));
+    } else if (subject == "task") {
+        window.EditTask(TaskRows.Item(row));
+    } else if (subject == "event") {
+        window.EditEvent(EventRows.Item(row));
+    }
+}
+
+// A menu takes "&" for the mark of a key, so the student's own are doubled.
+QString MenuText(const std::string& caption) {
+    return FromStore(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+// Shows the items where the last click or key wants them, and runs the one that is chosen.
+void ShowPopup(frmMain& window, const PopupItems& items) {
+    QMenu& menu = *window.mnuPopup;
+    menu.clear();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i].caption == "-") {
+            menu.addSeparator();
+        } else {
+            menu.addAction(MenuText(items[i].caption))->setData(static_cast<int>(i));
+        }
+    }
+    const QAction* chosen = menu.exec(window.PopupPoint);
+    if (chosen != nullptr && !ShuttingDown) {
+        window.mnuPopupItems = items; // the tray may have built its own meanwhile
+        window.RunPopupCommand(chosen->data().toInt());
+    }
+}
+
+} // namespace
+
+void frmMain::ShowCalendarMenu() {
+    ShowPopup(*this, CalendarMenuItems());
 }
 
 void frmMain::ShowHomeworkListMenu() {
+    ShowPopup(*this, HomeworkListMenuItems());
 }
 
 void frmMain::ShowEventListMenu() {
+    ShowPopup(*this, EventListMenuItems());
 }
 
 void frmMain::ShowTaskListMenu() {
+    ShowPopup(*this, TaskListMenuItems());
+}
+
+void frmMain::ShowHomeworkDayMenu() {
+    HomeworkDayList(ClickedDate, CurrentFilter());
+    SortBy(*this, HomeworkDayColumn);
+    SortHomeworkRows(CurrentSort());
+    ShowPopup(*this, HomeworkDayMenuItems());
 }
 
 void frmMain::ShowTaskDayMenu() {
+    SelectTasksForDay(ClickedDate);
+    SortBy(*this, TaskDayColumn);
+    SortTaskRows(CurrentSort());
+    ShowPopup(*this, TaskDayMenuItems());
 }
 
 void frmMain::ShowEventDayMenu() {
+    SelectEventsForDay(ClickedDate, CurrentFilter());
+    SortBy(*this, EventDayColumn);
+    SortEventRows(CurrentSort());
+    ShowPopup(*this, EventDayMenuItems());
+}
+
+void frmMain::ShowDayMenu(CalendarIcon icon) {
+    switch (icon) {
+    case CalendarIcon::Homework:
+        return ShowHomeworkDayMenu();
+    case CalendarIcon::Tasks:
+        return ShowTaskDayMenu();
+    case CalendarIcon::Events:
+        return ShowEventDayMenu();
+    }
 }
 
 void frmMain::ShowTrayMenu() {
     mnuPopupItems = ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(isVisible() && !isMinimized());
 }
 
-namespace {
-
-void RunTrayCommand(frmMain& window, const std::string& verb) {
-    if (verb == "view") {
-        if (window.isVisible() && window.isMinimized()) {
-            window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-        } else {
-            window.show();
-        }
-    } else if (verb == "shutdown") {
-        window.Unload();
-    }
-}
-
-} // namespace
-
 void frmMain::RunPopupCommand(int index) {
     const std::string tag = mnuPopupItems.at(static_cast<std::size_t>(index)).tag;
-    const std::size_t blank = tag.find(' ');
-    if (blank == std::string::npos) {
-        return;
+    const auto* const known = std::ranges::find(TagCommands, tag, &TagCommand::tag);
+    if (known != TagCommands.end()) {
+        return RunCommand(*this, known->command);
     }
-    const std::string subject = tag.substr(0, blank);
-    const std::string verb = tag.substr(blank + 1);
-    if (subject == "tray") {
-        RunTrayCommand(*this, verb);
+    const std::size_t blank = std::min(tag.find(' '), tag.size());
+    if (const auto row = IdIn(tag.substr(blank))) {
+        OpenRowOf(*this, tag.substr(0, blank), *row);
     }
 }

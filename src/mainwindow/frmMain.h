@@ -136,6 +136,10 @@ public:
     int RowsVisible = 0;               // whole rows that fit under the titles
     int HeaderHeight = 0;              // height of the titles in pixels
     int ClickedRow = 0;                // row under the last press; 999 in a list when there is none
+    int CurrentRow = 0;                // row of the list on which the keys stand; 0 for none
+    int CurrentHalfHour = -1;          // half hour of the day on which they stand; -1 for none
+    int CurrentEvent = 0;              // and the event row of it; 0 for none
+    QPoint PopupPoint;                 // where on the screen the next popup menu opens
     std::string ModeCaption;           // the left text of the status bar
     std::string EventClickedStartTime; // the half hour clicked in the day schedule
     StudyTimerClock StudyTimer;
@@ -272,7 +276,15 @@ public:
     void ColumnClicked(int index);
     void GridPressed(int x, int y, Qt::MouseButton button);
     void GridReleased(int x, int y, Qt::MouseButton button);
-    bool GridKeyPressed(int key);
+    void GridResized();
+
+    // Gives whether the key means anything here.
+    bool GridKeyPressed(int key, Qt::KeyboardModifiers modifiers);
+
+    // Opens the editor on a row of the list, on an event of the day, or for a new event at a half hour.
+    void OpenRow(int row);
+    void OpenEventBox(int row);
+    void OpenHalfHour(int halfHour);
 
     // The layout and the fill of the mode.
     void LayoutGrid();
@@ -288,6 +300,7 @@ public:
     void ShowTaskListMenu();
     void ShowTaskDayMenu();
     void ShowEventDayMenu();
+    void ShowDayMenu(CalendarIcon icon);
 
     // Fills the popup items with the tray menu; with none while a modal dialog is open.
     void ShowTrayMenu();
@@ -314,6 +327,7 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     // The entry that all six share.
@@ -338,6 +352,7 @@ private:
     void BindViewMenus();
     void BindCalendar();
     void BindGrid();
+    void InstallGridKeys();
     void BindPanels();
     void BindAlerts();
     void BindStudyTimer();

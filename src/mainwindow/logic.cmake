@@ -1,6 +1,7 @@
 target_sources(planovarium_logic PRIVATE
   mainwindow/DayLayout.cpp
   mainwindow/GridLayout.cpp
+  mainwindow/GridMoves.cpp
   mainwindow/LargeCalendarLayout.cpp
   mainwindow/ModeTables.cpp
   mainwindow/MonthCells.cpp

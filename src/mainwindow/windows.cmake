@@ -9,13 +9,18 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/Commands.cpp
   mainwindow/DaySchedule.cpp
   mainwindow/EventFlow.cpp
+  mainwindow/EventList.cpp
   mainwindow/FirstOpen.cpp
+  mainwindow/GridAccessible.cpp
   mainwindow/GridClicks.cpp
   mainwindow/GridKeys.cpp
   mainwindow/GridScroll.cpp
+  mainwindow/GridTable.cpp
+  mainwindow/HomeworkGrid.cpp
   mainwindow/LargeCalendar.cpp
   mainwindow/LeftPanel.cpp
   mainwindow/ListGrid.cpp
+  mainwindow/ListRows.cpp
   mainwindow/Load.cpp
   mainwindow/MenuBar.cpp
   mainwindow/ModeBar.cpp
@@ -25,10 +30,13 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/PreferencesFlow.cpp
   mainwindow/ProcessMarker.cpp
   mainwindow/RefreshView.cpp
+  mainwindow/ReminderGrid.cpp
   mainwindow/ShowBox.cpp
   mainwindow/StatusPanels.cpp
+  mainwindow/StudyGrid.cpp
   mainwindow/StudyTimer.cpp
   mainwindow/TaskFlow.cpp
+  mainwindow/TaskGrid.cpp
   mainwindow/TermFlow.cpp
   mainwindow/Unload.cpp
   mainwindow/ViewMenus.cpp

@@ -7,6 +7,7 @@ target_sources(planovarium_logic PRIVATE
   planner/DateHelpers.cpp
   planner/DateTitles.cpp
   planner/DayTotals.cpp
+  planner/DaysAway.cpp
   planner/Decimal.cpp
   planner/DurationEntry.cpp
   planner/EventFilter.cpp

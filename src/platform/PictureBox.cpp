@@ -2,13 +2,15 @@
 #include "platform/PictureBox.h"
 
 #include <QFontMetricsF>
-#include <QIcon>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSvgRenderer>
 #include <QWheelEvent>
 
 #include <array>
 #include <cmath>
+#include <map>
+#include <memory>
 
 namespace {
 
@@ -62,6 +64,18 @@ QRectF LineRect(const DrawnItem& item) {
     return rect;
 }
 
+// The pictures by their names, each read once.
+std::map<QString, std::unique_ptr<QSvgRenderer>> pictures;
+
+QSvgRenderer& PictureOf(const QString& name) {
+    std::unique_ptr<QSvgRenderer>& picture = pictures[name];
+    if (!picture) {
+        picture = std::make_unique<QSvgRenderer>(QStringLiteral(":/icons/") + name);
+        picture->setAspectRatioMode(Qt::IgnoreAspectRatio);
+    }
+    return *picture;
+}
+
 void PaintItem(QPainter& painter, const DrawnItem& item) {
     switch (item.kind) {
     case DrawnKind::Rectangle:
@@ -84,7 +98,7 @@ void PaintItem(QPainter& painter, const DrawnItem& item) {
         break;
     }
     case DrawnKind::Picture:
-        QIcon(QStringLiteral(":/icons/") + item.text).paint(&painter, PixelRect(item).toAlignedRect());
+        PictureOf(item.text).render(&painter, PixelRect(item));
         break;
     }
 }

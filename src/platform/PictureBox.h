@@ -78,7 +78,7 @@ public:
     void DrawLine(int left, int top, int right, int bottom, int color);
     void DrawText(int left, int top, const QString& text, const SurfaceFont& font, int color);
 
-    // Draws the picture of that name from the program's resources into the rectangle.
+    // Draws the picture of that name from the resources, stretched over the rectangle.
     void DrawPicture(int left, int top, int width, int height, const QString& name);
 
     // What was drawn since the last clearing, in order.

@@ -180,6 +180,30 @@ TEST_F(DayLayout, EventsOfAHalfHourAreThoseWhoseBoxesTouchIt) {
     EXPECT_EQ(EventRowsInHalfHour(20), (std::vector<int>{2, 3}));
 }
 
+TEST_F(DayLayout, TheEventOfAHalfHourIsTheOneWantedOrTheFirst) {
+    AddRow("09:00 AM", "1 Hour");
+    AddRow("09:00 AM", "1 Hour");
+    LayoutDayEvents(GridWidth);
+    EXPECT_EQ(EventInHalfHour(18, 0), 1);
+    EXPECT_EQ(EventInHalfHour(18, 2), 2);
+    EXPECT_EQ(EventInHalfHour(20, 2), 0);
+    EXPECT_EQ(EventInHalfHour(-1, 1), 0);
+}
+
+TEST_F(DayLayout, ABoxShowsTypeAndDescription) {
+    const auto shown = [](const std::string& type, const std::string& desc) {
+        EventRows.Add(AddEventRecord({.desc = desc}));
+        EventRowType.Clear();
+        for (int row = 0; row < EventRows.Count(); ++row) {
+            EventRowType.Add(type);
+        }
+        return EventBoxText(EventRows.Count());
+    };
+    EXPECT_EQ(shown("Club", "Chess"), "Club - Chess");
+    EXPECT_EQ(shown("Club", ""), " Club");
+    EXPECT_EQ(shown("", "Chess"), " Chess");
+}
+
 TEST(DaySchedule, LabelsStandOnTheHours) {
     EXPECT_EQ(HalfHourLabel(0), "12 AM");
     EXPECT_EQ(HalfHourLabel(1), "");

@@ -1,6 +1,7 @@
 target_sources(logic_tests PRIVATE
   mainwindow/DayLayoutTest.cpp
   mainwindow/GridLayoutTest.cpp
+  mainwindow/GridMovesTest.cpp
   mainwindow/LargeCalendarLayoutTest.cpp
   mainwindow/ModeTablesTest.cpp
   mainwindow/MonthCellsTest.cpp

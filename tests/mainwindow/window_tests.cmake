@@ -4,9 +4,16 @@ target_sources(window_tests PRIVATE
   mainwindow/BringForwardTest.cpp
   mainwindow/CalendarStepsTest.cpp
   mainwindow/CommandsTest.cpp
+  mainwindow/DayScheduleTest.cpp
   mainwindow/ElidedLabelTest.cpp
+  mainwindow/GridAccessibleTest.cpp
+  mainwindow/GridClicksTest.cpp
+  mainwindow/GridKeysTest.cpp
+  mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
+  mainwindow/ListGridTest.cpp
   mainwindow/ModesTest.cpp
+  mainwindow/PopupMenusTest.cpp
   mainwindow/ProcessTest.cpp
   mainwindow/SmallCalendarTest.cpp
   mainwindow/StatusPanelsTest.cpp

@@ -7,6 +7,7 @@ target_sources(logic_tests PRIVATE
   planner/DateHelpersTest.cpp
   planner/DateTitlesTest.cpp
   planner/DayTotalsTest.cpp
+  planner/DaysAwayTest.cpp
   planner/DecimalTest.cpp
   planner/DurationEntryTest.cpp
   planner/EventFilterTest.cpp

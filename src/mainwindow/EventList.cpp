@@ -1,0 +1,43 @@
+// The list of events. Events mode shows the schedule of a day instead; the list is part of the design all the
+// same.
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "mainwindow/ListGrid.h"
+#include "mainwindow/ListRows.h"
+#include "mainwindow/frmMain.h"
+#include "planner/EventSelection.h"
+#include "planner/RowLook.h"
+#include "planner/RowSorts.h"
+#include "platform/Text.h"
+
+namespace {
+
+GridCell TimeCell(const std::string& time) {
+    const auto clock = TimeIn(time);
+    return clock ? GridCell{FromScreen(FormatTime(*clock, "Medium Time"))} : GridCell{};
+}
+
+} // namespace
+
+GridRow EventGridRow(int row) {
+    const EventLists& store = Store.EventRecord;
+    const int index = EventRows.Item(row);
+    const std::string& recurrence = store.recurrence.Item(index);
+    return {EventRowForeColor.Item(row),
+            EventRowBackColor.Item(row),
+            {NameCell(store.desc.Item(index), NewEventText(store.type.Item(index))),
+             TextCell(EventRowType.Item(row)), DateCell(EventRowDate.Item(row)),
+             TimeCell(store.time.Item(index)), TextCell(recurrence == NoType ? "" : recurrence)}};
+}
+
+void frmMain::LayoutEventList() {
+    LayoutList(*this, ListKind::Events);
+}
+
+void frmMain::FillEventList() {
+    ShowTopTitlesOfDay(*this, "Events for ");
+    SelectEventRows(CurrentFilter());
+    SortEventRows(CurrentSort());
+    ShowList(*this, ListKind::Events);
+}

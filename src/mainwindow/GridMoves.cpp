@@ -1,0 +1,74 @@
+// How the keys move in a list, in the month and in the schedule of a day.
+#include "mainwindow/GridMoves.h"
+
+#include "planner/DateHelpers.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int DaysOfWeek = 7;
+
+int DayOfMonth(Date date) {
+    const std::chrono::year_month_day parts{date};
+    return static_cast<int>(static_cast<unsigned>(parts.day()));
+}
+
+Date FirstOfMonth(Date date) {
+    return DateAddMulti(date, 0, 0, 1 - DayOfMonth(date));
+}
+
+int RowAfter(GridMove move, int row, const ListView& view) {
+    switch (move) {
+    case GridMove::Up:
+        return row - 1;
+    case GridMove::Down:
+        return row + 1;
+    case GridMove::PageUp:
+        return row - std::max(view.rowsVisible, 1);
+    case GridMove::PageDown:
+        return row + std::max(view.rowsVisible, 1);
+    case GridMove::Home:
+        return 1;
+    case GridMove::End:
+        return view.rowCount;
+    case GridMove::Left:
+    case GridMove::Right:
+        return row;
+    }
+    return row;
+}
+
+} // namespace
+
+int MovedRow(GridMove move, int row, const ListView& view) {
+    const bool aside = move == GridMove::Left || move == GridMove::Right;
+    const bool toAnEnd = move == GridMove::Home || move == GridMove::End;
+    if (aside || view.rowCount == 0) {
+        return row;
+    }
+    const int target = row == 0 && !toAnEnd ? view.firstRow : RowAfter(move, row, view);
+    return std::clamp(target, 1, view.rowCount);
+}
+
+Date MovedDate(GridMove move, Date date) {
+    switch (move) {
+    case GridMove::Up:
+        return DateAddMulti(date, 0, 0, -DaysOfWeek);
+    case GridMove::Down:
+        return DateAddMulti(date, 0, 0, DaysOfWeek);
+    case GridMove::Left:
+        return DateAddMulti(date, 0, 0, -1);
+    case GridMove::Right:
+        return DateAddMulti(date, 0, 0, 1);
+    case GridMove::PageUp:
+        return DateAddMulti(date, 0, -1, 0);
+    case GridMove::PageDown:
+        return DateAddMulti(date, 0, 1, 0);
+    case GridMove::Home:
+        return FirstOfMonth(date);
+    case GridMove::End:
+        return DateAddMulti(FirstOfMonth(date), 0, 1, -1);
+    }
+    return date;
+}

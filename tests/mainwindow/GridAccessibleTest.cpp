@@ -1,0 +1,141 @@
+// The grid as a screen reader is told of it.
+#include "mainwindow/GridTest.h"
+
+#include <QAccessible>
+
+namespace {
+
+class GridAccessible : public GridTest {
+protected:
+    QAccessibleInterface* Grid() const { return QAccessible::queryAccessibleInterface(window->picGrid); }
+
+    QAccessibleTableInterface* Table() const { return Grid()->tableInterface(); }
+
+    QStringList Row(int row) const {
+        QStringList texts;
+        for (int column = 0; column < Table()->columnCount(); ++column) {
+            texts.append(Table()->cellAt(row, column)->text(QAccessible::Name));
+        }
+        return texts;
+    }
+
+    QStringList Columns() const {
+        QStringList titles;
+        for (int column = 0; column < Table()->columnCount(); ++column) {
+            titles.append(Table()->columnDescription(column));
+        }
+        return titles;
+    }
+};
+
+} // namespace
+
+TEST_F(GridAccessible, AListIsATableOfItsRows) {
+    AddAssignmentRecord({.desc = "Page 12", .priority = "True", .done = "True", .grade = "95%"});
+    AddAssignments(40);
+    window->ShowHomeworkMode();
+    EXPECT_EQ(Grid()->role(), QAccessible::Table);
+    EXPECT_EQ(Grid()->text(QAccessible::Name), "View");
+    ASSERT_NE(Table(), nullptr);
+    EXPECT_EQ(Table()->rowCount(), 41);
+    EXPECT_EQ(Columns(), (QStringList{"Number", "Reminder", "Priority", "Class", "Type", "Description",
+                                      "Time", "Due", "Done", "Score"}));
+    window->ColumnClicked(5);
+    EXPECT_EQ(Row(40), (QStringList{"41", "", "!", "Algebra", "Reading", "Page 12", "01:00", "14-Oct-09",
+                                    "Done", "95%"}));
+}
+
+TEST_F(GridAccessible, CellsTellTheirPlaceAndTheirHeader) {
+    AddAssignments(40);
+    window->ShowHomeworkMode();
+    QAccessibleInterface* cell = Table()->cellAt(1, 5);
+    EXPECT_EQ(cell->role(), QAccessible::Cell);
+    EXPECT_EQ(cell->parent(), Grid());
+    EXPECT_EQ(cell->tableCellInterface()->rowIndex(), 1);
+    EXPECT_EQ(cell->tableCellInterface()->columnIndex(), 5);
+    QAccessibleInterface* header = cell->tableCellInterface()->columnHeaderCells().first();
+    EXPECT_EQ(header->text(QAccessible::Name), "Description");
+    EXPECT_EQ(header->role(), QAccessible::ColumnHeader);
+    EXPECT_EQ(Grid()->child(Grid()->indexOfChild(cell)), cell);
+    EXPECT_EQ(Grid()->childCount(), 41 * 10);
+    const QPoint middle = cell->rect().center();
+    EXPECT_EQ(Grid()->childAt(middle.x(), middle.y()), cell);
+    EXPECT_TRUE(Table()->cellAt(39, 5)->state().offscreen);
+}
+
+TEST_F(GridAccessible, ChecksAreTold) {
+    AddTaskRecord({.done = "True"});
+    AddTaskRecord({});
+    window->ShowTaskMode();
+    EXPECT_TRUE(Table()->cellAt(0, 6)->state().checked);
+    EXPECT_FALSE(Table()->cellAt(1, 6)->state().checked);
+    EXPECT_TRUE(Table()->cellAt(1, 6)->state().checkable);
+    EXPECT_EQ(Row(1).last(), "Not done");
+}
+
+TEST_F(GridAccessible, TheMonthIsATableOfItsDays) {
+    AddAssignmentRecord({.done = "True"});
+    AddAssignmentRecord({});
+    AddEventRecord({});
+    window->ShowCalendarMode();
+    EXPECT_EQ(Table()->rowCount(), 6);
+    EXPECT_EQ(Columns(),
+              (QStringList{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"}));
+    EXPECT_EQ(Table()->cellAt(2, 3)->text(QAccessible::Name),
+              "Wednesday, October 14, homework 1 / 2, events 1");
+    EXPECT_EQ(Table()->cellAt(2, 4)->text(QAccessible::Name), "Thursday, October 15");
+    EXPECT_EQ(Table()->selectedCells(), QList<QAccessibleInterface*>{Table()->cellAt(2, 3)});
+}
+
+TEST_F(GridAccessible, TheDayIsATableOfItsEvents) {
+    AddEventRecord({.time = "09:00 AM", .duration = "1 Hour", .desc = "Chess"});
+    window->ShowEventMode();
+    EXPECT_EQ(Columns(), (QStringList{"Time", "Length", "Event"}));
+    EXPECT_EQ(Table()->rowCount(), 1);
+    EXPECT_EQ(Row(0), (QStringList{"09:00 AM", "1 Hour", "Chess"}));
+}
+
+TEST_F(GridAccessible, TheRowOfTheKeysIsTheSelectedOne) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    window->picGrid->setFocus();
+    EXPECT_EQ(Table()->selectedRows(), QList<int>{});
+    EXPECT_EQ(Grid()->focusChild(), nullptr);
+    Press(Qt::Key_End);
+    EXPECT_EQ(Table()->selectedRows(), QList<int>{2});
+    EXPECT_EQ(Grid()->focusChild(), Table()->cellAt(2, 0));
+    EXPECT_TRUE(Table()->cellAt(2, 0)->state().focused);
+}
+
+TEST_F(GridAccessible, PressingATitleSortsAndPressingACellOpens) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    QAccessibleInterface* title = Grid()->child(5);
+    title->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_TRUE(WaitUntil([this] { return window->SortColumn == 5; }));
+    Table()->cellAt(1, 5)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_TRUE(WaitUntil([this] { return HighlightedNumbers() == QStringList{"2"}; }));
+}
+
+TEST_F(GridAccessible, CellsOfRowsThatHaveGoneAreInvalid) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    QAccessibleInterface* cell = Table()->cellAt(2, 5);
+    EXPECT_TRUE(cell->isValid());
+    RemoveRecord(Store.Assignment, AssignmentFields, 3);
+    window->LayoutGrid();
+    window->FillHomeworkList();
+    EXPECT_FALSE(cell->isValid());
+    EXPECT_EQ(cell->text(QAccessible::Name), "");
+}
+
+TEST_F(GridAccessible, AChangeOfTheViewIsTold) {
+    QAccessible::setActive(true);
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    EXPECT_EQ(Table()->rowCount(), 3);
+    window->ShowTaskMode();
+    EXPECT_EQ(Table()->rowCount(), 0);
+    EXPECT_EQ(Table()->columnCount(), 7);
+    QAccessible::setActive(false);
+}

@@ -1,0 +1,322 @@
+// Scrolling, sorting and clicking on the grid.
+#include "mainwindow/GridTest.h"
+
+#include "core/RowLists.h"
+
+#include <QApplication>
+#include <QWheelEvent>
+
+namespace {
+
+class GridClicks : public GridTest {
+protected:
+    void TurnWheel(QWidget* over, int angle) {
+        const QPointF place = QPointF(over->rect().center());
+        QWheelEvent event(place, over->mapToGlobal(place), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event); // only such an event goes on to what lies behind
+        qApp->notify(over, &event);
+    }
+
+    void ClickTitle(std::size_t column) { QTest::mouseClick(window->picColHeader[column], Qt::LeftButton); }
+
+    QPoint HalfHourPoint(int halfHour) const {
+        return {300, ((halfHour - window->FirstRow + 1) * SlotUnits + SlotUnits / 2) / UnitsPerPixel};
+    }
+
+    QPoint CellPoint(std::size_t cell) const {
+        const UnitRect& area = window->CalendarGrid.cell[cell].area;
+        return {(area.left + 60) / UnitsPerPixel, (area.top + area.height - 60) / UnitsPerPixel};
+    }
+};
+
+} // namespace
+
+TEST_F(GridClicks, TheScrollBarIsDisabledWhileAllRowsFit) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    EXPECT_FALSE(window->VSGridScroll->isEnabled());
+    EXPECT_TRUE(window->VSGridScroll->isVisible());
+    EXPECT_EQ(window->VSGridScroll->value(), 1);
+}
+
+TEST_F(GridClicks, TheScrollBarRunsUntilTheLastRowIsTheLastVisible) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    EXPECT_TRUE(window->VSGridScroll->isEnabled());
+    EXPECT_EQ(window->VSGridScroll->minimum(), 1);
+    EXPECT_EQ(window->VSGridScroll->maximum(), 60 - window->RowsVisible + 1);
+    EXPECT_EQ(window->VSGridScroll->singleStep(), 1);
+    EXPECT_EQ(window->VSGridScroll->pageStep(), window->RowsVisible - 1);
+    window->VSGridScroll->setValue(window->VSGridScroll->maximum());
+    EXPECT_EQ(Cell(ListKind::Homework, window->RowsVisible, 0).text, "60");
+}
+
+TEST_F(GridClicks, ScrollingShowsTheRowsFromItsValueOn) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(7);
+    EXPECT_EQ(window->FirstRow, 7);
+    EXPECT_EQ(RowTexts(ListKind::Homework, 1).mid(0, 6),
+              (QStringList{"7", "", "", "Algebra ", "Reading", "A7 "}));
+}
+
+TEST_F(GridClicks, TheFirstRowSurvivesARefresh) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(7);
+    Refresh();
+    EXPECT_EQ(window->FirstRow, 7);
+}
+
+TEST_F(GridClicks, AListThatBecomesShorterKeepsItsLastRowsInView) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(window->VSGridScroll->maximum());
+    while (Store.Assignment.id.Count() > 40) {
+        RemoveRecord(Store.Assignment, AssignmentFields, 1);
+    }
+    Refresh();
+    EXPECT_EQ(window->FirstRow, 40 - window->RowsVisible + 1);
+    EXPECT_EQ(Cell(ListKind::Homework, window->RowsVisible, 0).text, "40");
+    while (Store.Assignment.id.Count() > 3) {
+        RemoveRecord(Store.Assignment, AssignmentFields, 1);
+    }
+    Refresh();
+    EXPECT_EQ(window->FirstRow, 1);
+    EXPECT_EQ(RowsPainted(), 3);
+}
+
+TEST_F(GridClicks, TheScrollBarHandsItsFocusToTheGrid) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setFocus();
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+    EXPECT_EQ(window->VSGridScroll->focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(GridClicks, TheWheelMovesThreeRowsAndStopsAtBothEnds) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    TurnWheel(window->picGrid, -120);
+    EXPECT_EQ(window->FirstRow, 4);
+    TurnWheel(window->picGrid, 120);
+    TurnWheel(window->picGrid, 120);
+    EXPECT_EQ(window->FirstRow, 1);
+    for (int i = 0; i < 40; ++i) {
+        TurnWheel(window->picGrid, -120);
+    }
+    EXPECT_EQ(window->FirstRow, window->VSGridScroll->maximum());
+}
+
+TEST_F(GridClicks, TheWheelCountsOverTitlesAndOverTheRestOfTheWindow) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    TurnWheel(window->picColHeader[3], -120);
+    EXPECT_EQ(window->FirstRow, 4);
+    TurnWheel(window->LabelTop, -120);
+    EXPECT_EQ(window->FirstRow, 7);
+}
+
+TEST_F(GridClicks, TheWheelDoesNothingWhileTheScrollBarIsDisabledOrHidden) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->ShowCalendarMode();
+    TurnWheel(window->picGrid, -120);
+    EXPECT_EQ(window->VSGridScroll->value(), 1);
+    Store.Assignment = {};
+    window->ShowHomeworkMode();
+    TurnWheel(window->picGrid, -120);
+    EXPECT_EQ(window->VSGridScroll->value(), 1);
+}
+
+TEST_F(GridClicks, ATitleSortsByItsColumnAndTurnsAtTheSecondClick) {
+    AddAssignmentRecord({.desc = "b"});
+    AddAssignmentRecord({.desc = "a"});
+    window->ShowHomeworkMode();
+    ClickTitle(5);
+    EXPECT_EQ(window->SortColumn, 5);
+    EXPECT_EQ(window->SortDirection, Ascending);
+    EXPECT_EQ(Cell(ListKind::Homework, 1, 5).text, "a ");
+    ClickTitle(5);
+    EXPECT_EQ(window->SortDirection, Descending);
+    EXPECT_EQ(Cell(ListKind::Homework, 1, 5).text, "b ");
+    EXPECT_EQ(SortPicture(5), "picStashGridTitleDown.svg");
+    ClickTitle(3); // the direction stays when the column changes
+    EXPECT_EQ(window->SortColumn, 3);
+    EXPECT_EQ(window->SortDirection, Descending);
+    EXPECT_EQ(SortPicture(3), "picStashGridTitleDown.svg");
+    EXPECT_EQ(SortPicture(5), "");
+}
+
+TEST_F(GridClicks, TheTitleOfTheNumbersOnlyGivesTheFocus) {
+    window->ShowHomeworkMode();
+    window->ComboList->setFocus();
+    ClickTitle(0);
+    EXPECT_EQ(window->SortColumn, 8);
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+}
+
+TEST_F(GridClicks, SortingAScrolledListShowsItsTop) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(9);
+    window->ComboList->setFocus();
+    ClickTitle(5);
+    EXPECT_EQ(window->VSGridScroll->value(), 1);
+    EXPECT_EQ(Cell(ListKind::Homework, 2, 5).text, "A10 ");
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+}
+
+TEST_F(GridClicks, AClickOpensTheRowAndShowsWhich) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(7);
+    ClickRow(3);
+    EXPECT_EQ(window->ClickedRow, 3);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{"9"});
+    EXPECT_EQ(Cell(ListKind::Homework, 3, 0).forecolor, 0); // off again
+    EXPECT_EQ(Cell(ListKind::Homework, 3, 0).backcolor, 0xFFFFFF);
+}
+
+TEST_F(GridClicks, AHighlightedNumberIsWhiteOnBlack) {
+    AddAssignments(2);
+    window->ShowHomeworkMode();
+    window->HighlightRow(2, true);
+    EXPECT_EQ(Cell(ListKind::Homework, 2, 0).text, "2");
+    EXPECT_EQ(Cell(ListKind::Homework, 2, 0).forecolor, 0xFFFFFF);
+    EXPECT_EQ(Cell(ListKind::Homework, 2, 0).backcolor, 0);
+}
+
+TEST_F(GridClicks, ARowThatHasGoneIsNotHighlighted) {
+    AddAssignments(1);
+    window->ShowHomeworkMode();
+    const std::size_t drawn = window->picGrid->Drawn().size();
+    window->HighlightRow(2, false);
+    EXPECT_EQ(window->picGrid->Drawn().size(), drawn);
+}
+
+TEST_F(GridClicks, DraggingFromOneRowToAnotherDoesNothing) {
+    AddAssignments(5);
+    window->ShowHomeworkMode();
+    QTest::mousePress(window->picGrid, Qt::LeftButton, {}, RowPoint(2));
+    QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, RowPoint(3));
+    EXPECT_EQ(window->ClickedRow, 2);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+}
+
+TEST_F(GridClicks, AReleaseOutsideTheGridDoesNothing) {
+    AddAssignments(5);
+    window->ShowHomeworkMode();
+    QTest::mousePress(window->picGrid, Qt::LeftButton, {}, RowPoint(1));
+    QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, QPoint(200, -40));
+    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+}
+
+TEST_F(GridClicks, AClickPastTheRowsHighlightsNone) {
+    AddAssignments(2);
+    for (const auto enter : {&frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode}) {
+        (window.get()->*enter)();
+        ClickRow(4);
+        EXPECT_EQ(window->ClickedRow, 4);
+        EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    }
+}
+
+TEST_F(GridClicks, AClickOnTheStripOfADisabledScrollBarHitsNoRow) {
+    AddAssignments(2);
+    window->ShowHomeworkMode();
+    Click({window->picGrid->width() - 5, 40});
+    EXPECT_EQ(window->ClickedRow, 999);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+}
+
+TEST_F(GridClicks, TasksOpenByAClick) {
+    AddTaskRecord({});
+    window->ShowTaskMode();
+    ClickRow(1);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{"1"});
+}
+
+TEST_F(GridClicks, RemindersOpenWithEitherButton) {
+    AddAssignmentRecord({.reminder = "True"});
+    window->MenuCalendar->setChecked(false);
+    window->ShowReminderMode();
+    ClickRow(1);
+    ClickRow(1, Qt::RightButton);
+    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "1"}));
+    ClickRow(2);
+    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "1"}));
+}
+
+TEST_F(GridClicks, AnEventOfTheRemindersLeavesTheSelectedDay) {
+    AddEventRecord({.date = "2009/10/14", .reminder = "True"});
+    window->MenuCalendar->setChecked(false);
+    window->ShowReminderMode();
+    ClickRow(1);
+    EXPECT_EQ(window->ClickedDate, window->SelectedDate);
+}
+
+TEST_F(GridClicks, TheDayGivesTheHalfHourThatIsClicked) {
+    window->ShowEventMode();
+    Click(HalfHourPoint(18));
+    EXPECT_EQ(window->ClickedRow, 0);
+    EXPECT_EQ(window->EventClickedStartTime, "9:00 AM");
+    window->VSGridScroll->setValue(1);
+    Click(HalfHourPoint(1));
+    EXPECT_EQ(window->EventClickedStartTime, "12:30 AM");
+}
+
+TEST_F(GridClicks, TheLastHalfHourIsSpeltWithoutABlank) {
+    window->ShowEventMode();
+    window->resize(1000, 1900);
+    ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible > 62; }));
+    Click(HalfHourPoint(47));
+    EXPECT_EQ(window->EventClickedStartTime, "11:30PM");
+    window->EventClickedStartTime.clear();
+    Click(HalfHourPoint(60)); // beyond the day
+    EXPECT_EQ(window->EventClickedStartTime, "11:30PM");
+}
+
+TEST_F(GridClicks, AClickOnABoxTakesNoTime) {
+    AddEventRecord({.time = "09:00 AM"});
+    window->ShowEventMode();
+    Click(HalfHourPoint(18));
+    EXPECT_EQ(window->ClickedRow, 1);
+    EXPECT_EQ(window->EventClickedStartTime, "");
+}
+
+TEST_F(GridClicks, TheMonthGoesToTheClickedDay) {
+    window->ShowCalendarMode();
+    Click(CellPoint(20));
+    EXPECT_EQ(window->ClickedRow, 20);
+    EXPECT_EQ(window->SelectedDate, window->Month.CellDate[20]);
+    EXPECT_EQ(window->LabelTop->text(), "October 2009");
+}
+
+TEST_F(GridClicks, TheMonthMovesToTheMonthOfAGreyDay) {
+    window->ShowCalendarMode();
+    const Date last = window->Month.CellDate[41];
+    Click(CellPoint(41));
+    EXPECT_EQ(window->SelectedDate, last);
+    EXPECT_EQ(window->LabelTop->text(), "November 2009");
+}
+
+TEST_F(GridClicks, DraggingFromOneDayToAnotherStaysAtTheDay) {
+    window->ShowCalendarMode();
+    const Date before = window->SelectedDate;
+    QTest::mousePress(window->picGrid, Qt::LeftButton, {}, CellPoint(20));
+    QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, CellPoint(21));
+    EXPECT_EQ(window->SelectedDate, before);
+}
+
+TEST_F(GridClicks, AResizeIsFollowedOnlyInAModeAndWhileIdle) {
+    AddAssignments(1);
+    window->ShowHomeworkMode();
+    window->RefreshReason = ReasonCalendar;
+    const int rows = window->RowsVisible;
+    window->resize(900, 800);
+    QTest::qWait(1);
+    EXPECT_EQ(window->RowsVisible, rows);
+    EXPECT_EQ(window->RefreshReason, ReasonCalendar);
+}
