@@ -20,6 +20,8 @@ endif()
 target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
 
 if(PLANOVARIUM_SANITIZE)
+  # The sanitizers' own code confuses this warning (GCC manual, -fsanitize).
+  target_compile_options(planovarium_flags INTERFACE -Wno-maybe-uninitialized)
   target_compile_options(planovarium_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(planovarium_flags INTERFACE -fsanitize=address,undefined)

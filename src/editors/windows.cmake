@@ -1,4 +1,5 @@
 target_sources(planovarium_windows PRIVATE
+  editors/ClassPanel.cpp
   editors/DatePicker.cpp
   editors/DatePicker.h
   editors/DatePickerSetup.cpp
@@ -11,4 +12,10 @@ target_sources(planovarium_windows PRIVATE
   editors/frmAssignment.cpp
   editors/frmAssignment.h
   editors/frmAssignment.ui
+  editors/frmCourseSchedule.cpp
+  editors/frmCourseSchedule.h
+  editors/frmCourseSchedule.ui
+  editors/frmSelectCourseSchedule.cpp
+  editors/frmSelectCourseSchedule.h
+  editors/frmSelectCourseSchedule.ui
 )

@@ -2,6 +2,8 @@
 #include "core/Module1.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
+#include "editors/frmCourseSchedule.h"
+#include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/ProcessMarker.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
@@ -48,6 +50,8 @@ void HideUnofferedItems(const frmMain& window) {
 // The dialogs are built once, in this order, and the main window owns them.
 void LoadDialogs(frmMain& window) {
     AssignmentDialog = new frmAssignment(&window);
+    TermChooser = new frmSelectCourseSchedule(&window);
+    TermDialog = new frmCourseSchedule(&window);
     TaskDialog = new FrmTask(&window);
 }
 

@@ -48,9 +48,11 @@ protected:
     static ShownBox Message(const std::string& text);
     static ShownBox Question(const std::string& text);
 
+    // Shows a dialog without its flow.
+    static void ShowAlone(QDialog& dialog);
+
 private:
     static QWidget* Elsewhere(const QWidget* input);
-    static void ShowAlone(QDialog& dialog);
 };
 
 // Colours as the screen has them, 0xRRGGBB.

@@ -8,4 +8,6 @@ target_sources(window_tests PRIVATE
   editors/EditorTest.cpp
   editors/TaskEditorTest.cpp
   editors/TaskFlowTest.cpp
+  editors/TermEditorTest.cpp
+  editors/TermFlowTest.cpp
 )

@@ -33,6 +33,7 @@ void GridTest::SetUp() {
     ASSERT_EQ(ActiveTermName, Term);
     AddClassRecord({.forecolor = "16777215", .backcolor = "1122867"});
     SetupActiveClasses();
+    CancelDialogsAsTheyOpen(window.get()); // what a click opens is not asked here
 }
 
 void GridTest::Refresh() {

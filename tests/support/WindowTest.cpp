@@ -5,6 +5,7 @@
 #include "core/RowLists.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 
 #include <fstream>
@@ -119,6 +120,16 @@ void WhenDialogOpens(const std::function<void(QWidget*)>& action) {
 
 void FireTimer(QTimer* timer) {
     ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
+}
+
+void CancelDialogsAsTheyOpen(QObject* owner) {
+    auto* poll = new QTimer(owner);
+    QObject::connect(poll, &QTimer::timeout, poll, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            dialog->reject();
+        }
+    });
+    poll->start(1);
 }
 
 QStringList DrawnTexts(const PictureBox& surface) {

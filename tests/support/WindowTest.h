@@ -46,5 +46,8 @@ void WhenDialogOpens(const std::function<void(QWidget*)>& action);
 // Lets the timer's next tick come now.
 void FireTimer(QTimer* timer);
 
+// From now on cancels every modal dialog as soon as it has opened, for as long as the owner lives.
+void CancelDialogsAsTheyOpen(QObject* owner);
+
 // The texts drawn on a surface, in order.
 QStringList DrawnTexts(const PictureBox& surface);

@@ -1,0 +1,235 @@
+// The panel of one class in frmCourseSchedule: opened to add or to edit it, checked, saved into the dialog's
+// lists. While it is open the term's own buttons are out of reach.
+#include "core/Values.h"
+#include "editors/frmCourseSchedule.h"
+#include "planner/Colors.h"
+#include "planner/Grades.h"
+#include "planner/TermEntry.h"
+#include "platform/MessageBoxes.h"
+
+#include <QSignalBlocker>
+
+namespace {
+
+const std::string NewClassForeColor = std::to_string(ColorBlack);
+const std::string NewClassBackColor = std::to_string(ColorWhite);
+
+constexpr std::string_view CreditsMessage = "Enter the number of credits you will receive for this class. "
+                                            "The number is used in calculating your total GPA.";
+
+// Fills a box of the panel, which is no change of the student's.
+void FillQuietly(QLineEdit* box, std::string_view text) {
+    const QSignalBlocker quiet(box);
+    ShowText(box, text);
+}
+
+void FillQuietly(QPlainTextEdit* box, std::string_view text) {
+    const QSignalBlocker quiet(box);
+    box->setPlainText(FromStore(text));
+}
+
+} // namespace
+
+void frmCourseSchedule::ResetClassPanel() {
+    FillQuietly(TextBoxClassName, "");
+    FillQuietly(TextBoxCredits, "");
+    FillQuietly(TextBoxNotes, "");
+    classForeColor = NewClassForeColor;
+    classBackColor = NewClassBackColor;
+    ShowClassColors();
+    OriginalClassName.clear();
+    for (QWidget* box : std::initializer_list<QWidget*>{TextBoxClassName, TextBoxCredits, TextBoxNotes}) {
+        box->setEnabled(false);
+    }
+    for (QPushButton* button : {ButtonOKClass, ButtonCancelClass, ButtonDeleteClass}) {
+        button->setEnabled(false);
+    }
+    ButtonOK->setEnabled(true);
+    ButtonCancel->setEnabled(true);
+    ButtonDelete->setEnabled(EditMode == "Edit");
+    ButtonAddClass->setEnabled(true);
+    ComboBoxClassList->setEnabled(true);
+    FillClassList();
+    ClassEditMode.clear();
+    ButtonEditClass->setEnabled(ComboBoxClassList->count() > 0);
+    ButtonOK->setDefault(true);
+    ButtonAddClass->setFocus();
+}
+
+// Selects the class that was added, or the one that was edited, or else the first one.
+void frmCourseSchedule::FillClassList() {
+    const int remembered = ComboBoxClassList->currentIndex();
+    ComboBoxClassList->clear();
+    IndexClassIDArray.Clear();
+    for (int position = 1; position <= tempClassNameArray.Count(); ++position) {
+        if (tempClassNameArray.Item(position) != DeletedRecord) {
+            ComboBoxClassList->addItem(FromStore(tempClassNameArray.Item(position)));
+            IndexClassIDArray.Add(position);
+        }
+    }
+    const int last = ComboBoxClassList->count() - 1;
+    if (ClassEditMode == "Add") {
+        ComboBoxClassList->setCurrentIndex(last);
+    } else if (ClassEditMode == "Edit") {
+        ComboBoxClassList->setCurrentIndex(std::min(remembered, last));
+    } else {
+        ComboBoxClassList->setCurrentIndex(last < 0 ? -1 : 0);
+    }
+}
+
+void frmCourseSchedule::OpenClassPanel() {
+    for (QWidget* box : std::initializer_list<QWidget*>{TextBoxClassName, TextBoxCredits, TextBoxNotes}) {
+        box->setEnabled(true);
+    }
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             ButtonAddClass, ButtonEditClass, ComboBoxClassList, ButtonOK, ButtonCancel, ButtonDelete}) {
+        control->setEnabled(false);
+    }
+    ButtonOKClass->setEnabled(true);
+    ButtonCancelClass->setEnabled(true);
+    ButtonOKClass->setDefault(true);
+    TextBoxClassName->setFocus();
+}
+
+void frmCourseSchedule::AddClass() {
+    OpenClassPanel();
+    SelectedClassID = NextClassID;
+    SelectedClassIndex = tempClassIDArray.Count();
+    OriginalClassName.clear();
+    ClassEditMode = "Add";
+}
+
+void frmCourseSchedule::EditClass() {
+    OpenClassPanel();
+    ButtonDeleteClass->setEnabled(true);
+    ClassEditMode = "Edit";
+    SelectedClassIndex = IndexClassIDArray.Item(ComboBoxClassList->currentIndex() + 1);
+    SelectedClassID = ToInt16(tempClassIDArray.Item(SelectedClassIndex));
+    OriginalClassName = tempClassNameArray.Item(SelectedClassIndex);
+    FillQuietly(TextBoxClassName, OriginalClassName);
+    FillQuietly(TextBoxCredits, tempClassCreditsArray.Item(SelectedClassIndex));
+    FillQuietly(TextBoxNotes, tempClassNotesArray.Item(SelectedClassIndex));
+    classForeColor = tempClassForeColorArray.Item(SelectedClassIndex);
+    classBackColor = tempClassBackColorArray.Item(SelectedClassIndex);
+    ShowClassColors();
+}
+
+// The name stands in the colours in which the class is shown everywhere.
+void frmCourseSchedule::ShowClassColors() {
+    QPalette colors = TextBoxClassName->palette();
+    colors.setColor(QPalette::Base, ToQColor(ToColor(classBackColor)));
+    colors.setColor(QPalette::Text, ToQColor(ToColor(classForeColor)));
+    TextBoxClassName->setPalette(colors);
+}
+
+// A field that still has the focus is validated first, as it would be in losing it.
+void frmCourseSchedule::AcceptClass() {
+    if (focusWidget() == TextBoxCredits && !ValidateCredits(false)) {
+        return;
+    }
+    ValidateClassPanel();
+    if (ClassError) {
+        TextBoxClassName->setFocus();
+        return;
+    }
+    SaveClass();
+    ResetClassPanel();
+    ChangeFlag = true;
+}
+
+void frmCourseSchedule::ValidateClassPanel() {
+    ClassError = true;
+    const std::string name = TextOf(TextBoxClassName);
+    const ClassEntry entry{name, OriginalClassName, SelectedClassID, EditMode == "Edit"};
+    const ClassCheck check = ValidateClass(entry, tempClassIDArray, tempClassNameArray);
+    switch (check) {
+    case ClassCheck::Accepted:
+        ClassError = false;
+        break;
+    case ClassCheck::NameMissing:
+        MsgBox(ClassMessage(check, entry), Buttons::Ok, Icon::Information);
+        break;
+    case ClassCheck::NameTaken:
+        MsgBox(ClassMessage(check, entry), Buttons::Ok, Icon::Information);
+        FillQuietly(TextBoxClassName, OriginalClassName);
+        break;
+    case ClassCheck::RenameAsked:
+        ClassError = MsgBox(ClassMessage(check, entry), Buttons::YesNo, Icon::Information) != Answer::Yes;
+        if (ClassError) {
+            FillQuietly(TextBoxClassName, OriginalClassName);
+        }
+        break;
+    }
+}
+
+// The term that the class belongs to is set as the whole term is saved.
+void frmCourseSchedule::SaveClass() {
+    const std::string name = TextOf(TextBoxClassName);
+    const std::string credits = TextOf(TextBoxCredits);
+    const std::string notes = TextOf(TextBoxNotes);
+    if (ClassEditMode == "Add") {
+        tempClassIDArray.Add(std::to_string(NextId(NextClassID)));
+        tempClassNameArray.Add(name);
+        tempClassCreditsArray.Add(credits);
+        tempClassNotesArray.Add(notes);
+        tempClassForeColorArray.Add(classForeColor);
+        tempClassBackColorArray.Add(classBackColor);
+        return;
+    }
+    tempClassNameArray.Replace(SelectedClassIndex, name);
+    tempClassCreditsArray.Replace(SelectedClassIndex, credits);
+    tempClassNotesArray.Replace(SelectedClassIndex, notes);
+    tempClassForeColorArray.Replace(SelectedClassIndex, classForeColor);
+    tempClassBackColorArray.Replace(SelectedClassIndex, classBackColor);
+}
+
+bool frmCourseSchedule::DeleteConfirmed() const {
+    if (MsgBox("Delete this class?", Buttons::YesNo, Icon::Information) != Answer::Yes) {
+        return false;
+    }
+    if (EditMode != "Edit") {
+        return true;
+    }
+    return MsgBox("Are you sure you want to Delete '" + OriginalClassName +
+                      "'? If you have assignments for '" + OriginalClassName +
+                      "', they will also be Deleted.",
+                  Buttons::YesNo, Icon::Information) == Answer::Yes;
+}
+
+// The class's assignments go only when the whole term is saved.
+void frmCourseSchedule::DeleteClass() {
+    if (OriginalClassName.empty() || !DeleteConfirmed()) {
+        return;
+    }
+    for (TextList* list : {&tempClassIDArray, &tempClassNameArray, &tempClassCreditsArray,
+                           &tempClassNotesArray, &tempClassForeColorArray, &tempClassBackColorArray}) {
+        list->Remove(SelectedClassIndex);
+    }
+    ResetClassPanel();
+    ChangeFlag = true;
+}
+
+// Gives false when the credits were refused; quietly where the student is about to cancel.
+bool frmCourseSchedule::ValidateCredits(bool quiet) {
+    const std::string credits(Trim(TextOf(TextBoxCredits)));
+    if (credits.empty() || IsAcceptedNumber(credits)) {
+        return true;
+    }
+    TextBoxCredits->clear();
+    if (!quiet) {
+        AskForEntry(TextBoxCredits, CreditsMessage);
+    }
+    return false;
+}
+
+bool frmCourseSchedule::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != TextBoxCredits || CloseOK || !EntryEnds(event)) {
+        return QDialog::eventFilter(watched, event);
+    }
+    const bool quiet = IsPressOn(ButtonCancelClass, event);
+    const bool asked = !ValidateCredits(quiet) && !quiet;
+    if (asked) {
+        DropPress(event);
+    }
+    return asked || event->type() == QEvent::KeyPress; // Enter does not press OK as well
+}

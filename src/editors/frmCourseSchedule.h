@@ -1,0 +1,78 @@
+// frmCourseSchedule, the dialog in which one term is created, changed or deleted with its classes. It never
+// touches the store: ClassSchedule of the main window fills its fields, shows it, reads it and writes the
+// records.
+#pragma once
+
+#include "core/TextList.h"
+#include "editors/DatePicker.h"
+#include "editors/EditorParts.h"
+
+#include "ui_frmCourseSchedule.h"
+
+class frmCourseSchedule : public QDialog, public Ui::frmCourseSchedule, public EditorState {
+    Q_OBJECT
+
+public:
+    explicit frmCourseSchedule(QWidget* parent);
+
+    // Fills all controls, for "New" with a term that begins today, for "NewBasedOn" and "Edit" from the
+    // fields; to be called before each opening. Raises the run-time error where a field holds no date.
+    void Fill();
+
+    std::string tempTermID;
+    std::string tempTermName;
+    std::string tempTermStart, tempTermEnd; // in the short form while the dialog is open
+    TextList tempClassIDArray, tempClassTermLinkArray, tempClassNameArray, tempClassCreditsArray,
+        tempClassForeColorArray, tempClassBackColorArray, tempClassNotesArray;
+    NumberList IndexClassIDArray; // for each row of the class list its position in these
+    TextList tempPreviousTermIDsArray, tempPreviousTermNamesArray, tempPreviousTermStartArray,
+        tempPreviousTermEndArray;    // all terms that exist
+    std::string ThisTermsPreviousID; // as the term had them at opening
+    std::string ThisTermsPreviousName;
+    int SelectedClassIndex = 0; // position of the class being edited; for an added one the list's length
+    int SelectedClassID = 0;
+    std::string ClassEditMode; // "Add", "Edit", or empty while no class is open
+    std::string OriginalClassName;
+    int NextClassID = 1;
+    bool ClassError = false; // the last check of a class refused it
+
+    DatePicker* Picker = nullptr;
+
+    // Escape counts as Cancel.
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void SetupControls();
+    void SetTopics();
+    void BindControls();
+    void ShowDates();
+    void TakeDate(Date date);
+
+    // ClassPanel.cpp: the panel of one class.
+    void ResetClassPanel();
+    void FillClassList();
+    void OpenClassPanel();
+    void AddClass();
+    void EditClass();
+    void AcceptClass();
+    void ValidateClassPanel();
+    void SaveClass();
+    void DeleteClass();
+    void ShowClassColors();
+    bool DeleteConfirmed() const;
+    bool ValidateCredits(bool quiet);
+
+    void Accept();
+    void Cancel();
+    void Delete();
+
+    // The colours of the class being edited, as the store has them.
+    std::string classForeColor, classBackColor;
+};
+
+// The one dialog, from the load of the main window on, which owns it.
+extern frmCourseSchedule* TermDialog;

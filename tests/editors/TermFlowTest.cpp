@@ -1,0 +1,211 @@
+// The flow of a term: what choosing, entering and deleting leaves in the store and on the drive.
+#include "editors/EditorTest.h"
+#include "editors/frmCourseSchedule.h"
+#include "editors/frmSelectCourseSchedule.h"
+
+namespace {
+
+class TermFlow : public EditorTest {
+protected:
+    void SetUp() override {
+        EditorTest::SetUp();
+        NextTermID = 2;
+    }
+
+    // Runs the flow; the student presses one button of the chooser.
+    void Choose(QPushButton* button) {
+        WhenDialogOpens([button](QWidget*) { Click(button); });
+        window->ClassSchedule();
+    }
+
+    // The same, and then acts in the term's dialog.
+    void ChooseAndAct(QPushButton* button, const std::function<void()>& act) {
+        WhenDialogOpens([button, act](QWidget*) {
+            WhenDialogOpens([act](QWidget*) { act(); });
+            Click(button);
+        });
+        window->ClassSchedule();
+    }
+
+    // Makes a term of one class by way of the dialogs.
+    void MakeTerm(const QString& name) {
+        ChooseAndAct(TermChooser->ButtonNew, [name] {
+            Type(TermDialog->TextBoxTermName, name);
+            Click(TermDialog->ButtonAddClass);
+            Type(TermDialog->TextBoxClassName, "Latin");
+            Click(TermDialog->ButtonOKClass);
+            Click(TermDialog->ButtonOK);
+        });
+    }
+
+    static void AddAssignment(const std::string& classId, const std::string& desc) {
+        AddAssignmentRecord({.class_ = classId, .desc = desc});
+    }
+};
+
+} // namespace
+
+TEST_F(TermFlow, ChooserListsTheNewestTermFirst) {
+    MakeTerm("Spring 2010");
+    QStringList rows;
+    WhenDialogOpens([&rows](QWidget*) {
+        for (int row = 0; row < TermChooser->ComboTermList->count(); ++row) {
+            rows.append(TermChooser->ComboTermList->itemText(row));
+        }
+        EXPECT_EQ(TermChooser->windowTitle(), "Planovarium - Select a Term");
+        EXPECT_EQ(TermChooser->ComboTermList->currentText(), "Spring 2010");
+        EXPECT_EQ(TermChooser->tempTermIDArray.Count(), 2);
+        Click(TermChooser->ButtonCancel);
+    });
+    window->ClassSchedule();
+    EXPECT_EQ(rows, (QStringList{"Spring 2010", "Fall 2009"}));
+    EXPECT_TRUE(TermChooser->Cancelled);
+}
+
+TEST_F(TermFlow, WithoutTermsOnlyANewOneCanBeStarted) {
+    Store.Term = {};
+    window->SetActiveTerm("");
+    WhenDialogOpens([](QWidget*) {
+        EXPECT_FALSE(TermChooser->ButtonActive->isEnabled());
+        EXPECT_FALSE(TermChooser->ButtonEdit->isEnabled());
+        EXPECT_TRUE(TermChooser->ButtonNew->isEnabled());
+        EXPECT_TRUE(TermChooser->ButtonCancel->isEnabled());
+        EXPECT_EQ(TermChooser->ComboTermList->currentIndex(), -1);
+        Click(TermChooser->ButtonCancel);
+    });
+    window->ClassSchedule();
+}
+
+TEST_F(TermFlow, CancelInTheChooserWritesNothing) {
+    const std::string before = ReadData("terms.xml");
+    Choose(TermChooser->ButtonCancel);
+    EXPECT_EQ(ReadData("terms.xml"), before);
+    EXPECT_FALSE(FileWrittenFlags.terms);
+}
+
+TEST_F(TermFlow, NewTermIsStoredWrittenAndActive) {
+    MakeTerm("Spring 2010 ");
+    EXPECT_EQ(Store.Term.id.Item(2), "2");
+    EXPECT_EQ(Store.Term.name.Item(2), "Spring 2010");
+    EXPECT_EQ(Store.Term.start.Item(2), "2009/10/14");
+    EXPECT_EQ(Store.Term.end.Item(2), "2009/12/23");
+    EXPECT_EQ(Store.ClassRecord.name.Item(3), "Latin");
+    EXPECT_EQ(Store.ClassRecord.id.Item(3), "8");
+    EXPECT_EQ(Store.ClassRecord.term.Item(3), "2");
+    EXPECT_TRUE(FileWrittenFlags.terms && FileWrittenFlags.classes);
+    EXPECT_NE(ReadData("terms.xml").find("<name>Spring 2010</name>\n  <start>2009/10/14</start>"),
+              std::string::npos);
+    EXPECT_NE(ReadData("classes.xml").find("<name>Latin</name>"), std::string::npos);
+    EXPECT_EQ(NextTermID, 3);
+}
+
+TEST_F(TermFlow, CancelInTheTermDialogWritesNothing) {
+    ChooseAndAct(TermChooser->ButtonNew, [] { Click(TermDialog->ButtonCancel); });
+    EXPECT_EQ(Store.Term.id.Count(), 1);
+    EXPECT_FALSE(FileWrittenFlags.terms);
+}
+
+TEST_F(TermFlow, ChangedTermIsReadWithItsAssignments) {
+    MakeTerm("Spring 2010");
+    EXPECT_EQ(ActiveTermName, "Spring 2010");
+    EXPECT_TRUE(DataExists("assignments_2.xml"));
+    WhenDialogOpens([](QWidget*) {
+        TermChooser->ComboTermList->setCurrentText("Fall 2009");
+        Click(TermChooser->ButtonActive);
+    });
+    window->ClassSchedule();
+    EXPECT_EQ(ActiveTermName, "Fall 2009");
+    EXPECT_EQ(window->LabelTerm->text(), "Fall 2009");
+}
+
+TEST_F(TermFlow, EditedTermMovesToTheEndAndKeepsItsId) {
+    MakeTerm("Spring 2010");
+    window->SetActiveTerm("Fall 2009");
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        Type(TermDialog->TextBoxTermName, "Fall");
+        Click(TermDialog->ButtonOK);
+    });
+    EXPECT_EQ(Store.Term.name.values, (std::vector<std::string>{"Spring 2010", "Fall"}));
+    EXPECT_EQ(Store.Term.id.values, (std::vector<std::string>{"2", "1"}));
+    EXPECT_EQ(Store.ClassRecord.name.values, (std::vector<std::string>{"Latin", "Algebra", "History"}));
+    EXPECT_EQ(ActiveTermName, "Fall");
+}
+
+TEST_F(TermFlow, EditIsOfTheActiveTermWhateverTheComboShows) {
+    MakeTerm("Spring 2010");
+    WhenDialogOpens([](QWidget*) {
+        TermChooser->ComboTermList->setCurrentText("Fall 2009");
+        WhenDialogOpens([](QWidget*) {
+            EXPECT_EQ(TermDialog->TextBoxTermName->text(), "Spring 2010");
+            Click(TermDialog->ButtonCancel);
+        });
+        Click(TermChooser->ButtonEdit);
+    });
+    window->ClassSchedule();
+}
+
+TEST_F(TermFlow, AssignmentsOfADeletedClassGoWithTheTermsOk) {
+    AddAssignment("4", "Sets");
+    AddAssignment("7", "Rome");
+    AddAssignment("4", "Rings");
+    Script.answers = {Answer::Yes, Answer::Yes};
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        Click(TermDialog->ButtonEditClass); // Algebra
+        Click(TermDialog->ButtonDeleteClass);
+        Click(TermDialog->ButtonOK);
+    });
+    EXPECT_EQ(Store.ClassRecord.name.values, (std::vector<std::string>{"History"}));
+    EXPECT_EQ(Store.Assignment.desc.values, (std::vector<std::string>{"Rome"}));
+    EXPECT_EQ(ReadData("assignments_1.xml").find("Sets"), std::string::npos);
+    EXPECT_NE(ReadData("assignments_1.xml").find("Rome"), std::string::npos);
+}
+
+TEST_F(TermFlow, CancelledTermKeepsTheDeletedClassAndItsAssignments) {
+    AddAssignment("4", "Sets");
+    Script.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        Click(TermDialog->ButtonEditClass);
+        Click(TermDialog->ButtonDeleteClass);
+        Click(TermDialog->ButtonCancel);
+    });
+    EXPECT_EQ(Store.ClassRecord.name.values, (std::vector<std::string>{"Algebra", "History"}));
+    EXPECT_EQ(Store.Assignment.desc.Count(), 1);
+}
+
+TEST_F(TermFlow, AssignmentFileIsWrittenOnlyWhenOneGoes) {
+    ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonOK); });
+    EXPECT_FALSE(FileWrittenFlags.assignments);
+    EXPECT_TRUE(FileWrittenFlags.terms);
+}
+
+TEST_F(TermFlow, DeletedTermLeavesTheNewestOneActive) {
+    MakeTerm("Spring 2010");
+    Script.answers = {Answer::Yes, Answer::Yes, Answer::Yes, Answer::Yes};
+    ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonDelete); });
+    EXPECT_EQ(Store.Term.name.values, (std::vector<std::string>{"Fall 2009"}));
+    EXPECT_EQ(Store.ClassRecord.name.values, (std::vector<std::string>{"Algebra", "History"}));
+    EXPECT_EQ(ActiveTermName, "Fall 2009");
+    EXPECT_TRUE(DataExists("assignments_2.xml")); // the file of a deleted term stays
+    ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonDelete); });
+    EXPECT_EQ(ActiveTermID, 0);
+    EXPECT_EQ(window->LabelTerm->text(), "No Term Selected");
+}
+
+TEST_F(TermFlow, ShutdownWhileTheDialogIsOpenSavesNothing) {
+    ChooseAndAct(TermChooser->ButtonEdit, [this] {
+        Type(TermDialog->TextBoxTermName, "Fall");
+        window->Unload();
+    });
+    EXPECT_EQ(Store.Term.name.Item(1), "Fall 2009");
+    EXPECT_FALSE(FileWrittenFlags.terms);
+}
+
+TEST_F(TermFlow, DialogsOpenBesideTheWindowTheFirstTime) {
+    SelectCourseScheduleDBFirstOpen = true;
+    Choose(TermChooser->ButtonCancel);
+    EXPECT_EQ(TermChooser->pos(), window->pos() + QPoint(250, 50));
+    EXPECT_FALSE(SelectCourseScheduleDBFirstOpen);
+    TermChooser->move(10, 20);
+    Choose(TermChooser->ButtonCancel);
+    EXPECT_EQ(TermChooser->pos(), QPoint(10, 20));
+}
