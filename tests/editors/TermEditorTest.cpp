@@ -357,11 +357,15 @@ TEST_F(TermEditor, UnchangedNameOfASavedTermIsAccepted) {
     EXPECT_FALSE(dialog->CancelledFlag);
 }
 
-TEST_F(TermEditor, CancelAsksOnlyAfterAChange) {
+TEST_F(TermEditor, CancelWithoutAChangeAsksNothing) {
     OpenEdit();
     Click(dialog->ButtonCancel);
     EXPECT_TRUE(Script.boxes.empty());
     EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(dialog->CancelledFlag);
+}
+
+TEST_F(TermEditor, CancelAsksAfterAChange) {
     OpenEdit();
     Script.answers = {Answer::No, Answer::Yes};
     Type(dialog->TextBoxTermName, "Fall");
