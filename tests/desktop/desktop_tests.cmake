@@ -13,5 +13,3 @@ function(add_desktop_tests file)
 endfunction()
 
 add_desktop_tests(test_process Start StartMode SecondStart Tray Shutdown WindowPlace)
-add_desktop_tests(test_window Modes Steppers List Midnight)
-add_desktop_tests(test_homework_path HomeworkPath)
