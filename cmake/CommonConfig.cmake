@@ -21,7 +21,9 @@ target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/sr
 
 if(PLANOVARIUM_SANITIZE)
   # The sanitizers' own code confuses this warning (GCC manual, -fsanitize).
-  target_compile_options(planovarium_flags INTERFACE -Wno-maybe-uninitialized)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(planovarium_flags INTERFACE -Wno-maybe-uninitialized)
+  endif()
   target_compile_options(planovarium_flags INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(planovarium_flags INTERFACE -fsanitize=address,undefined)
