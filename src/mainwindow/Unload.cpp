@@ -9,8 +9,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <filesystem>
-#include <ranges>
 
 namespace {
 
@@ -36,9 +36,7 @@ void RunShutdownSteps(const frmMain& window) {
 // From the last to the first.
 void HideAllWindows() {
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows | std::views::reverse) {
-        window->hide();
-    }
+    std::for_each(windows.rbegin(), windows.rend(), [](QWidget* window) { window->hide(); });
 }
 
 } // namespace

@@ -193,11 +193,6 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     for (const DrawnItem& item : drawn) {
         PaintItem(painter, item);
     }
-    if (hasFocus() && focusPolicy() != Qt::NoFocus) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    }
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
@@ -222,13 +217,32 @@ void PictureBox::wheelEvent(QWheelEvent* event) {
 }
 
 void PictureBox::resizeEvent(QResizeEvent* /*event*/) {
+    if (focusFrame != nullptr) {
+        PlaceFocusFrame();
+    }
     emit Resized();
 }
 
+void PictureBox::PlaceFocusFrame() {
+    focusFrame->setGeometry(rect());
+    focusFrame->setMask(QRegion(rect()) - QRegion(rect().adjusted(1, 1, -1, -1)));
+    focusFrame->raise();
+}
+
 void PictureBox::focusInEvent(QFocusEvent* /*event*/) {
-    update();
+    if (focusFrame == nullptr) {
+        focusFrame = new QWidget(this);
+        focusFrame->setObjectName(QStringLiteral("focusFrame"));
+        focusFrame->setAttribute(Qt::WA_TransparentForMouseEvents);
+        focusFrame->setAutoFillBackground(true);
+        focusFrame->setBackgroundRole(QPalette::Highlight);
+    }
+    PlaceFocusFrame();
+    focusFrame->show();
 }
 
 void PictureBox::focusOutEvent(QFocusEvent* /*event*/) {
-    update();
+    if (focusFrame != nullptr) {
+        focusFrame->hide();
+    }
 }

@@ -109,8 +109,10 @@ protected:
 
 private:
     void Keep(DrawnItem item);
+    void PlaceFocusFrame();
 
     std::vector<DrawnItem> drawn;
+    QWidget* focusFrame = nullptr; // lies over the surface and over what stands on it
     int backColor = 0xFFFFFF;
     int wheelRest = 0; // eighths of a degree not yet a whole notch
 };

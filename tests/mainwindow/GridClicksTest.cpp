@@ -175,6 +175,7 @@ TEST_F(GridClicks, AClickOpensTheRowAndShowsWhich) {
     ClickRow(3);
     EXPECT_EQ(window->ClickedRow, 3);
     EXPECT_EQ(HighlightedNumbers(), QStringList{"9"});
+    EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A9"});
     EXPECT_EQ(Cell(ListKind::Homework, 3, 0).forecolor, 0); // off again
     EXPECT_EQ(Cell(ListKind::Homework, 3, 0).backcolor, 0xFFFFFF);
 }
@@ -203,6 +204,7 @@ TEST_F(GridClicks, DraggingFromOneRowToAnotherDoesNothing) {
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, RowPoint(3));
     EXPECT_EQ(window->ClickedRow, 2);
     EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    EXPECT_EQ(Opened, QStringList{});
 }
 
 TEST_F(GridClicks, AReleaseOutsideTheGridDoesNothing) {
@@ -210,17 +212,29 @@ TEST_F(GridClicks, AReleaseOutsideTheGridDoesNothing) {
     window->ShowHomeworkMode();
     QTest::mousePress(window->picGrid, Qt::LeftButton, {}, RowPoint(1));
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, QPoint(200, -40));
-    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    EXPECT_EQ(Opened, QStringList{});
 }
 
-TEST_F(GridClicks, AClickPastTheRowsHighlightsNone) {
+TEST_F(GridClicks, AClickPastTheRowsAsksForANewItem) {
     AddAssignments(2);
-    for (const auto enter : {&frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode}) {
-        (window.get()->*enter)();
-        ClickRow(4);
-        EXPECT_EQ(window->ClickedRow, 4);
-        EXPECT_EQ(HighlightedNumbers(), QStringList{});
-    }
+    window->ShowHomeworkMode();
+    ClickRow(3);
+    EXPECT_EQ(window->ClickedRow, 3);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    window->ShowTaskMode();
+    ClickRow(1); // of an empty list
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
+}
+
+TEST_F(GridClicks, AClickPastTheRemindersOrTheStudySessionsDoesNothing) {
+    window->MenuCalendar->setChecked(false);
+    window->ShowReminderMode();
+    ClickRow(1);
+    window->MenuReminders->setChecked(false);
+    window->ShowStudySessionsMode();
+    ClickRow(1);
+    ClickRow(1, Qt::RightButton);
+    EXPECT_EQ(Opened, QStringList{});
 }
 
 TEST_F(GridClicks, AClickOnTheStripOfADisabledScrollBarHitsNoRow) {
@@ -228,25 +242,50 @@ TEST_F(GridClicks, AClickOnTheStripOfADisabledScrollBarHitsNoRow) {
     window->ShowHomeworkMode();
     Click({window->picGrid->width() - 5, 40});
     EXPECT_EQ(window->ClickedRow, 999);
-    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    EXPECT_EQ(Opened, QStringList{});
 }
 
 TEST_F(GridClicks, TasksOpenByAClick) {
-    AddTaskRecord({});
+    AddTaskRecord({.desc = "Call"});
     window->ShowTaskMode();
     ClickRow(1);
     EXPECT_EQ(HighlightedNumbers(), QStringList{"1"});
+    EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Task: Call"});
 }
 
-TEST_F(GridClicks, RemindersOpenWithEitherButton) {
-    AddAssignmentRecord({.reminder = "True"});
+TEST_F(GridClicks, StudySessionsOpenTheirAssignmentWithEitherButton) {
+    AddAssignments(1);
+    StudySessionLists& log = Store.StudySessionRecord;
+    log.id.Add("1");
+    log.assignment.Add("1");
+    log.time.Add("00 : 45");
+    log.date.Add("2009/10/14");
     window->MenuCalendar->setChecked(false);
-    window->ShowReminderMode();
+    window->ShowStudySessionsMode();
     ClickRow(1);
     ClickRow(1, Qt::RightButton);
-    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "1"}));
-    ClickRow(2);
-    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "1"}));
+    EXPECT_EQ(Opened,
+              (QStringList{"Planovarium - Edit Assignment: A1", "Planovarium - Edit Assignment: A1"}));
+}
+
+TEST_F(GridClicks, RemindersOpenTheirRecordWithEitherButton) {
+    AddAssignmentRecord({.desc = "Page 12", .reminder = "True"});
+    AddTaskRecord({.desc = "Call", .reminder = "True"});
+    window->MenuCalendar->setChecked(false);
+    window->ShowReminderMode();
+    window->ColumnClicked(1); // by kind: Homework, then Task
+    ClickRow(1);
+    ClickRow(2, Qt::RightButton);
+    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "2"}));
+    EXPECT_EQ(Opened,
+              (QStringList{"Planovarium - Edit Assignment: Page 12", "Planovarium - Edit Task: Call"}));
+}
+
+TEST_F(GridClicks, TheMiddleButtonIsALeftOne) {
+    AddAssignments(1);
+    window->ShowHomeworkMode();
+    ClickRow(1, Qt::MiddleButton);
+    EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A1"});
 }
 
 TEST_F(GridClicks, AnEventOfTheRemindersLeavesTheSelectedDay) {

@@ -75,10 +75,11 @@ TEST_F(GridKeys, EnterOpensTheRow) {
     AddAssignments(5);
     window->ShowHomeworkMode();
     Press(Qt::Key_Return);
-    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    EXPECT_EQ(Opened, QStringList{});
     Press(Qt::Key_End);
     Press(Qt::Key_Return);
     EXPECT_EQ(HighlightedNumbers(), QStringList{"5"});
+    EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A5"});
     EXPECT_EQ(window->ClickedRow, 0); // the keys are no click
 }
 
@@ -223,6 +224,18 @@ TEST_F(GridKeys, RemindersModeKeepsToToday) {
     EXPECT_EQ(window->SelectedDate, Wednesday);
 }
 
+TEST_F(GridKeys, TheFocusIsSeenAroundTheGrid) {
+    window->ShowHomeworkMode();
+    window->picGrid->setFocus();
+    const auto* frame = window->picGrid->findChild<QWidget*>("focusFrame");
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(frame->geometry(), window->picGrid->rect());
+    EXPECT_EQ(window->picGrid->children().last(), frame); // over the titles and the scroll bar
+    window->ComboList->setFocus();
+    EXPECT_FALSE(frame->isVisible());
+}
+
 TEST_F(GridKeys, OtherKeysAreLeftToTheWindow) {
     window->ShowHomeworkMode();
     EXPECT_FALSE(window->GridKeyPressed(Qt::Key_Tab, Qt::NoModifier));
@@ -235,6 +248,6 @@ TEST_F(GridKeys, TheMouseDoesWhatItDidBefore) {
     window->ShowHomeworkMode();
     Press(Qt::Key_End);
     ClickRow(2);
-    EXPECT_EQ(HighlightedNumbers(), QStringList{"2"});
+    EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A2"});
     EXPECT_EQ(window->CurrentRow, 2); // and the keys go on from there
 }

@@ -2,6 +2,7 @@
 #include "mainwindow/GridTest.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 
 namespace {
@@ -10,6 +11,16 @@ constexpr int LimitMilliseconds = 5000;
 constexpr int TextBelowLine = 60;
 
 const char* const Term = "Fall 2009";
+
+// "Title: description".
+QString Described(const QDialog& dialog) {
+    for (const char* name : {"TextBoxDescription", "TextBoxEvent"}) {
+        if (const auto* box = dialog.findChild<QLineEdit*>(QLatin1String(name))) {
+            return dialog.windowTitle() + QStringLiteral(": ") + box->text();
+        }
+    }
+    return dialog.windowTitle();
+}
 
 bool Inside(const UnitRect& rect, const DrawnItem& item) {
     return Holds(rect, item.left, item.top);
@@ -33,7 +44,13 @@ void GridTest::SetUp() {
     ASSERT_EQ(ActiveTermName, Term);
     AddClassRecord({.forecolor = "16777215", .backcolor = "1122867"});
     SetupActiveClasses();
-    CancelDialogsAsTheyOpen(window.get()); // what a click opens is not asked here
+    QObject::connect(&dialogWatch, &QTimer::timeout, &dialogWatch, [this] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            Opened.append(Described(*dialog));
+            dialog->reject();
+        }
+    });
+    dialogWatch.start(1);
 }
 
 void GridTest::Refresh() {

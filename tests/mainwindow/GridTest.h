@@ -24,6 +24,9 @@ protected:
     // 2009-10-14.
     void SetUp() override;
 
+    // The modal dialogs that have opened, each with its description. They are closed as they open.
+    QStringList Opened;
+
     // Shows what the store holds by now.
     void Refresh();
 
@@ -35,7 +38,7 @@ protected:
     // The number of rows painted.
     int RowsPainted() const;
 
-    // "*" where the arrow of the sort stands behind the titles, as "Up" or "Down".
+    // The picture of the arrow over a title; empty without one.
     QString SortPicture(std::size_t column) const;
     QString TitleText(std::size_t column) const;
 
@@ -50,6 +53,9 @@ protected:
 
     // Adds so many assignments, "A1" on.
     static void AddAssignments(int count);
+
+private:
+    QTimer dialogWatch;
 };
 
 // Runs the action as soon as a popup menu is open, and closes it behind it.

@@ -342,6 +342,14 @@ TEST_P(FullMode, IsIdleWhenItIsEntered) {
 INSTANTIATE_TEST_SUITE_P(Modes, FullMode, testing::ValuesIn(FullModes),
                          [](const auto& each) { return each.param.checked.front().toStdString(); });
 
+TEST_F(Modes, LoadEndsInCalendarModeOnToday) {
+    LoadWindow();
+    EXPECT_EQ(Checked(), QStringList{"Calendar"});
+    EXPECT_EQ(window->ModeCaption, "Calendar Mode");
+    EXPECT_EQ(window->ClickedDate, Today());
+    EXPECT_EQ(window->SelectedDate, Today());
+}
+
 TEST_F(Modes, StudySessionsEnteredFromHomework) {
     LoadWindow();
     Enter(Mode::Homework);

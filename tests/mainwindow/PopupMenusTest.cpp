@@ -48,7 +48,7 @@ TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheHomeworkList) {
     AddAssignments(3);
     window->ShowHomeworkMode();
     EXPECT_EQ(MenuOfClick(RowPoint(2), Qt::RightButton), HomeworkMenu);
-    EXPECT_EQ(HighlightedNumbers(), QStringList{});
+    EXPECT_EQ(Opened, QStringList{});
     EXPECT_EQ(MenuOfClick(RowPoint(9), Qt::RightButton), HomeworkMenu); // past the rows
     EXPECT_EQ(window->picGrid->mapFromGlobal(window->PopupPoint), RowPoint(9));
 }
@@ -136,6 +136,22 @@ TEST_F(PopupMenus, CommandsChangeTheMode) {
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
     MenuOfClick(Somewhere, Qt::RightButton, "See all assignments...");
     EXPECT_EQ(window->CurrentMode(), Mode::Homework);
+}
+
+TEST_F(PopupMenus, CommandsAskForNewItems) {
+    window->ShowCalendarMode();
+    MenuOfClick({30, 60}, Qt::RightButton, "Add new assignment...");
+    MenuOfClick({30, 60}, Qt::RightButton, "Add new task...");
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
+}
+
+TEST_F(PopupMenus, RowsOfADayMenuOpenTheirRecords) {
+    AddAssignments(3);
+    AddTaskRecord({.desc = "Call"});
+    window->ShowCalendarMode();
+    MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton, "(01:00 left)  Algebra - A2 ...");
+    MenuOfClick(IconPoint(CalendarIcon::Tasks), Qt::LeftButton, "(Not Done)  Call ...");
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - Edit Assignment: A2", "Planovarium - Edit Task: Call"}));
 }
 
 TEST_F(PopupMenus, ANewEventOfAMenuBeginsAtNine) {

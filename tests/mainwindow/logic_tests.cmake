@@ -9,5 +9,6 @@ target_sources(logic_tests PRIVATE
   mainwindow/PopupCaptionsTest.cpp
   mainwindow/StartupShortcutTest.cpp
   mainwindow/StudyTimerClockTest.cpp
+  mainwindow/TermStatusTest.cpp
   mainwindow/ViewMenuColorTest.cpp
 )

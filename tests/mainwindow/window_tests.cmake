@@ -11,10 +11,12 @@ target_sources(window_tests PRIVATE
   mainwindow/GridKeysTest.cpp
   mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
+  mainwindow/LargeCalendarTest.cpp
   mainwindow/ListGridTest.cpp
   mainwindow/ModesTest.cpp
   mainwindow/PopupMenusTest.cpp
   mainwindow/ProcessTest.cpp
+  mainwindow/RefreshViewTest.cpp
   mainwindow/SmallCalendarTest.cpp
   mainwindow/StatusPanelsTest.cpp
   mainwindow/StudyTimerTest.cpp

@@ -1,0 +1,202 @@
+// The refresh: which steps run for which reason in which mode, told by what they leave behind.
+#include "mainwindow/ModeTables.h"
+#include "support/StoreRecords.h"
+#include "support/WindowTest.h"
+
+#include <algorithm>
+
+using std::chrono::days;
+
+namespace {
+
+constexpr int Stale = 99; // a month that none is
+
+// Before each refresh the window is made to show what no step leaves behind.
+class Refresh : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        LoadWindow();
+        selected = Today() + days{2};
+        clicked = Today() + days{40};
+    }
+
+    void Enter(Mode mode) {
+        const std::array<QAction*, ModeCount> items{window->MenuHomework,      window->MenuCalendar,
+                                                    window->MenuStudySessions, window->MenuTasks,
+                                                    window->MenuEvents,        window->MenuReminders};
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            items[i]->setChecked(i == static_cast<std::size_t>(mode));
+        }
+    }
+
+    void MakeStale() {
+        window->SelectedDate = selected;
+        window->ClickedDate = clicked;
+        window->ShownMonth = Stale;
+        window->LabelMonth->setText("stale");
+        window->picGrid->DrawText(0, 0, "stale", {}, 0);
+        window->LabelTop->setText("stale");
+        window->ButtonAlert[LateAlert]->show(); // there is no late homework
+        window->TextBoxMinimum->setText("stale");
+        window->TextBoxSuggested->setText("stale");
+    }
+
+    // The steps by what they have left behind, each once: B the month of the selected day is built, b that of
+    // the clicked one, D that of today; L the layout has cleared the grid; F the fill has set the title; A
+    // the alerts, T the study time.
+    std::string StepsOf(std::string_view reason) {
+        MakeStale();
+        window->RefreshFor(reason);
+        EXPECT_EQ(window->RefreshReason, "None");
+        std::string steps;
+        if (window->LabelMonth->text() != "stale") {
+            EXPECT_EQ(window->SelectedDate, window->ClickedDate);
+            EXPECT_NE(window->ShownMonth, Stale);
+            steps += window->ClickedDate == selected ? "B" : window->ClickedDate == clicked ? "b" : "D";
+        } else {
+            EXPECT_EQ(window->ClickedDate, clicked);
+            EXPECT_EQ(window->ShownMonth, Stale);
+        }
+        steps += DrawnTexts(*window->picGrid).contains("stale") ? "" : "L";
+        steps += window->LabelTop->text() == "stale" ? "" : "F";
+        steps += window->ButtonAlert[LateAlert]->isHidden() ? "A" : "";
+        const bool study = window->TextBoxMinimum->text() != "stale";
+        EXPECT_EQ(study, window->TextBoxSuggested->text() != "stale");
+        steps += study ? "T" : "";
+        return steps;
+    }
+
+    // The cell of a day of October 2009.
+    std::size_t CellOf(int day) const {
+        const auto& cells = window->Month.CellDate;
+        const Date date{std::chrono::year{2009} / 10 / day};
+        return static_cast<std::size_t>(std::ranges::find(cells, date) - cells.begin());
+    }
+
+    static constexpr std::size_t LateAlert = 3;
+
+    Date selected{}, clicked{};
+};
+
+struct ReasonCase {
+    const char* name;
+    std::string_view reason;
+    std::array<std::string, ModeCount> steps; // in the order of Mode
+};
+
+class RefreshReasons : public Refresh, public testing::WithParamInterface<ReasonCase> {};
+
+} // namespace
+
+TEST_P(RefreshReasons, RunTheirStepsInEachMode) {
+    for (std::size_t i = 0; i < ModeCount; ++i) {
+        Enter(static_cast<Mode>(i));
+        EXPECT_EQ(StepsOf(GetParam().reason), GetParam().steps[i]) << "mode " << i;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Reasons, RefreshReasons,
+    testing::Values(
+        // Homework, Calendar, Study Sessions, Tasks, Events, Reminders
+        ReasonCase{"ModeChange", ReasonModeChange, {"BLFA", "BLFA", "BLF", "BLF", "BLFA", "DLFT"}},
+        ReasonCase{"ViewChange", ReasonViewChange, {"BLF", "BLF", "BLF", "BLF", "BLF", "BLFT"}},
+        ReasonCase{"Calendar", ReasonCalendar, {"bLF", "bLF", "bLF", "bLF", "bLF", "bLFT"}},
+        ReasonCase{"StartDayofWeek", ReasonStartDayOfWeek, {"B", "BLF", "B", "B", "B", "B"}},
+        ReasonCase{"NewRecord", ReasonNewRecord, {"BLFA", "BLFA", "BLF", "BLF", "BLFA", "BLFT"}},
+        ReasonCase{"NewTerm", ReasonNewTerm, {"BLFA", "BLFA", "BLF", "", "", ""}},
+        ReasonCase{"ColorChange", ReasonColorChange, {"LF", "LF", "LF", "LF", "LF", "LF"}},
+        ReasonCase{"Resize", ReasonResize, {"LF", "LF", "LF", "LF", "LF", "LF"}}),
+    [](const auto& each) { return each.param.name; });
+
+TEST_F(Refresh, AnyOtherReasonIsOnlyReset) {
+    Enter(Mode::Homework);
+    EXPECT_EQ(StepsOf("Something"), "");
+}
+
+TEST_F(Refresh, NothingRunsWhileNoModeIsChecked) {
+    Enter(Mode::None);
+    EXPECT_EQ(StepsOf(ReasonNewRecord), "");
+}
+
+TEST_F(Refresh, StudySessionsAndRemindersCountAsCalendarWhileItIsChecked) {
+    window->ShowStudySessionsMode();
+    EXPECT_EQ(StepsOf(ReasonNewRecord), "BLFA");
+    window->ShowCalendarMode();
+    window->ShowReminderMode();
+    EXPECT_EQ(StepsOf(ReasonNewRecord), "BLFA");
+}
+
+TEST_F(Refresh, RemindersShowTodayWhateverWasSelected) {
+    window->ShowTaskMode();
+    window->GoToDate(Today() + days{17});
+    window->ShowReminderMode();
+    EXPECT_EQ(window->ClickedDate, Today());
+    EXPECT_EQ(window->SelectedDate, Today());
+}
+
+TEST_F(Refresh, MonthIsMarkedAnewOnlyWhereTheReasonForcesIt) {
+    Enter(Mode::Calendar);
+    window->GoToDate(Today());
+    AddTaskRecord({.date = "2009/10/20"});
+    window->GoToDate(Today() + days{1});
+    EXPECT_FALSE(window->Month.CellMarked[CellOf(20)]) << "a day of the same month";
+    window->RefreshFor(ReasonNewRecord);
+    EXPECT_TRUE(window->Month.CellMarked[CellOf(20)]);
+}
+
+TEST_F(Refresh, CalendarPaintsTheMonthAsItIsWhenTheModeChanges) {
+    AddTaskRecord({.date = "2009/10/20"});
+    window->ShowHomeworkMode();
+    EXPECT_EQ(DrawnTexts(*window->picGrid).count("0 / 1"), 0);
+    window->ShowCalendarMode();
+    EXPECT_EQ(DrawnTexts(*window->picGrid).count("0 / 1"), 1);
+}
+
+TEST_F(Refresh, DayScheduleOpensAtTheMorning) {
+    window->ShowEventMode();
+    EXPECT_EQ(window->VSGridScroll->value(), 11);
+    EXPECT_EQ(window->FirstRow, 11);
+}
+
+TEST_F(Refresh, DayScheduleStaysWhereItIsBelowTheMorning) {
+    window->ShowEventMode();
+    window->VSGridScroll->setValue(15);
+    window->RefreshFor(ReasonModeChange);
+    EXPECT_EQ(window->VSGridScroll->value(), 15);
+    window->VSGridScroll->setValue(3);
+    window->RefreshFor(ReasonNewRecord);
+    EXPECT_EQ(window->VSGridScroll->value(), 3) << "only a mode change scrolls";
+}
+
+TEST_F(Refresh, ResizeOfTheWindowLaysTheListOutAgainAndBuildsNoMonth) {
+    window->ShowTaskMode();
+    MakeStale();
+    window->resize(window->width() + 100, window->height() + 60);
+    ASSERT_TRUE(WaitUntil([this] { return window->LabelTop->text() != "stale"; }));
+    EXPECT_FALSE(DrawnTexts(*window->picGrid).contains("stale"));
+    EXPECT_EQ(window->LabelMonth->text(), "stale");
+    EXPECT_EQ(window->ClickedDate, clicked);
+}
+
+TEST_F(Refresh, ResizeDuringARefreshIsLeftOut) {
+    window->ShowTaskMode();
+    MakeStale();
+    window->RefreshReason = ReasonNewRecord;
+    window->resize(window->width() + 100, window->height());
+    QTest::qWait(0);
+    EXPECT_EQ(window->LabelTop->text(), "stale");
+    EXPECT_EQ(window->RefreshReason, ReasonNewRecord);
+}
+
+TEST_F(Refresh, MinimizedWindowIsLaidOutOnlyWhenItComesBack) {
+    window->ShowTaskMode();
+    window->showMinimized();
+    QCoreApplication::processEvents();
+    MakeStale();
+    window->RefreshAfterResize();
+    EXPECT_EQ(window->LabelTop->text(), "stale");
+    window->showNormal();
+    ASSERT_TRUE(WaitUntil([this] { return window->LabelTop->text() != "stale"; }));
+}
