@@ -3,6 +3,8 @@
 
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
+#include <QStringList>
 #include <QTime>
 
 #include <array>
@@ -39,26 +41,39 @@ QDate ToQDate(Date date) {
                  static_cast<int>(static_cast<unsigned>(parts.day())));
 }
 
-// The locale's short pattern with four digits of the year.
-QString ShortPattern(const QLocale& locale) {
-    QString pattern = locale.dateFormat(QLocale::ShortFormat);
-    if (!pattern.contains(QLatin1String("yyyy"))) {
-        pattern.replace(QLatin1String("yy"), QLatin1String("yyyy"));
+// The fields of the locale's short pattern, in their order: 'd', 'M' and 'y'.
+QString ShortFields(const QString& pattern) {
+    QString fields;
+    for (const QChar character : pattern) {
+        if (QLatin1String("dMy").contains(character) && !fields.contains(character)) {
+            fields.append(character);
+        }
     }
-    return pattern;
+    return fields;
+}
+
+// The locale's short pattern in a form that reads back: four digits of the year, and nothing between the
+// fields or around them but the separator. Some locales add blanks, words, marks of direction or a point at
+// the end.
+QString ShortPattern(const QLocale& locale) {
+    const QString pattern = locale.dateFormat(QLocale::ShortFormat);
+    QStringList fields;
+    for (const QChar field : ShortFields(pattern)) {
+        const bool padded = pattern.count(field) > 1;
+        fields.append(field == QLatin1Char('y') ? QString(4, field) : QString(padded ? 2 : 1, field));
+    }
+    const QRegularExpressionMatch separator = QRegularExpression(QStringLiteral("[/.-]")).match(pattern);
+    return fields.join(separator.hasMatch() ? separator.captured() : QStringLiteral("/"));
 }
 
 } // namespace
 
 DateOrder LocaleDateOrder() {
-    const QString pattern = UserLocale().dateFormat(QLocale::ShortFormat);
-    const qsizetype dayAt = pattern.indexOf(QLatin1Char('d'));
-    const qsizetype monthAt = pattern.indexOf(QLatin1Char('M'));
-    const qsizetype yearAt = pattern.indexOf(QLatin1Char('y'));
-    if (yearAt < monthAt && yearAt < dayAt) {
+    const QString fields = ShortFields(UserLocale().dateFormat(QLocale::ShortFormat));
+    if (fields.startsWith(QLatin1Char('y'))) {
         return DateOrder::YearMonthDay;
     }
-    return dayAt < monthAt ? DateOrder::DayMonthYear : DateOrder::MonthDayYear;
+    return fields.startsWith(QLatin1Char('d')) ? DateOrder::DayMonthYear : DateOrder::MonthDayYear;
 }
 
 ScreenText FormatDate(Date date, std::string_view form) {
@@ -68,7 +83,7 @@ ScreenText FormatDate(Date date, std::string_view form) {
         return {locale.toString(day, QLocale::LongFormat).toStdString()};
     }
     if (form == "Short Date") {
-        return {locale.toString(day, ShortPattern(locale)).toStdString()};
+        return {QLocale::c().toString(day, ShortPattern(locale)).toStdString()}; // ASCII digits
     }
     for (const DateForm& known : DateForms) {
         if (known.name == form) {
