@@ -80,10 +80,6 @@ std::string MarkIf(bool shown, std::string_view mark) {
     return shown ? std::string(mark) + " " : std::string{};
 }
 
-std::string OrElse(const std::string& text, std::string_view instead) {
-    return text.empty() ? std::string(instead) : text;
-}
-
 std::string WithoutBlanks(std::string text) {
     std::erase(text, ' ');
     return text;

@@ -25,7 +25,9 @@ struct Span {
 };
 
 // What a monthly or yearly series makes of the month so many months behind that of its first date. The
-// weekday of a rank is that of the text of `repeat_day`; EventOccursOn takes it from the first date.
+// weekday of a rank is that of the text of `repeat_day`, where EventOccursOn takes it from the first date;
+// and the first to the fourth day of a month are the day number of the first date, where EventOccursOn takes
+// them by their word. Both differences are meant.
 Date Candidate(const SeriesRule& rule, Date first, int addedMonths) {
     const bool lastOfMonth = rule.countsDays && rule.rank == Rank::Last;
     if (rule.sameDate || (rule.countsDays && !lastOfMonth)) {

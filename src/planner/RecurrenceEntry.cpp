@@ -2,23 +2,14 @@
 #include "planner/RecurrenceEntry.h"
 
 #include "planner/DateHelpers.h"
+#include "planner/SeriesRule.h"
 
-#include <array>
 #include <string>
 
 namespace {
 
-constexpr int DaysInWeek = 7;
-constexpr std::array<std::string_view, 5> RankNumbers{"First", "Second", "Third", "Fourth", "Last"};
-constexpr std::array<std::string_view, DaysInWeek> WeekdayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
-                                                                "Thursday", "Friday", "Saturday"};
-
 int DayNumber(Date date) {
     return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day{date}.day()));
-}
-
-bool IsLastOfMonth(Date date) {
-    return DayNumber(date + std::chrono::days{1}) == 1;
 }
 
 ScreenText Caption(const std::string& day, const std::string& period) {
@@ -28,11 +19,11 @@ ScreenText Caption(const std::string& day, const std::string& period) {
 } // namespace
 
 RankOfDate RankOf(Date date) {
-    if (IsLastOfMonth(date)) {
-        return {"Last", "Day"};
+    if (date == LastDayOf(MonthOf(date))) {
+        return {RankTexts.back(), DayOfMonthText};
     }
-    return {RankNumbers.at(static_cast<std::size_t>((DayNumber(date) - 1) / DaysInWeek)),
-            WeekdayNames.at(static_cast<std::size_t>(WeekdayNumber(date) - 1))};
+    return {RankTexts.at(static_cast<std::size_t>((DayNumber(date) - 1) / DaysInWeek)),
+            WeekdayTexts.at(static_cast<std::size_t>(WeekdayNumber(date) - 1))};
 }
 
 std::string_view OrdinalSuffix(int dayNumber) {

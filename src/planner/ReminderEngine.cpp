@@ -112,8 +112,7 @@ bool ItemStands(const ItemReminderLists& items, int position, Scan& scan, bool& 
 
 ReminderRow ItemRow(const ItemReminderLists& items, int position, std::string_view mode,
                     std::string_view newName) {
-    const std::string& desc = items.desc.Item(position);
-    return {items.id.Item(position), mode, desc.empty() ? std::string(newName) : desc};
+    return {items.id.Item(position), mode, OrElse(items.desc.Item(position), newName)};
 }
 
 void TellDay(ReminderRow& row, const std::string& date, const Scan& scan) {
@@ -228,9 +227,8 @@ void CheckEvents(Scan& scan) {
         const Moment moment = MomentOfEvent(index);
         const std::int64_t away = (floor<minutes>(moment) - floor<minutes>(scan.now)).count();
         const std::string& type = events.type.Item(index);
-        const std::string& desc = events.desc.Item(index);
         AppendRow(scan,
-                  {events.id.Item(index), EventMode, desc.empty() ? std::string(NewEventText(type)) : desc,
+                  {events.id.Item(index), EventMode, OrElse(events.desc.Item(index), NewEventText(type)),
                    MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
                    EventTypeLook(type)});
     }

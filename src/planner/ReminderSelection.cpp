@@ -49,10 +49,6 @@ void AddRow(ReminderRow row, const RowLook& look, Date day) {
     ReminderRowBackColor.Add(look.backcolor);
 }
 
-std::string OrElse(const std::string& text, std::string_view other) {
-    return text.empty() ? std::string(other) : text;
-}
-
 bool IsDue(Date date, std::string_view reminder, Date day) {
     return date - std::chrono::days{LeadDays(reminder)} <= day;
 }

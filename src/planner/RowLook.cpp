@@ -58,6 +58,10 @@ RowLook EventTypeLook(std::string_view type) {
     return TypeLook("Event", type);
 }
 
+std::string OrElse(const std::string& text, std::string_view other) {
+    return text.empty() ? std::string(other) : text;
+}
+
 std::string_view NewEventText(std::string_view type) {
     if (IsClassMeeting(type)) {
         return "Class";

@@ -35,6 +35,9 @@ RowLook TaskTypeLook(std::string_view type);
 // term. A type that is not in the table, "None" among them, has no name.
 RowLook EventTypeLook(std::string_view type);
 
+// The text, or the other one where it is empty.
+std::string OrElse(const std::string& text, std::string_view other);
+
 // What stands for an empty description.
 inline constexpr std::string_view NewAssignmentText = "New Assignment";
 inline constexpr std::string_view NewTaskText = "New Task";

@@ -6,60 +6,27 @@
 #include "planner/DateHelpers.h"
 
 #include <algorithm>
-#include <array>
-#include <utility>
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Recurrence>, 4> RecurrenceTexts{{
-    {"None", Recurrence::None},
-    {"Day", Recurrence::Day},
-    {"Month", Recurrence::Month},
-    {"Year", Recurrence::Year},
-}};
-
-constexpr std::array<std::pair<std::string_view, Rank>, 5> RankTexts{{
-    {"First", Rank::First},
-    {"Second", Rank::Second},
-    {"Third", Rank::Third},
-    {"Fourth", Rank::Fourth},
-    {"Last", Rank::Last},
-}};
-
-constexpr std::array<std::pair<std::string_view, int>, 6> WeekdayTexts{{
-    {"Sunday", 1},
-    {"Monday", 2},
-    {"Tuesday", 3},
-    {"Wednesday", 4},
-    {"Thursday", 5},
-    {"Friday", 6},
-}};
-
-constexpr int AnyOtherWeekday = 7;
-
-template <class Value, std::size_t Count>
-Value Listed(const std::array<std::pair<std::string_view, Value>, Count>& table, std::string_view text,
-             Value anyOther) {
-    for (const auto& [listed, value] : table) {
-        if (listed == text) {
-            return value;
-        }
-    }
-    return anyOther;
+// The place of the text in the table from 0, or the table's size where it does not stand there.
+template <std::size_t Count>
+int PlaceIn(const std::array<std::string_view, Count>& table, std::string_view text) {
+    return static_cast<int>(std::ranges::find(table, text) - table.begin());
 }
 
 } // namespace
 
 Recurrence RecurrenceIn(std::string_view text) {
-    return Listed(RecurrenceTexts, text, Recurrence::Unlisted);
+    return static_cast<Recurrence>(PlaceIn(RecurrenceTexts, text));
 }
 
 Rank RankIn(std::string_view text) {
-    return Listed(RankTexts, text, Rank::Unlisted);
+    return static_cast<Rank>(PlaceIn(RankTexts, text));
 }
 
 int WeekdayIn(std::string_view text) {
-    return Listed(WeekdayTexts, text, AnyOtherWeekday);
+    return std::min(PlaceIn(WeekdayTexts, text) + 1, DaysInWeek);
 }
 
 unsigned WeekdaysIn(std::string_view pattern) {
@@ -91,7 +58,7 @@ SeriesRule ReadSeriesRule(int index) {
     rule.sameDate = IsTrue(events.same_date.Item(index));
     if (!rule.sameDate) {
         rule.rank = RankIn(events.repeat_number.Item(index));
-        rule.countsDays = events.repeat_day.Item(index) == "Day";
+        rule.countsDays = events.repeat_day.Item(index) == DayOfMonthText;
         rule.weekday = WeekdayIn(events.repeat_day.Item(index));
     }
     return rule;

@@ -3,16 +3,31 @@
 
 #include "platform/Clock.h"
 
+#include <array>
 #include <string_view>
 
 inline constexpr int DaysInWeek = 7;
 inline constexpr int MonthsInYear = 12;
+
+// The texts of `recurrence` and of `repeat_number`, in the order of the two enums below.
+inline constexpr std::array<std::string_view, 4> RecurrenceTexts{"None", "Day", "Month", "Year"};
+inline constexpr std::array<std::string_view, 5> RankTexts{"First", "Second", "Third", "Fourth", "Last"};
+
+// The texts of `repeat_day` that name a weekday; the first has the weekday number 1.
+inline constexpr std::array<std::string_view, DaysInWeek> WeekdayTexts{
+    "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+
+// The text of `repeat_day` where the days of the month are counted.
+inline constexpr std::string_view DayOfMonthText = "Day";
 
 // What `recurrence` says. A weekly event is a Day with some of the days of the week set.
 enum class Recurrence { None, Day, Month, Year, Unlisted };
 
 // What `repeat_number` says.
 enum class Rank { First, Second, Third, Fourth, Last, Unlisted };
+
+static_assert(RecurrenceTexts.size() == static_cast<std::size_t>(Recurrence::Unlisted));
+static_assert(RankTexts.size() == static_cast<std::size_t>(Rank::Unlisted));
 
 struct SeriesRule {
     Recurrence recurrence = Recurrence::None;
