@@ -3,6 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
+namespace {
+
+std::string Joined(std::span<const std::string_view> rows) {
+    std::string text;
+    for (const std::string_view row : rows) {
+        text += (text.empty() ? "" : ", ") + std::string(row);
+    }
+    return text;
+}
+
+} // namespace
+
 TEST(ComboRowTables, OfEstimatesHaveQuartersThenHours) {
     const auto rows = EstimateRows();
     const std::array<std::string, 27> expected{
@@ -24,13 +38,22 @@ TEST(ComboRowTables, OfTimesRunThroughTheDayByQuarters) {
     EXPECT_EQ(rows[95], "11:45 PM");
 }
 
-TEST(ComboRowTables, OfDurationsAndLeadTimesDifferAtFortyFiveMinutes) {
-    EXPECT_EQ(DurationRows[3], "45 Minutes");
-    EXPECT_EQ(DurationRows[2], "30 Minutes");
-    EXPECT_EQ(DurationRows.back(), "8 Hours");
-    EXPECT_EQ(LeadTimeRows[2], "30 Minutes");
-    EXPECT_EQ(LeadTimeRows[3], "1 Hour");
-    EXPECT_EQ(LeadTimeRows.back(), "3 Days");
-    EXPECT_EQ(SnoozeRows.front(), "5 Minutes");
-    EXPECT_EQ(SnoozeRows.back(), "3 Days");
+TEST(ComboRowTables, OfDurationsAreTheOnlyOnesWithFortyFiveMinutes) {
+    EXPECT_EQ(Joined(DurationRows),
+              "0 Minutes, 15 Minutes, 30 Minutes, 45 Minutes, 1 Hour, 1.5 Hours, 2 Hours, 2.5 Hours, "
+              "3 Hours, 3.5 Hours, 4 Hours, 5 Hours, 6 Hours, 7 Hours, 8 Hours");
+}
+
+TEST(ComboRowTables, OfLeadTimesReachFromNothingToThreeDays) {
+    EXPECT_EQ(Joined(LeadTimeRows),
+              "0 Minutes, 15 Minutes, 30 Minutes, 1 Hour, 1.5 Hours, 2 Hours, 2.5 Hours, 3 Hours, "
+              "3.5 Hours, 4 Hours, 5 Hours, 6 Hours, 7 Hours, 8 Hours, 9 Hours, 12 Hours, 18 Hours, 1 Day, "
+              "2 Days, 3 Days");
+}
+
+TEST(ComboRowTables, OfSnoozesReachFromFiveMinutesToThreeDays) {
+    EXPECT_EQ(Joined(SnoozeRows),
+              "5 Minutes, 15 Minutes, 30 Minutes, 1 Hour, 1.5 Hours, 2 Hours, 2.5 Hours, 3 Hours, "
+              "3.5 Hours, 4 Hours, 5 Hours, 6 Hours, 7 Hours, 8 Hours, 9 Hours, 12 Hours, 18 Hours, 1 Day, "
+              "2 Days, 3 Days");
 }

@@ -89,10 +89,14 @@ TEST_F(Walk, OfASingleEventTakesBothEndsOfTheRange) {
 TEST_F(Walk, SkipsASeriesThatBeginsAfterOrEndsBeforeTheRange) {
     EventTexts series{.date = "2009/10/22", .recurrence = "Day", .repeat_daily = "TTTTTTT"};
     EXPECT_EQ(DatesOf(series, Date{2009y / 10 / 14}, "Week"), Texts{});
+    series.date = "2009/10/21";
+    EXPECT_EQ(DatesOf(series, Date{2009y / 10 / 14}, "Week"), Texts{"2009/10/21"});
     series.date = "2009/09/01";
     series.end = "True";
     series.end_date = "2009/10/13";
     EXPECT_EQ(DatesOf(series, Date{2009y / 10 / 14}, "Week"), Texts{});
+    series.end_date = "2009/10/14";
+    EXPECT_EQ(DatesOf(series, Date{2009y / 10 / 14}, "Week"), Texts{"2009/10/14"});
     series.end_date = "2009/10/15";
     EXPECT_EQ(DatesOf(series, Date{2009y / 10 / 14}, "Week"), (Texts{"2009/10/14", "2009/10/15"}));
 }
