@@ -24,10 +24,10 @@ Date Clamped(year_month_day date) {
     return date.ok() ? Date{date} : Date{date.year() / date.month() / last};
 }
 
-// The last two digits of the number behind a "0".
+// The last two characters of the number behind a "0".
 std::string TwoDigits(int number) {
-    const std::string text = "0" + std::to_string(number);
-    return text.substr(text.size() - 2);
+    std::string digits = std::to_string(number);
+    return digits.size() < 2 ? "0" + digits : digits.erase(0, digits.size() - 2);
 }
 
 } // namespace

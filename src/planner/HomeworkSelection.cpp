@@ -9,6 +9,7 @@
 #include "planner/RowLook.h"
 #include "planner/StudyLog.h"
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -16,7 +17,6 @@ namespace {
 
 void ClearRows() {
     HomeworkRows.Clear();
-    RowClass.Clear();
     RowForeColor.Clear();
     RowBackColor.Clear();
     RowTimeLeft.Clear();
@@ -32,28 +32,37 @@ Date RangeDay(const ListFilter& filter) {
     return filter.comboDateRange == "Day" ? filter.clickedDate : AllDates;
 }
 
-// Gives each of HomeworkRows the name and colours of its class. A row whose class has gone takes those of the
-// row after it, and the last one an empty name, black on white; that is meant.
-void AddClassLooks() {
+// The position of each row's class in the store. A row whose class has gone takes that of the row after it,
+// and the last one none; that is meant.
+std::vector<int> ClassOfRows() {
     const ClassPositions classes = ClassPositionsById();
     std::vector<int> positions;
+    positions.reserve(HomeworkRows.values.size());
     for (const int row : HomeworkRows) {
         positions.push_back(ClassPositionOf(classes, Store.Assignment.class_.Item(row)));
     }
-    for (std::size_t row = positions.size(); row-- > 0;) {
-        const bool last = row + 1 == positions.size();
-        if (positions[row] == 0 && !last) {
-            positions[row] = positions[row + 1];
+    for (std::size_t row = positions.size(); row-- > 1;) {
+        if (positions[row - 1] == 0) {
+            positions[row - 1] = positions[row];
         }
     }
-    std::unordered_map<int, RowLook> looks; // of the positions met so far
-    for (const int position : positions) {
-        const auto known = looks.find(position);
-        const RowLook& look =
-            known != looks.end() ? known->second : looks.emplace(position, ClassLook(position)).first->second;
-        RowClass.Add(look.name);
-        RowForeColor.Add(look.forecolor);
-        RowBackColor.Add(look.backcolor);
+    return positions;
+}
+
+// Gives each of HomeworkRows the name and colours of its class. The names are written over those of the last
+// selection, which spares a term of homework as many allocations.
+void AddClassLooks() {
+    const std::vector<int> positions = ClassOfRows();
+    std::vector<std::optional<RowLook>> looks(static_cast<std::size_t>(Store.ClassRecord.id.Count()) + 1);
+    RowClass.values.resize(positions.size());
+    for (std::size_t row = 0; row < positions.size(); ++row) {
+        std::optional<RowLook>& look = looks[static_cast<std::size_t>(positions[row])];
+        if (!look) {
+            look = ClassLook(positions[row]);
+        }
+        RowClass.values[row] = look->name;
+        RowForeColor.Add(look->forecolor);
+        RowBackColor.Add(look->backcolor);
     }
 }
 

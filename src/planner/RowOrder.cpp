@@ -2,18 +2,24 @@
 #include "planner/RowOrder.h"
 
 #include <algorithm>
-#include <functional>
 #include <string>
 
 namespace {
 
+// Below, at or above 0 as the first key sorts before, with or after the second.
+int CompareKeys(double first, double second) {
+    return static_cast<int>(first > second) - static_cast<int>(first < second);
+}
+
+int CompareKeys(std::string_view first, std::string_view second) {
+    return first.compare(second);
+}
+
 template <class Key>
 RowOrder OrderOf(std::vector<KeyedRow<Key>>& rows, int direction) {
-    if (direction == Descending) {
-        std::ranges::stable_sort(rows, std::ranges::greater{}, &KeyedRow<Key>::key);
-    } else {
-        std::ranges::stable_sort(rows, std::ranges::less{}, &KeyedRow<Key>::key);
-    }
+    std::ranges::stable_sort(rows, [direction](const KeyedRow<Key>& a, const KeyedRow<Key>& b) {
+        return direction == Descending ? CompareKeys(a.key, b.key) > 0 : CompareKeys(a.key, b.key) < 0;
+    });
     RowOrder order;
     order.reserve(rows.size());
     for (const KeyedRow<Key>& row : rows) {
