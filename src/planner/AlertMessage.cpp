@@ -17,9 +17,8 @@ constexpr std::string_view HowToSchedule =
     "- Click OK\r\n"
     "\r\n"
     "When you have scheduled enough Study Time to finish all of your assignments, the Study Time Alert "
-    "button "
-    "will disappear. For details on how Study Time is calculated, select the 'Help' option from the 'Help "
-    "Menu'.";
+    "button will disappear. For details on how Study Time is calculated, select the 'Help' option from the "
+    "'Help Menu'.";
 
 constexpr std::string_view HowToFinish = "- Open the assignment\r\n"
                                          "- Click the 'Done' checkbox at the bottom\r\n"
@@ -44,10 +43,8 @@ constexpr std::string_view LateText =
     "Remember to mark your assignments as 'Done' when you have finished them.\r\n"
     "\r\n"
     "Unfinished assignments appear in red in Calendar mode. You can also find unfinished assignments in "
-    "Homework "
-    "mode. Click on the 'Due' column in the Homework List to sort assignments by Due date. When you have "
-    "finished "
-    "an assignment:\r\n"
+    "Homework mode. Click on the 'Due' column in the Homework List to sort assignments by Due date. When "
+    "you have finished an assignment:\r\n"
     "\r\n";
 
 std::string StudyTimeAlertText() {

@@ -57,7 +57,7 @@ std::string ValidateEstimate(std::string_view text) {
     const double typedMinutes = NumberIn(text.substr(colon + 1)).value_or(FallbackMinutes);
     const int hours = typedHours > GreatestHours ? GreatestHours : static_cast<int>(typedHours);
     const int minutes = typedMinutes > GreatestMinutes ? 0 : static_cast<int>(typedMinutes);
-    return SpacedClock(hours == 0 && minutes == 0 ? 1 : hours * 60 + minutes);
+    return SpacedClock(hours == 0 && minutes == 0 ? 1 : hours * MinutesPerHour + minutes);
 }
 
 std::string UpdateTimeLeft(bool finished, std::string_view estimate, std::string_view percent) {

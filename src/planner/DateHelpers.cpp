@@ -17,9 +17,6 @@ using std::chrono::year;
 using std::chrono::year_month_day;
 using std::chrono::years;
 
-constexpr int MinutesPerHour = 60;
-constexpr int MinutesPerDay = 1440;
-
 Date Clamped(year_month_day date) {
     return date.ok() ? Date{date} : Date{date.year() / date.month() / last};
 }

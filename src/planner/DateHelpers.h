@@ -9,6 +9,9 @@
 // Passed to a selection in place of a date, it means no date filter: 1953-08-12.
 inline constexpr Date AllDates{std::chrono::year{1953} / 8 / 12};
 
+inline constexpr int MinutesPerHour = 60;
+inline constexpr int MinutesPerDay = 24 * MinutesPerHour;
+
 // Number of days of the month. The last day of a month is day 0 of the following one, so month 13 is allowed
 // and is January of the next year.
 int DaysInMonth(int year, int month);

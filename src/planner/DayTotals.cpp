@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int MinutesPerHour = 60;
-
 // The classes of any term with the id in the link, where the link names the active term.
 int LinkedClasses(std::string_view type) {
     const std::optional<ClassLink> link = IsClassMeeting(type) ? ClassLinkIn(type) : std::nullopt;

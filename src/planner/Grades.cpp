@@ -17,7 +17,6 @@ namespace {
 constexpr std::string_view LowestLetter = "E";
 constexpr std::string_view NoGrade = "0";
 constexpr int TotalRow = 1;
-constexpr int MinutesPerHour = 60;
 
 constexpr GPALabels TotalLabels{
     "Total Credits:", "GPA:", "Letter Grade:", "Total Assignments:", "Total Study Time:"};

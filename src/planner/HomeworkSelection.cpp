@@ -50,9 +50,10 @@ std::vector<int> ClassOfRows() {
 }
 
 // Gives each of HomeworkRows the name and colours of its class. The names are written over those of the last
-// selection, which spares a term of homework as many allocations.
+// selection, which spares their allocation.
 void AddClassLooks() {
     const std::vector<int> positions = ClassOfRows();
+    // Of the classes met so far, by their positions.
     std::vector<std::optional<RowLook>> looks(static_cast<std::size_t>(Store.ClassRecord.id.Count()) + 1);
     RowClass.values.resize(positions.size());
     for (std::size_t row = 0; row < positions.size(); ++row) {

@@ -1,12 +1,11 @@
 // The words of the reminder list.
 #include "planner/ReminderPhrases.h"
 
+#include "planner/DateHelpers.h"
+
 #include <cstdlib>
 
 namespace {
-
-constexpr std::int64_t MinutesPerHour = 60;
-constexpr std::int64_t MinutesPerDay = 1440;
 
 std::string Hours(std::int64_t minutes) {
     return minutes < 2 * MinutesPerHour ? "1 Hour" : std::to_string(minutes / MinutesPerHour) + " Hours";

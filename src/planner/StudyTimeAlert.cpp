@@ -18,8 +18,6 @@ std::string AlertBefore;
 
 namespace {
 
-constexpr int MinutesPerHour = 60;
-
 struct OpenHomework {
     int position; // in the store
     int daysAhead;

@@ -8,6 +8,7 @@
 #include "core/Values.h"
 #include "planner/DateHelpers.h"
 #include "planner/EventOccursOn.h"
+#include "planner/SeriesRule.h"
 
 #include <algorithm>
 #include <bit>
@@ -19,7 +20,6 @@ namespace {
 
 using std::chrono::days;
 
-constexpr std::size_t DaysInWeek = 7;
 constexpr double SecondsPerMinute = 60;
 constexpr double SecondsPerDay = 86400;
 

@@ -26,8 +26,7 @@ TEST(AlertMessages, OfStudyTimeTellWhenHowMuchAndHow) {
     ExpectAlert(
         StudyTimeAlert, "Study Time Alert", "Planovarium - Study Time Alert",
         "You have not scheduled enough Study Time to finish homework due Friday, Oct 16. You need to "
-        "schedule "
-        "at least 30 minutes more Study Time before then.\r\n\r\n"
+        "schedule at least 30 minutes more Study Time before then.\r\n\r\n"
         "Study Time can be scheduled in Calendar Mode or Event Mode. To schedule Study Time:\r\n\r\n"
         "- Create a new event\r\n- In the 'Type' Menu select 'Study Time'\r\n"
         "- Select the 'Date', 'Time' and 'Length' of time you will study\r\n- Click OK\r\n\r\n"

@@ -213,6 +213,15 @@ TEST_F(GradePointAverage, JustBelowAStepHasTheNextLetter) {
     EXPECT_EQ(BuildGPATable(Plain).GPAPercents.Item(1), "3.95");
 }
 
+// Credits below nothing can only come from a file.
+TEST_F(GradePointAverage, IsAnAAtExactlyFourAndNotAboveIt) {
+    AddGradedClass("1", "95", "3");
+    AddGradedClass("2", "50", "-1");
+    EXPECT_EQ(BuildGPATable(Chroma).GPAPercents.Item(1), "6.00");
+    EXPECT_EQ(BuildGPATable(Chroma).GPALetters.Item(1), "A-");
+    EXPECT_EQ(BuildGPATable(Plain).GPALetters.Item(1), "B");
+}
+
 TEST_F(GradePointAverage, AboveNothingAndBelowTheLowestStepIsAnE) {
     AddGradedClass("1", "60", "1");
     AddGradedClass("2", "10", "1"); // 0.35 and 0.50

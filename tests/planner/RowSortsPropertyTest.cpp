@@ -1,4 +1,4 @@
-// The sorts against a bubble sort by full passes, on random rows with random columns and directions.
+// The sorts against a bubble sort by full passes, on random rows by every column both ways.
 #include "core/DateText.h"
 #include "core/Values.h"
 #include "planner/DateHelpers.h"
@@ -37,17 +37,13 @@ std::string Or(const std::string& text, const std::string& replaced, const std::
     return text == replaced ? by : text;
 }
 
-// The rows, numbered from 1, in the order to which passes over neighbours lead.
-template <class ValueOfRow>
-Numbers BubbleSorted(int count, int direction, ValueOfRow valueOfRow) {
-    Numbers rows;
-    for (int row = 1; row <= count; ++row) {
-        rows.push_back(row);
-    }
+// The rows in the order to which passes over neighbours lead. The values are those of the rows from 1 on.
+Numbers BubbleSorted(Numbers rows, int direction, const std::vector<Value>& values) {
+    const auto value = [&values](int row) { return values[static_cast<std::size_t>(row) - 1]; };
     for (bool swapped = true; swapped;) {
         swapped = false;
         for (std::size_t i = 0; i + 1 < rows.size(); ++i) {
-            const int order = Compare(valueOfRow(rows[i], direction), valueOfRow(rows[i + 1], direction));
+            const int order = Compare(value(rows[i]), value(rows[i + 1]));
             if (direction == Ascending ? order > 0 : order < 0) {
                 std::swap(rows[i], rows[i + 1]);
                 swapped = true;
@@ -55,6 +51,25 @@ Numbers BubbleSorted(int count, int direction, ValueOfRow valueOfRow) {
         }
     }
     return rows;
+}
+
+// Sorts by one column after another, and by one before and one behind them that are none, both ways, and each
+// time from the order that the last sort has left. The colours show that the other lists go along.
+template <class Sort, class ValueOfRow>
+void CheckSorts(int columns, const NumberList& rows, const NumberList& colors, Sort sort,
+                ValueOfRow valueOfRow) {
+    for (int column = 0; column <= columns + 1; ++column) {
+        for (const int direction : {Ascending, Descending}) {
+            std::vector<Value> values;
+            for (int row = 1; row <= rows.Count(); ++row) {
+                values.push_back(valueOfRow(column, row, direction));
+            }
+            const Numbers wanted = BubbleSorted(rows.values, direction, values);
+            sort({column, direction});
+            RC_ASSERT(rows.values == wanted);
+            RC_ASSERT(colors.values == wanted);
+        }
+    }
 }
 
 std::string RandomText() {
@@ -76,15 +91,11 @@ std::string RandomClock() {
     return MinutesToClock(*rc::gen::inRange(0, 130)) + *rc::gen::element<std::string>("", "  1", " 59");
 }
 
-SortOrder RandomOrder(int columns) {
-    return {*rc::gen::inRange(0, columns + 2), *rc::gen::element(Ascending, Descending)};
-}
-
 int RandomCount() {
     return *rc::gen::element(0, 1, 2, 3, 10, 40);
 }
 
-Value HomeworkValue(int column, int row) {
+Value HomeworkValue(int column, int row, int) {
     const AssignmentLists& store = Store.Assignment;
     const std::string& grade = store.grade.Item(row);
     switch (column) {
@@ -111,7 +122,7 @@ Value HomeworkValue(int column, int row) {
     }
 }
 
-Value StudyValue(int column, int row) {
+Value StudyValue(int column, int row, int) {
     const AssignmentLists& store = Store.Assignment;
     const StudySessionLists& log = Store.StudySessionRecord;
     switch (column) {
@@ -245,12 +256,7 @@ TEST_F(RandomRowSorts, OfHomeworkAreThoseOfABubbleSort) {
         for (int row = 1; row <= count; ++row) {
             AddHomeworkRow(RandomHomework(), "class " + std::to_string(row % 3));
         }
-        const SortOrder order = RandomOrder(9);
-        SortHomeworkRows(order);
-        RC_ASSERT(HomeworkRows.values == BubbleSorted(count, order.direction, [&](int row, int) {
-                      return HomeworkValue(order.column, row);
-                  }));
-        RC_ASSERT(RowForeColor.values == HomeworkRows.values);
+        CheckSorts(9, HomeworkRows, RowForeColor, SortHomeworkRows, HomeworkValue);
     }));
 }
 
@@ -261,11 +267,7 @@ TEST_F(RandomRowSorts, OfStudySessionsAreThoseOfABubbleSort) {
         for (int row = 1; row <= count; ++row) {
             AddStudyRow(RandomHomework(), "class " + std::to_string(row % 3), RandomClock(), RandomDate());
         }
-        const SortOrder order = RandomOrder(7);
-        SortStudyRows(order);
-        RC_ASSERT(StudyRowTime.values == BubbleSorted(count, order.direction, [&](int row, int) {
-                      return StudyValue(order.column, row);
-                  }));
+        CheckSorts(7, StudyRowTime, RowForeColor, SortStudyRows, StudyValue);
         RC_ASSERT(HomeworkRows.values == StudyRowTime.values);
     }));
 }
@@ -277,12 +279,7 @@ TEST_F(RandomRowSorts, OfTasksAreThoseOfABubbleSort) {
         for (int row = 1; row <= count; ++row) {
             AddRandomTask();
         }
-        const SortOrder order = RandomOrder(6);
-        SortTaskRows(order);
-        RC_ASSERT(TaskRows.values == BubbleSorted(count, order.direction, [&](int row, int direction) {
-                      return TaskValue(order.column, row, direction);
-                  }));
-        RC_ASSERT(TaskRowForeColor.values == TaskRows.values);
+        CheckSorts(6, TaskRows, TaskRowForeColor, SortTaskRows, TaskValue);
     }));
 }
 
@@ -293,12 +290,7 @@ TEST_F(RandomRowSorts, OfEventsAreThoseOfABubbleSort) {
         for (int row = 1; row <= count; ++row) {
             AddRandomEvent();
         }
-        const SortOrder order = RandomOrder(5);
-        SortEventRows(order);
-        RC_ASSERT(EventRows.values == BubbleSorted(count, order.direction, [&](int row, int direction) {
-                      return EventValue(order.column, row, direction);
-                  }));
-        RC_ASSERT(EventRowForeColor.values == EventRows.values);
+        CheckSorts(5, EventRows, EventRowForeColor, SortEventRows, EventValue);
     }));
 }
 
@@ -309,14 +301,12 @@ TEST_F(RandomRowSorts, OfEventsByDurationAreThoseOfABubbleSort) {
         for (int row = 1; row <= count; ++row) {
             AddRandomEvent();
         }
-        const int direction = *rc::gen::element(Ascending, Descending);
-        SortEventRowsByDuration(direction);
-        RC_ASSERT(
-            EventRows.values == BubbleSorted(count, direction, [](int row, int) {
-                const std::string& duration = Store.EventRecord.duration.Item(row);
-                const double unit = duration.ends_with("Day") ? 1440 : duration.ends_with("Minutes") ? 1 : 60;
-                return Number(std::stod(duration) * unit);
-            }));
+        const auto sort = [](SortOrder order) { SortEventRowsByDuration(order.direction); };
+        CheckSorts(0, EventRows, EventRowForeColor, sort, [](int, int row, int) {
+            const std::string& duration = Store.EventRecord.duration.Item(row);
+            const double unit = duration.ends_with("Day") ? 1440 : duration.ends_with("Minutes") ? 1 : 60;
+            return Number(std::stod(duration) * unit);
+        });
     }));
 }
 
@@ -329,11 +319,6 @@ TEST_F(RandomRowSorts, OfRemindersAreThoseOfABubbleSort) {
             const std::string& text = Store.EventRecord.desc.Item(row);
             AddReminderRow(text, text, text, text, DayDiff(Wednesday, EventRowDate.Item(row)));
         }
-        const SortOrder order = RandomOrder(6);
-        SortReminderRows(order);
-        RC_ASSERT(ReminderRows.values == BubbleSorted(count, order.direction, [&](int row, int direction) {
-                      return ReminderValue(order.column, row, direction);
-                  }));
-        RC_ASSERT(ReminderRowForeColor.values == ReminderRows.values);
+        CheckSorts(6, ReminderRows, ReminderRowForeColor, SortReminderRows, ReminderValue);
     }));
 }

@@ -35,13 +35,13 @@ struct Outcome {
     friend bool operator==(const Outcome&, const Outcome&) = default;
 };
 
-std::vector<Portion> Portions(int leastAhead, int greatestAhead, int greatestMinutes) {
+std::vector<Portion> Portions(int leastAhead, int greatestAhead, int greatestMinutes, int step) {
     const auto pairs = *rc::gen::container<std::vector<std::pair<int, int>>>(rc::gen::pair(
         rc::gen::inRange(leastAhead, greatestAhead + 1), rc::gen::inRange(0, greatestMinutes + 1)));
     std::vector<Portion> portions;
     portions.reserve(pairs.size());
     for (const auto& [daysAhead, minutes] : pairs) {
-        portions.push_back({daysAhead, minutes});
+        portions.push_back({daysAhead, minutes / step * step});
     }
     return portions;
 }
@@ -49,7 +49,8 @@ std::vector<Portion> Portions(int leastAhead, int greatestAhead, int greatestMin
 Plan RandomPlan() {
     const int horizon = *rc::gen::element(1, 2, 3, 10, 40);
     const int firstDue = std::min(horizon, *rc::gen::element(-3, 0, 2, 3));
-    return {Portions(firstDue, horizon, 300), Portions(0, horizon, *rc::gen::element(60, 400))};
+    const int step = *rc::gen::element(1, 60); // whole hours often leave nothing over
+    return {Portions(firstDue, horizon, 300, step), Portions(0, horizon, *rc::gen::element(60, 400), step)};
 }
 
 std::string DateAhead(int days) {
