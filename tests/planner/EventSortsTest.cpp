@@ -37,6 +37,13 @@ TEST_F(RowSorts, OfEventsByTypeHoldThoseWithoutAtTheEndBothWays) {
     ExpectEvents(EventColumn::Type, {4, 2, 1, 3}, {2, 4, 1, 3});
 }
 
+TEST_F(RowSorts, OfEventsByTypeCompareTheSentinelAsAText) {
+    AddEventRowOf({.desc = "1"}, "zzzzzz");
+    AddEventRowOf({.desc = "2"}, "None");
+    AddEventRowOf({.desc = "3"}, "AAAA");
+    ExpectEvents(EventColumn::Type, {3, 2, 1}, {1, 2, 3});
+}
+
 TEST_F(RowSorts, OfEventsByTheDateOfTheOccurrence) {
     AddEventRowOf({.date = "2001/01/01", .desc = "1"}, "", Wednesday + std::chrono::days{1});
     AddEventRowOf({.date = "2009/10/14", .desc = "2"}, "", Wednesday);
@@ -146,6 +153,16 @@ INSTANTIATE_TEST_SUITE_P(
                     ReminderColumnCase{ReminderColumn::Description, {2, 4, 1, 3}, {3, 1, 4, 2}},
                     ReminderColumnCase{ReminderColumn::When, {2, 1, 4, 3}, {3, 1, 4, 2}},
                     ReminderColumnCase{ReminderColumn::Day, {2, 1, 4, 3}, {3, 1, 4, 2}}));
+
+TEST_F(RowSorts, OfRemindersByClassCompareTheSentinelAsAText) {
+    AddReminderRow("Task", "zzzzzzzzzzz", "", "", 1);
+    AddReminderRow("Task", "", "", "", 2);
+    AddReminderRow("Task", "  ", "", "", 3); // less than ten blanks
+    SortReminderRows(Up(ReminderColumn::Class));
+    EXPECT_EQ(ReminderRows.values, (Numbers{3, 2, 1}));
+    SortReminderRows(Down(ReminderColumn::Class));
+    EXPECT_EQ(ReminderRows.values, (Numbers{1, 2, 3}));
+}
 
 TEST_F(RowSorts, MoveEveryListOfReminders) {
     AddReminderRow("Task", "x", "Home", "b", 3);

@@ -105,6 +105,19 @@ TEST_F(GradePointAverage, LeavesOutAClassWithoutTotalButCountsItsCredits) {
     EXPECT_EQ(table.GPACredits.Item(1), "5");
 }
 
+TEST_F(GradePointAverage, GivesNoGradeToAClassWhoseTotalIsNothingOrLess) {
+    for (const char* total : {"0", "-100"}) {
+        ResetAssignmentLists();
+        Store.ClassRecord = {};
+        AddClassRecord({.id = "1", .credits = "2"});
+        AddScore("1", "95", total);
+        const GPATable table = BuildGPATable(Chroma);
+        EXPECT_EQ(table.GPAPercents.values, (std::vector<std::string>{"0", "0"})) << total;
+        EXPECT_EQ(table.GPALetters.values, (std::vector<std::string>{"0", "0"})) << total;
+        EXPECT_EQ(table.GPACredits.Item(1), "2");
+    }
+}
+
 TEST_F(GradePointAverage, CountsAnAssignmentThatIsDoneWithoutAScore) {
     AddClassRecord({.id = "1"});
     AddAssignmentRecord({.est_time = "01 : 30", .done = "True"});

@@ -73,9 +73,9 @@ void CheckSorts(int columns, const NumberList& rows, const NumberList& colors, S
 }
 
 std::string RandomText() {
-    return *rc::gen::element<std::string>("", "a", "A", "b", "Essay", "essay 2", "None", "zzzzz", "zzzzzzz",
-                                          "aaaaa", "New Assignment", "new task", "\xC4rger", "\xE4rger", "a ",
-                                          " a");
+    return *rc::gen::element<std::string>("", "a", "A", "b", "Essay", "essay 2", "None", "zzzzz", "zzzzzz",
+                                          "zzzzzzz", "aaaaa", "New Assignment", "new task", "\xC4rger",
+                                          "\xE4rger", "a ", " ", " a");
 }
 
 std::string RandomBoolean() {

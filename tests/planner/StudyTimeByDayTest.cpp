@@ -67,7 +67,8 @@ TEST_F(StudyOfDays, CountsEventsOfThatTypeAlone) {
 TEST_F(StudyOfDays, LeavesDeletedSessionsOut) {
     AddStudy({.time = "08:00 AM", .duration = "1 Hour", .desc = "DELETED RECORD"});
     AddStudy({.date = "2009/10/15", .duration = "1 Hour", .desc = "DELETED RECORD"});
-    EXPECT_EQ(StudyOf(2), (Minutes{0, 0}));
+    AddStudy({.date = "never", .duration = "1 Hour", .desc = "DELETED RECORD", .exceptions = "never"});
+    EXPECT_EQ(StudyOf(100), Minutes(100, 0));
 }
 
 TEST_F(StudyOfDays, EndsAtASessionOfTodayThatIsOver) {
@@ -176,6 +177,33 @@ TEST_F(StudyOfDays, RoundsInStoreOrderWhereTheFirstWeeksAreGivenUp) {
     EXPECT_EQ(study[64], 1);
     EXPECT_EQ(study[71], 2); // 1, 1.5 becomes 2
     EXPECT_EQ(study[197], 2);
+}
+
+// Minutes below nothing can only come from a file. The first ten weeks are given up, so that all days that
+// count lie far ahead.
+TEST_F(StudyOfDays, OverflowsInStoreOrderAlsoFarAhead) {
+    std::string exceptions;
+    for (int week = 0; week < 10; ++week) {
+        exceptions += StoredDate(Wednesday + std::chrono::days{1 + 7 * week}) + " ";
+    }
+    const auto addThursdays = [&exceptions](const std::string& duration) {
+        AddStudy({.date = "2009/10/15",
+                  .duration = duration,
+                  .recurrence = "Day",
+                  .exceptions = exceptions,
+                  .repeat_daily = "FFFTFFF"});
+    };
+    addThursdays("32767 Minutes");
+    addThursdays("-1 Minutes");
+    addThursdays("1 Minutes");
+    EXPECT_EQ(StudyOf(200)[197], 32767);
+    addThursdays("1 Minutes");
+    EXPECT_THROW(StudyOf(200), RunTimeError);
+    addThursdays("-1 Minutes");
+    EXPECT_THROW(StudyOf(200), RunTimeError);
+    ResetStore();
+    addThursdays("3000000000 Minutes");
+    EXPECT_THROW(StudyOf(200), RunTimeError);
 }
 
 TEST_F(StudyOfDays, LeavesTheDatesOutThatASeriesHasGivenUp) {
