@@ -6,6 +6,12 @@
 
 #include <cstdlib>
 
+namespace {
+
+bool ending = false; // a paint or a timer raises its error again while the box is open
+
+} // namespace
+
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
@@ -16,7 +22,6 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 }
 
 void Application::EndOnError(const char* text) {
-    static bool ending = false; // a paint or a timer raises its error again while the box is open
     if (ending) {
         return;
     }

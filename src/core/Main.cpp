@@ -76,6 +76,7 @@ int Run(const std::string& commandLine) {
 } // namespace
 
 int main(int argc, char** argv) {
+    IgnoreFileSizeSignal();
     Application application(argc, argv);
     ApplyProgramStyle();
     SetApplicationProperties();

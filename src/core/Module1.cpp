@@ -25,6 +25,15 @@ void TakeTerm(int position) {
     ActiveTermEnd = DateValue(Store.Term.end.Item(position));
 }
 
+// Takes the last term that is not deleted, where there is one.
+void TakeLastTerm() {
+    for (int position = Store.Term.name.Count(); position >= 1; --position) {
+        if (Store.Term.name.Item(position) != DeletedRecord) {
+            return TakeTerm(position);
+        }
+    }
+}
+
 } // namespace
 
 std::string ActiveTermName;
@@ -83,10 +92,8 @@ void ChooseActiveTerm(std::string_view name) {
             TakeTerm(position);
         }
     }
-    for (int position = names.Count(); position >= 1 && ActiveTermName.empty(); --position) {
-        if (names.Item(position) != DeletedRecord) {
-            TakeTerm(position);
-        }
+    if (ActiveTermName.empty()) {
+        TakeLastTerm();
     }
 }
 

@@ -36,7 +36,7 @@ bool frmMain::LinkExecute() {
         return false;
     }
     if (isMinimized()) {
-        setWindowState(windowState() & ~Qt::WindowMinimized);
+        setWindowState(Qt::WindowNoState); // its normal size, also where it was maximized before
     }
     show();
     raise();

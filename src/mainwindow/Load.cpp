@@ -28,16 +28,6 @@ void PutIntoTray(frmMain& window) {
                  .itemChosen = [&window](int index) { window.RunPopupCommand(index); }});
 }
 
-// Reads the data of all terms. A failure shows its box, and the load goes on with what was read, unless a
-// shutdown came while the box was open: then nothing more is read or made.
-void ReadRecordFiles() {
-    for (void (*read)() : {&ReadTermsAndClasses, &ReadTasks, &ReadEvents}) {
-        if (!ShuttingDown) {
-            read();
-        }
-    }
-}
-
 // A planner on a drive neither starts with the desktop session nor shows its folder. Both commands stay.
 void HideUnofferedItems(const frmMain& window) {
     for (QAction* item : {window.MenuStartup->menuAction(), window.MenuData}) {
@@ -70,7 +60,9 @@ bool frmMain::LoadPlanner() {
     if (!SetupFolders()) {
         return false;
     }
-    ReadRecordFiles();
+    ReadTermsAndClasses();
+    ReadTasks();
+    ReadEvents();
     HideUnofferedItems(*this);
     SetFirstOpenFlags();
     LoadDialogs(*this);

@@ -97,11 +97,6 @@ void OpenRowOf(frmMain& window, const std::string& subject, int row) {
     }
 }
 
-// A menu takes "&" for the mark of a key, so the student's own are doubled.
-QString MenuText(const std::string& caption) {
-    return FromStore(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 // Shows the items where the last click or key wants them, and runs the one that is chosen.
 void ShowPopup(frmMain& window, const PopupItems& items) {
     QMenu& menu = *window.mnuPopup;

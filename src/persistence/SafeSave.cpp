@@ -7,7 +7,7 @@
 #include <utility>
 
 bool SaveRecordFile(const RecordFile& file) {
-    if (!EnterDataFolder()) {
+    if (ShuttingDown || !EnterDataFolder()) {
         return false;
     }
     const std::string temporary = file.name + ".tmp";

@@ -124,7 +124,7 @@ void ReadRecords(const RecordFile& file, std::string_view rest) {
 } // namespace
 
 bool ScanRecordFile(const RecordFile& file) {
-    if (!EnterDataFolder()) {
+    if (ShuttingDown || !EnterDataFolder()) {
         return false;
     }
     *file.nextId = 1;

@@ -1,6 +1,7 @@
 // The data folder and the files in it: folders, record files, the safe save, the backups, and the messages
 // shown when a file fails. None of the readers and writers raises an error: each shows its message and
-// returns.
+// returns. Once a shutdown has begun, which may come while a message is shown, they do nothing any more and
+// give false.
 #pragma once
 
 #include "core/Module1.h"

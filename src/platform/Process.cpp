@@ -70,6 +70,10 @@ void OnTermination(std::function<void()> end) {
         qGuiApp, &QGuiApplication::commitDataRequest, notifier, [end] { end(); }, Qt::DirectConnection);
 }
 
+void IgnoreFileSizeSignal() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
 bool SyncToDevice(std::FILE* file) {
     return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
 }

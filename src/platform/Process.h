@@ -26,5 +26,9 @@ std::filesystem::path StartupFolder();
 // Calls the procedure, on the window thread, when a termination signal arrives or the desktop session ends.
 void OnTermination(std::function<void()> end);
 
+// From here on a write beyond the process's limit of a file's size fails like any other instead of ending the
+// process.
+void IgnoreFileSizeSignal();
+
 // Hands what was written to the file to the device; false when that failed.
 bool SyncToDevice(std::FILE* file);

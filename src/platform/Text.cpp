@@ -43,6 +43,10 @@ QString FromScreen(const ScreenText& text) {
     return QString::fromStdString(text.utf8);
 }
 
+QString MenuText(std::string_view text) {
+    return FromStore(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 std::string ToStore(const QString& text) {
     std::string result;
     result.reserve(static_cast<std::size_t>(text.size()));

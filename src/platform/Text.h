@@ -15,6 +15,9 @@
 QString FromStore(std::string_view text);
 QString FromScreen(const ScreenText& text);
 
+// The text as the caption of a menu item. A menu takes "&" for the mark of a key, so each is doubled.
+QString MenuText(std::string_view text);
+
 // The text as the store holds it; a character that the set lacks becomes "?".
 std::string ToStore(const QString& text);
 

@@ -23,11 +23,6 @@ struct TrayState : QObject {
 
 TrayState* tray = nullptr;
 
-// A menu caption in which "&" stands for itself.
-QString PlainCaption(const std::string& caption) {
-    return FromStore(caption).replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
 void RebuildMenu() {
     tray->menu.clear();
     const std::vector<std::string> captions = tray->events.menuWanted();
@@ -36,7 +31,7 @@ void RebuildMenu() {
             tray->menu.addSeparator();
             continue;
         }
-        const QAction* action = tray->menu.addAction(PlainCaption(captions[i]));
+        const QAction* action = tray->menu.addAction(MenuText(captions[i]));
         QObject::connect(action, &QAction::triggered, &tray->menu,
                          [index = static_cast<int>(i)] { tray->events.itemChosen(index); });
     }

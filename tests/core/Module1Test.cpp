@@ -1,5 +1,7 @@
 // The store: which term is active, which classes are its own, and records by position.
 #include "core/Module1.h"
+
+#include "core/RunTimeError.h"
 #include "support/ScriptedPlatform.h"
 
 #include <gtest/gtest.h>
@@ -79,6 +81,37 @@ TEST_F(ActiveTerm, NamedAsDeletedIsTakenButNotLiving) {
     EXPECT_EQ(ActiveTermID, 0);
 }
 
+TEST_F(ActiveTerm, OfAnUnknownNameMayBeOneWithoutAName) {
+    AddTerm("1", "Fall");
+    AddTerm("2", "");
+    ChooseActiveTerm("Summer");
+    EXPECT_EQ(ActiveTermName, "");
+    EXPECT_EQ(ActiveTermID, 2);
+    EXPECT_FALSE(ActiveTermIsLiving());
+}
+
+TEST_F(ActiveTerm, WithATextThatDoesNotConvertRaisesTheError) {
+    AddTerm("1", "Fall");
+    for (TextList* list : {&Store.Term.id, &Store.Term.start, &Store.Term.end}) {
+        const std::string kept = list->Item(1);
+        list->Replace(1, "soon");
+        EXPECT_THROW(ChooseActiveTerm("Fall"), RunTimeError);
+        list->Replace(1, kept);
+    }
+    EXPECT_NO_THROW(ChooseActiveTerm("Fall"));
+}
+
+TEST_F(ActiveTerm, OfAnotherNameLeavesNothingOfTheOneBefore) {
+    AddTerm("4", "Fall 2009");
+    ChooseActiveTerm("Fall 2009");
+    Store = {};
+    ChooseActiveTerm("Fall 2009");
+    EXPECT_EQ(ActiveTermName, "");
+    EXPECT_EQ(ActiveTermID, 0);
+    EXPECT_EQ(ActiveTermStart, Date{2000y / 1 / 1});
+    EXPECT_EQ(ActiveTermEnd, Date{2000y / 1 / 1});
+}
+
 TEST_F(ActiveTerm, ChangingItDropsTheAssignments) {
     AddTerm("1", "Fall");
     Store.Assignment.id.Add("1");
@@ -119,18 +152,51 @@ TEST(Records, MoveUpWhenOneIsRemoved) {
     }
 }
 
+namespace {
+
+struct TypeCase {
+    const char* category;
+    const char* key;
+    const char* backcolor;
+};
+
+constexpr std::array<TypeCase, 27> Types27{{
+    {"Task", "School", "10732766"},     {"Task", "Class", "9934841"},        {"Task", "Home", "13035519"},
+    {"Task", "Personal", "11399151"},   {"Task", "Friends", "16580310"},     {"Task", "Family", "12582847"},
+    {"Task", "Recreation", "16770995"}, {"Task", "Work", "11075583"},        {"Task", "Project", "15262207"},
+    {"Task", "Idea", "13687085"},       {"Task", "Custom1", "16777215"},     {"Task", "Custom2", "16777215"},
+    {"Task", "Custom3", "16777215"},    {"Event", "Study Time", "4868863"},  {"Event", "Class", "9934841"},
+    {"Event", "Birthday", "15120870"},  {"Event", "Holiday", "55807"},       {"Event", "School", "10732766"},
+    {"Event", "Home", "13035519"},      {"Event", "Personal", "11399151"},   {"Event", "Friends", "16580310"},
+    {"Event", "Family", "12582847"},    {"Event", "Recreation", "16770995"}, {"Event", "Work", "11075583"},
+    {"Event", "Custom1", "16777215"},   {"Event", "Custom2", "16777215"},    {"Event", "Custom3", "16777215"},
+}};
+
+} // namespace
+
 TEST(Types, HaveTheirTwentySevenDefaults) {
     SetDefaultTypeTable();
-    EXPECT_EQ(TypeTable.key.Count(), TypeRows);
-    EXPECT_EQ(TypeTable.backcolor.Item(1), "10732766");
-    EXPECT_EQ(TypeTable.key.Item(14), "Study Time");
-    EXPECT_EQ(TypeTable.customname.Item(14), "Study Time");
-    EXPECT_EQ(TypeTable.backcolor.Item(17), "55807");
-    EXPECT_EQ(TypeTable.category.Item(13), "Task");
-    EXPECT_EQ(TypeTable.category.Item(14), "Event");
+    SetDefaultTypeTable(); // which replaces what there was
+    ASSERT_EQ(TypeTable.key.Count(), 27);
+    for (int row = 1; row <= 27; ++row) {
+        const TypeCase& type = Types27[static_cast<std::size_t>(row - 1)];
+        EXPECT_EQ(TypeTable.category.Item(row), type.category) << row;
+        EXPECT_EQ(TypeTable.key.Item(row), type.key) << row;
+        EXPECT_EQ(TypeTable.customname.Item(row), row == 14 ? "Study Time" : "") << row;
+        EXPECT_EQ(TypeTable.forecolor.Item(row), "0") << row;
+        EXPECT_EQ(TypeTable.backcolor.Item(row), type.backcolor) << row;
+    }
+}
+
+TEST(Types, AreFoundByCategoryAndKey) {
+    SetDefaultTypeTable();
     EXPECT_EQ(TypeRow("Event", "Class"), 15);
     EXPECT_EQ(TypeRow("Task", "Class"), 2);
     EXPECT_EQ(TypeRow("Task", "Birthday"), 0);
+}
+
+TEST(Types, AreShownByTheirCustomNameOrElseTheirKey) {
+    SetDefaultTypeTable();
     TypeTable.customname.Replace(3, "Chores");
     EXPECT_EQ(TypeDisplayName(3), "Chores");
     EXPECT_EQ(TypeDisplayName(4), "Personal");

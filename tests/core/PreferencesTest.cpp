@@ -148,6 +148,7 @@ TEST_F(Preferences, KeepTheLastGoodStartModeWithNoItemCheckedAfterABadOne) {
         EXPECT_EQ(Read({"AutoStart=" + mode}).AutoStart, "Tray") << mode;
         EXPECT_FALSE(Read({"AutoStart=" + mode}).AutoStartChecked) << mode;
         EXPECT_EQ(Read({"AutoStart=Min", "AutoStart=" + mode}).AutoStart, "Min") << mode;
+        EXPECT_TRUE(Read({"AutoStart=" + mode, "AutoStart=No"}).AutoStartChecked) << mode;
     }
 }
 

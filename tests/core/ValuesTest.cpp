@@ -109,6 +109,18 @@ TEST(Lists, CountFromOne) {
     EXPECT_EQ(list.Item(2), "z");
 }
 
+TEST(Lists, KeepTheOrderAroundWhatIsInsertedAndRemoved) {
+    TextList list;
+    for (const char* text : {"a", "b", "c"}) {
+        list.Add(text);
+    }
+    list.AddAfter("B", 2);
+    list.Remove(2); // which is how a record is changed in its place
+    EXPECT_EQ(list.values, (std::vector<std::string>{"a", "B", "c"}));
+    list.AddBefore("x", 3);
+    EXPECT_EQ(list.values, (std::vector<std::string>{"a", "B", "x", "c"}));
+}
+
 TEST(Lists, APositionOutsideIsAnError) {
     TextList list;
     EXPECT_THROW(list.Item(0), RunTimeError);

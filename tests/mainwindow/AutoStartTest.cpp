@@ -37,10 +37,19 @@ protected:
 
 } // namespace
 
-TEST_F(AutoStart, ItemOfThePreferencesIsChecked) {
-    Load("AutoStart=Min\n");
-    EXPECT_EQ(Checked(), QStringList{"Yes - Open Minimized"});
-    EXPECT_FALSE(ShortcutIsThere()) << "reading copies nothing";
+TEST_F(AutoStart, ItemOfThePreferencesAloneIsChecked) {
+    const std::array<std::pair<const char*, const char*>, 4> items{{
+        {"Full", "Yes - Open Full"},
+        {"Min", "Yes - Open Minimized"},
+        {"Tray", "Yes - Stay in System Tray"},
+        {"No", "No"},
+    }};
+    for (const auto& [word, caption] : items) {
+        Load("AutoStart=" + std::string(word) + "\n");
+        EXPECT_EQ(Checked(), QStringList{caption});
+        EXPECT_EQ(window->AutoStart, word);
+        EXPECT_FALSE(ShortcutIsThere()) << "reading copies nothing";
+    }
 }
 
 TEST_F(AutoStart, WithoutPreferencesItStaysInTheTray) {
@@ -54,6 +63,19 @@ TEST_F(AutoStart, BadValueChecksNoItem) {
     EXPECT_EQ(window->AutoStart, "Tray");
 }
 
+TEST_F(AutoStart, BadValueAfterAGoodOneChecksNoItemAndLeavesTheGoodOne) {
+    Load("AutoStart=Min\nAutoStart=Sometimes\n");
+    EXPECT_EQ(Checked(), QStringList{});
+    EXPECT_EQ(window->AutoStart, "Min");
+}
+
+TEST_F(AutoStart, ItemCanBeChosenAfterABadValue) {
+    Load("AutoStart=Sometimes\n");
+    window->MenuStartTray->trigger();
+    EXPECT_EQ(Checked(), QStringList{"Yes - Stay in System Tray"});
+    EXPECT_TRUE(ShortcutIsThere());
+}
+
 TEST_F(AutoStart, YesItemsCheckThemselvesAloneAndCopyTheShortcut) {
     const std::array<std::pair<QAction * frmMain::*, const char*>, 3> items{{
         {&frmMain::MenuStartFull, "Full"},
@@ -64,7 +86,7 @@ TEST_F(AutoStart, YesItemsCheckThemselvesAloneAndCopyTheShortcut) {
     for (const auto& [item, word] : items) {
         std::filesystem::remove(Script.startupFolder / ShortcutName);
         (window.get()->*item)->trigger();
-        EXPECT_EQ(Checked(), QStringList{(window.get()->*item)->text()});
+        EXPECT_EQ(Checked(), QStringList{(window.get()->*item)->text()}) << word;
         EXPECT_EQ(window->AutoStart, word);
         EXPECT_TRUE(ShortcutIsThere()) << word;
     }

@@ -74,7 +74,7 @@ TEST_F(OpenFromReminders, SingleEventShowsItsDate) {
 
 TEST_F(OpenFromReminders, SeriesShowsTheDayOfItsReminder) {
     const int event =
-        AddEventRecord({.date = "2009/11/03", .recurrence = "Daily", .reminder_currentday = "2009/12/24"});
+        AddEventRecord({.date = "2009/11/03", .recurrence = "Day", .reminder_currentday = "2009/12/24"});
     CallForward("Event", event);
     EXPECT_EQ(window->ClickedDate, Date{2009y / 12 / 24});
 }

@@ -1,6 +1,9 @@
 // The load, the tray menu and the shutdown, as the main window runs them.
 #include "core/Module1.h"
+#include "core/RunTimeError.h"
 #include "support/WindowTest.h"
+
+#include <QtTest/qtestspontaneevent.h>
 
 namespace {
 
@@ -28,6 +31,25 @@ protected:
     std::vector<std::string> TrayMenu() { return Script.trayEvents.menuWanted(); }
 
     std::string Preferences() const { return ReadData("Prefs.ini"); }
+
+    // Opens the editor of a new task, runs the action while it is open, and cancels it.
+    void WhileEditorIsOpen(const std::function<void()>& action) {
+        WhenDialogOpens([&action](QWidget* editor) {
+            action();
+            editor->close();
+        });
+        window->NewTask();
+    }
+
+    // A request to close the window: the window manager's or the program's own. Gives whether it is granted.
+    bool CloseRequestIsGranted(bool fromWindowManager) {
+        QCloseEvent request;
+        if (fromWindowManager) {
+            QSpontaneKeyEvent::setSpontaneous(&request);
+        }
+        qApp->notify(window.get(), &request); // which leaves the origin of the event as it is
+        return request.isAccepted();
+    }
 };
 
 } // namespace
@@ -57,6 +79,49 @@ TEST_F(Process, LoadSetsEveryFirstOpenFlag) {
                 TaskDBFirstOpen && RecurrenceDBFirstOpen && EventDBFirstOpen && ColorsDBFirstOpen &&
                 ColorsNameDBFirstOpen && AboutDBFirstOpen && AlertDBFirstOpen && RemindersDBFirstOpen &&
                 GPADBFirstOpen);
+}
+
+TEST_F(Process, LoadGivesTheModesTheirFirstFilters) {
+    LoadWindow();
+    const std::array<std::string, 5> ranges{"Term", "Term", "All", "Month", "Today"};
+    for (std::size_t i = 0; i < ranges.size(); ++i) {
+        EXPECT_EQ(ChosenFilters[i].list, "All");
+        EXPECT_EQ(ChosenFilters[i].range, ranges[i]);
+    }
+}
+
+TEST_F(Process, LoadShowsTodayInCalendarModeWithTheStudyTimerAtZero) {
+    LoadWindow();
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+    EXPECT_EQ(window->SelectedDate, Today());
+    EXPECT_EQ(DrawnTexts(*window->picTime), QStringList{"00:00:00"});
+    EXPECT_TRUE(window->TimerStatusBar->isActive());
+}
+
+TEST_F(Process, LoadThatCannotMakeTheMarkerRaisesTheErrorBeforeAnythingIsReadOrMade) {
+    std::filesystem::remove(drive / "Host");
+    window = std::make_unique<frmMain>();
+    EXPECT_THROW(window->LoadPlanner(), RunTimeError);
+    EXPECT_FALSE(std::filesystem::exists(drive / "Documents" / "Planovarium"));
+    EXPECT_EQ(Script.trayTip, "Planovarium Homework System") << "the icon comes first of all";
+}
+
+TEST_F(Process, LoadOfATermNamedAsDeletedReadsNoAssignments) {
+    WriteData("terms.xml", R"(<?xml version="1.0" encoding="ISO-8859-1"?>
+<term_data>
+<term>
+  <id>3</id>
+  <name>DELETED RECORD</name>
+  <start>2009/08/24</start>
+  <end>2009/12/18</end>
+</term>
+</term_data>
+)");
+    WriteData("Prefs.ini", "ActiveTerm=DELETED RECORD\n");
+    LoadWindow();
+    EXPECT_EQ(window->LabelTerm->text(), "No Term Selected");
+    EXPECT_EQ(window->LabelDaysLeft->text(), "");
+    EXPECT_FALSE(DataExists("assignments_3.xml"));
 }
 
 TEST_F(Process, LoadActivatesTheTermOfThePreferences) {
@@ -106,6 +171,28 @@ TEST_F(Process, TrayMenuOffersTheWindowOnlyWhileItIsHidden) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(Process, TrayMenuRestoresTheMinimizedWindow) {
+    LoadWindow();
+    window->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    ASSERT_EQ(TrayMenu().size(), 4U);
+    Script.trayEvents.itemChosen(2);
+    EXPECT_EQ(window->windowState() & ~Qt::WindowActive, Qt::WindowMaximized);
+}
+
+TEST_F(Process, TrayMenuIsEmptyWhileADialogIsOpen) {
+    LoadWindow();
+    WhileEditorIsOpen([this] { EXPECT_EQ(TrayMenu(), std::vector<std::string>{}); });
+    EXPECT_EQ(TrayMenu().size(), 3U);
+}
+
+TEST_F(Process, TrayMenuShutsThePlannerDown) {
+    LoadWindow();
+    TrayMenu();
+    Script.trayEvents.itemChosen(2);
+    EXPECT_TRUE(ShuttingDown);
+    EXPECT_TRUE(DataExists("Prefs.ini"));
+}
+
 TEST_F(Process, TrayDoubleClickShowsTheHiddenWindow) {
     LoadWindow();
     window->HideWindows();
@@ -123,6 +210,41 @@ TEST_F(Process, ASecondInstanceBringsTheWindowForward) {
 TEST_F(Process, ASecondInstanceIsAcceptedWhateverItSays) {
     LoadWindow();
     EXPECT_TRUE(Script.receiveLink("anything"));
+}
+
+TEST_F(Process, ASecondInstanceSetsAMinimizedWindowToNormal) {
+    LoadWindow();
+    window->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    EXPECT_TRUE(Script.receiveLink("Take Control"));
+    EXPECT_EQ(window->windowState() & ~Qt::WindowActive, Qt::WindowNoState);
+}
+
+TEST_F(Process, ASecondInstanceFindsAMaximizedWindowMaximized) {
+    LoadWindow();
+    window->setWindowState(Qt::WindowMaximized);
+    window->HideWindows();
+    EXPECT_TRUE(Script.receiveLink("Take Control"));
+    EXPECT_TRUE(window->isMaximized());
+}
+
+TEST_F(Process, ASecondInstanceIsRefusedWhileADialogIsOpen) {
+    LoadWindow();
+    WhileEditorIsOpen([] { EXPECT_FALSE(Script.receiveLink("Take Control")); });
+    EXPECT_TRUE(Script.receiveLink("Take Control"));
+}
+
+TEST_F(Process, ClosingByTheWindowManagerOnlyHidesTheWindow) {
+    LoadWindow();
+    EXPECT_FALSE(CloseRequestIsGranted(true));
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(ShuttingDown);
+}
+
+TEST_F(Process, ClosingByTheProgramOrInAShutdownIsGranted) {
+    LoadWindow();
+    EXPECT_TRUE(CloseRequestIsGranted(false));
+    ShuttingDown = true;
+    EXPECT_TRUE(CloseRequestIsGranted(true));
 }
 
 TEST_F(Process, ExitOnlyHidesTheWindow) {
@@ -146,6 +268,33 @@ TEST_F(Process, ShutdownWritesThePreferencesAndTakesMarkerAndIconAway) {
               std::string::npos);
 }
 
+TEST_F(Process, ShutdownStopsTheTimers) {
+    LoadWindow();
+    for (QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
+        timer->start();
+    }
+    window->Unload();
+    for (const QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
+        EXPECT_FALSE(timer->isActive());
+    }
+}
+
+TEST_F(Process, ShutdownRunsOnlyOnce) {
+    LoadWindow();
+    FileWrittenFlags.tasks = true;
+    window->Unload();
+    window->Unload();
+    EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "tasks_backup2.xml"));
+}
+
+TEST_F(Process, ShutdownWithoutTheMarkerGoesOn) {
+    LoadWindow();
+    std::filesystem::remove(drive / "Host" / MarkerName());
+    window->Unload();
+    EXPECT_TRUE(DataExists("Prefs.ini"));
+    EXPECT_EQ(Script.trayTip, "");
+}
+
 TEST_F(Process, ShutdownRotatesOnlyWhatWasWrittenInThisRun) {
     WriteData("terms.xml", TwoTerms);
     LoadWindow();
@@ -160,7 +309,10 @@ TEST_F(Process, ShutdownThatCannotWriteThePreferencesLeavesTheRestUndone) {
     FileWrittenFlags.tasks = true;
     std::filesystem::create_directory(data / "Prefs.ini"); // a folder of that name cannot be written
     window->Unload();
+    EXPECT_FALSE(std::filesystem::exists(drive / "Host" / MarkerName())) << "it went before";
     EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "tasks_backup1.xml"));
+    EXPECT_NE(Script.trayTip, "");
+    EXPECT_FALSE(window->isVisible()) << "the process goes on ending";
     EXPECT_TRUE(Script.boxes.empty());
 }
 

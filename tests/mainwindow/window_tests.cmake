@@ -15,6 +15,7 @@ target_sources(window_tests PRIVATE
   mainwindow/ListGridTest.cpp
   mainwindow/ModesTest.cpp
   mainwindow/PopupMenusTest.cpp
+  mainwindow/PreferencesFlowTest.cpp
   mainwindow/ProcessTest.cpp
   mainwindow/RefreshViewTest.cpp
   mainwindow/SmallCalendarTest.cpp

@@ -139,3 +139,16 @@ TEST_F(FileMessages, AboutFoldersClearNoFlag) {
     EXPECT_EQ(Script.boxes, Boxes{DirectoryErrorBox()});
     EXPECT_EQ(WrittenFlags(), (Flags{true, true, true, true, true}));
 }
+
+TEST_F(FileMessages, AreNeitherShownNorAreFilesReadOrWrittenOnceAShutdownHasBegun) {
+    SetDataFile("tasks.xml", "no record file");
+    ShuttingDown = true;
+    ReadTasks();
+    WriteTasks();
+    ReadEvents();
+    WriteEvents();
+    ShuttingDown = false;
+    EXPECT_EQ(Script.boxes, Boxes{});
+    EXPECT_EQ(DataFile("tasks.xml"), "no record file");
+    EXPECT_EQ(DataFile("events.xml"), NoFile);
+}

@@ -40,6 +40,11 @@ TEST(StoreText, IsOneCharacterAByte) {
     }
 }
 
+TEST(StoreText, DoublesEachAmpersandInAMenu) {
+    EXPECT_EQ(MenuText("Q&A && more"), QStringLiteral("Q&&A &&&& more"));
+    EXPECT_EQ(MenuText(""), QString());
+}
+
 TEST(StoreText, ComesBackUnchangedForEveryByte) {
     std::string bytes;
     for (int byte = 0; byte <= 0xFF; ++byte) {
