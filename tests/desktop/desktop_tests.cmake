@@ -13,3 +13,6 @@ function(add_desktop_tests file)
 endfunction()
 
 add_desktop_tests(test_process Start StartMode SecondStart Tray Shutdown WindowPlace)
+add_desktop_tests(test_locale German)
+set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
+  ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
