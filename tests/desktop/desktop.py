@@ -41,16 +41,16 @@ def stays_false(condition, seconds):
 
 
 class Desktop:
-    """A display of its own with openbox and trayer, and a runtime folder of its own."""
+    """A display of its own with openbox and, unless told otherwise, trayer, and a runtime folder of its own."""
 
-    def __init__(self, size="1280x1024"):
+    def __init__(self, size="1280x1024", tray=True):
         try:
-            self._open(size)
+            self._open(size, tray)
         except BaseException:
             self.close()
             raise
 
-    def _open(self, size):
+    def _open(self, size, tray):
         self.runtime = Path(tempfile.mkdtemp(prefix="planovarium-runtime-"))  # of mode 700, as it has to be
         self.processes = []
         read_end, write_end = os.pipe()
@@ -67,7 +67,8 @@ class Desktop:
         self._start(["openbox", "--sm-disable"], self.environment)
         wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
                    "the window manager stands")
-        self._start_tray()
+        if tray:
+            self._start_tray()
 
     def _start(self, command, environment, **options):
         self.processes.append(subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
@@ -238,9 +239,10 @@ class DesktopTest(unittest.TestCase):
     """A test with a desktop; planners that it makes are ended with it."""
 
     screen = "1280x1024"
+    tray = True
 
     def setUp(self):
-        self.desktop = Desktop(self.screen)
+        self.desktop = Desktop(self.screen, self.tray)
         self.addCleanup(self.desktop.close)
         self.addCleanup(self._keep_picture_of_failure)
 

@@ -12,7 +12,8 @@ function(add_desktop_tests file)
   endforeach()
 endfunction()
 
-add_desktop_tests(test_process Start StartMode SecondStart Tray Shutdown WindowPlace)
+add_desktop_tests(test_process
+  Start StartMode SecondStart Tray NoTray Saving Idle Failure Shutdown WindowPlace)
 add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")

@@ -1,12 +1,16 @@
 """The life of the process on a real desktop: how it starts, is found again, hides and ends."""
 
+import os
+import resource
 import signal
 import unittest
 
 from desktop import TITLE, DesktopTest, stays_false, wait_until
+from session import Session
 
 RECORD_FILES = ["classes.xml", "events.xml", "tasks.xml", "terms.xml"]
 BOX = "Planovarium"
+TASK_EDITOR = "Planovarium - New Task"
 READ_ERROR = "Planovarium - File Read Error"
 NO_RECORD_FILE = "line 1\n<wrong>\n"
 
@@ -16,6 +20,28 @@ def terms(*names):
     records = "".join(f"<term>\n  <id>{i}</id>\n  <name>{name}</name>\n  <start>2009/08/24</start>\n"
                       f"  <end>2009/12/18</end>\n</term>\n" for i, name in enumerate(names, 1))
     return '<?xml version="1.0" encoding="ISO-8859-1"?>\n<term_data>\n' + records + "</term_data>\n"
+
+
+def tasks(*descriptions):
+    """The text of a tasks file with these tasks, numbered from 1."""
+    records = "".join(f"<task>\n  <id>{i}</id>\n  <date>2009/10/14</date>\n  <desc>{description}</desc>\n"
+                      "  <date_exists>False</date_exists>\n  <type>None</type>\n  <priority>None</priority>\n"
+                      "  <percent_complete>0%</percent_complete>\n  <done>False</done>\n"
+                      "  <reminder>False</reminder>\n  <reminder_date>2009/10/14</reminder_date>\n"
+                      "  <reminder_time>09:00 AM</reminder_time>\n"
+                      "  <reminder_alarm>2009/10/14 09:00:00</reminder_alarm>\n"
+                      "  <reminder_list>False</reminder_list>\n  <notes></notes>\n</task>\n"
+                      for i, description in enumerate(descriptions, 1))
+    return '<?xml version="1.0" encoding="ISO-8859-1"?>\n<task_data>\n' + records + "</task_data>\n"
+
+
+def type_a_new_task(planner, description):
+    """Opens the editor of a new task and types its description; gives the editor."""
+    planner.desktop.press_in(planner.window(), "ctrl+t")
+    editor = wait_until(lambda: planner.desktop.window(TASK_EDITOR), "the editor is open")
+    wait_until(lambda: planner.desktop.active_window_name() == TASK_EDITOR, "the editor is active")
+    planner.desktop.type(description)
+    return editor
 
 
 class Start(DesktopTest):
@@ -50,6 +76,14 @@ class Start(DesktopTest):
         planner.wait_for_window()
         self.assertTrue((planner.data / "events.xml").exists())
         self.assertEqual(planner.read_data("tasks.xml"), NO_RECORD_FILE)
+
+    def test_that_cannot_make_its_marker_tells_so_and_ends(self):
+        planner = self.planner()
+        planner.host.rmdir()
+        planner.start(shown=False)
+        self.desktop.press_in(wait_until(lambda: self.desktop.window(BOX), "the error is told"), "Return")
+        self.assertEqual(planner.wait_for_exit(), 1)
+        self.assertFalse((planner.documents / "Planovarium").exists())
 
 
 class StartMode(DesktopTest):
@@ -114,6 +148,25 @@ class SecondStart(DesktopTest):
         self.assertIsNotNone(self.desktop.window(READ_ERROR))
         self.assertIsNone(self.desktop.window(BOX))
 
+    def test_leaves_an_open_editor_in_front_and_ends(self):
+        planner = self.planner().start()
+        type_a_new_task(planner, "Call home")
+        self.assertEqual(planner.wait_for_exit(planner.start_another()), 0)
+        self.assertEqual(self.desktop.active_window_name(), TASK_EDITOR)
+        self.assertIsNone(self.desktop.window(BOX))
+
+    def test_after_exit_of_the_file_menu_reads_no_data_again(self):
+        planner = self.planner().start()
+        self.desktop.press_in(planner.window(), "alt+f")
+        wait_until(self.desktop.popup_menu, "the menu is open")
+        self.desktop.key("Up", "Return")  # the last item
+        wait_until(lambda: not planner.window(), "the window is hidden")
+        planner.write_data("tasks.xml", NO_RECORD_FILE)
+        self.assertEqual(planner.wait_for_exit(planner.start_another()), 0)
+        planner.wait_for_window()
+        self.assertIsNone(self.desktop.window(READ_ERROR))
+        self.assertEqual(planner.read_data("tasks.xml"), NO_RECORD_FILE)
+
     def test_needs_no_variables_to_hand_over(self):
         planner = self.planner().start()
         planner.hide()
@@ -169,9 +222,83 @@ class Tray(DesktopTest):
         self.assertTrue(stays_false(self.desktop.popup_menu, 1))
 
 
+    def test_menu_restores_a_minimized_window(self):
+        planner = self.planner().start()
+        self.desktop.run("xdotool", "windowminimize", "--sync", planner.window())
+        wait_until(lambda: not planner.window(), "the window is minimized")
+        self.open_tray_menu()
+        self.desktop.key("Down", "Down", "Return")
+        planner.wait_for_window()
+
+
+class NoTray(DesktopTest):
+    tray = False
+
+    def test_closing_hides_all_the_same_and_a_second_start_brings_the_window_back(self):
+        planner = self.planner().start()
+        planner.hide()
+        self.assertEqual(planner.wait_for_exit(planner.start_another()), 0)
+        planner.wait_for_window()
+        self.assertEqual(planner.shut_down(), 0)
+
+
+class Saving(DesktopTest):
+    def test_beyond_the_limit_of_a_files_size_tells_so_and_keeps_the_old_file(self):
+        planner = self.planner()
+        old = tasks(*["Water the plants"] * 20)
+        planner.write_data("tasks.xml", old)
+        planner.start()
+        type_a_new_task(planner, "Call home")
+        resource.prlimit(planner.process.pid, resource.RLIMIT_FSIZE, (4096, 4096))
+        self.desktop.key("Return")
+        box = wait_until(lambda: self.desktop.window(READ_ERROR), "the failure is told")
+        self.desktop.press_in(box, "Return")
+        wait_until(lambda: not self.desktop.window(READ_ERROR), "the message is closed")
+        self.assertIsNone(planner.process.poll())
+        self.assertEqual(planner.read_data("tasks.xml"), old)
+
+    def test_in_a_run_gives_one_backup_of_that_file_alone(self):
+        planner = self.planner().start()
+        for description in ("Call home", "Water the plants"):
+            type_a_new_task(planner, description)
+            self.desktop.key("Return")
+            wait_until(lambda: description in planner.read_data("tasks.xml"), "the task is saved")
+        self.assertEqual(planner.shut_down(), 0)
+        self.assertEqual([p.name for p in planner.backup.iterdir()], ["tasks_backup1.xml"])
+        self.assertEqual((planner.backup / "tasks_backup1.xml").read_bytes(), (planner.data / "tasks.xml").read_bytes())
+
+
+class Idle(DesktopTest):
+    seconds = 11  # longer than the slowest timer's interval
+
+    @staticmethod
+    def processor_seconds(process):
+        with open(f"/proc/{process.pid}/stat", encoding="ascii") as stat:
+            fields = stat.read().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")  # its own and the system's for it
+
+    def test_takes_less_than_a_hundredth_of_a_processor(self):
+        planner = self.planner().start()
+        wait_until(lambda: self.desktop.active_window_name() == TITLE, "the window is active")
+        before = self.processor_seconds(planner.process)
+        limit = before + self.seconds / 100
+        self.assertTrue(stays_false(lambda: self.processor_seconds(planner.process) > limit, self.seconds))
+
+
+class Failure(DesktopTest):
+    def test_while_an_event_is_handled_is_told_and_ends_the_program(self):
+        planner = self.planner()
+        planner.write_data("tasks.xml", tasks("Call home").replace("<reminder>False", "<reminder>Perhaps"))
+        planner.start()
+        self.desktop.press_in(planner.window(), "ctrl+4")  # whose list needs the flag
+        self.desktop.press_in(wait_until(lambda: self.desktop.window(BOX), "the error is told"), "Return")
+        self.assertEqual(planner.wait_for_exit(), 1)
+        self.assertFalse((planner.data / "Prefs.ini").exists())
+
+
 class Shutdown(DesktopTest):
     def test_by_signal_leaves_everything_in_order(self):
-        for number in (signal.SIGTERM, signal.SIGINT):
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(number):
                 planner = self.planner()
                 planner.write_data("terms.xml", terms("Fall 2009", "Spring 2010"))
@@ -187,6 +314,20 @@ class Shutdown(DesktopTest):
                 self.assertEqual(list(planner.backup.iterdir()), [])
                 self.assertEqual(planner.read_data("terms.xml"), terms("Fall 2009", "Spring 2010"))
 
+    def test_by_the_end_of_the_desktop_session_leaves_everything_in_order(self):
+        session = Session()
+        planner = self.planner()
+        planner.write_data("Prefs.ini", "StartDayofWeek=Saturday\n")
+        planner.environment["SESSION_MANAGER"] = session.address
+        planner.start()
+        wait_until(lambda: session.saved == 1, "the planner takes part in the session")
+        planner.hide()
+        self.assertIsNone(planner.process.poll())
+        session.end()
+        self.assertEqual(planner.wait_for_exit(), 0)
+        self.assertEqual(planner.markers(), [])
+        self.assertIn("\nStartDayofWeek=Saturday\n", planner.read_data("Prefs.ini"))
+
     def test_before_the_preferences_were_read_leaves_them_alone(self):
         planner = self.planner()
         planner.write_data("Prefs.ini", "ActiveTerm=Fall 2009\n")
@@ -197,6 +338,17 @@ class Shutdown(DesktopTest):
         self.assertEqual(planner.read_data("Prefs.ini"), "ActiveTerm=Fall 2009\n")
         self.assertFalse((planner.data / "events.xml").exists())
         self.assertEqual(planner.markers(), [])
+
+
+    def test_while_an_editor_is_open_saves_nothing_of_it(self):
+        planner = self.planner()
+        planner.write_data("tasks.xml", tasks("Water the plants"))
+        planner.start()
+        type_a_new_task(planner, "Call home")
+        self.assertEqual(planner.shut_down(), 0)
+        self.assertEqual(planner.read_data("tasks.xml"), tasks("Water the plants"))
+        self.assertEqual(planner.markers(), [])
+        self.assertTrue((planner.data / "Prefs.ini").exists())
 
 
 class WindowPlace(DesktopTest):
@@ -220,6 +372,14 @@ class WindowPlace(DesktopTest):
         self.assertTrue(planner.read_data("Prefs.ini").startswith(
             "[Window Position]\nFormMainState=2\nFormMainLocationX=0\nFormMainLocationY=0\nFormMainSizeX=0\n"
             "FormMainSizeY=0\n"))
+
+    def test_maximized_returns_to_the_design_size(self):
+        planner = self.planner()
+        planner.write_data("Prefs.ini", "FormMainState=2\nFormMainLocationX=0\nFormMainSizeX=0\nFormMainSizeY=0\n")
+        planner.start()
+        wait_until(lambda: self.desktop.geometry(planner.window())[2] > 1200, "the window is maximized")
+        self.desktop.run("wmctrl", "-i", "-r", planner.window(), "-b", "remove,maximized_vert,maximized_horz")
+        wait_until(lambda: self.desktop.geometry(planner.window())[2:] == (780, 575), "the window has the design size")
 
     def test_cannot_be_made_smaller_than_the_design_size(self):
         planner = self.planner().start()
