@@ -15,6 +15,7 @@ namespace {
 constexpr int TopHeight = 30;
 constexpr int StepperSize = 22;
 constexpr int StatusHeight = 24;
+constexpr int GripSize = 9; // it stays beside the clock, which ends 10 pixels from the edge
 constexpr double TopPoints = 11;
 constexpr double InfoPoints = 9;
 
@@ -58,7 +59,9 @@ frmMain::frmMain() {
     picStatusBar->setFixedHeight(StatusHeight);
     auto* corner = new QHBoxLayout(picStatusBar);
     corner->setContentsMargins(0, 0, 0, 0);
-    corner->addWidget(new QSizeGrip(picStatusBar), 0, Qt::AlignRight | Qt::AlignBottom);
+    auto* grip = new QSizeGrip(picStatusBar);
+    grip->setFixedSize(GripSize, GripSize);
+    corner->addWidget(grip, 0, Qt::AlignRight | Qt::AlignBottom);
     column->addWidget(picStatusBar);
     setCentralWidget(centre);
 

@@ -130,6 +130,7 @@ void frmMain::LayoutCalendarGrid() {
         }
         PaintLines(*picGrid, cell, Month, index);
     }
+    PaintStatusBar();
 }
 
 void frmMain::ShowCalendarTitles() {

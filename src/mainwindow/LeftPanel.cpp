@@ -12,6 +12,7 @@ namespace {
 
 constexpr int StepperSize = 20;
 constexpr int TodayHeight = 22;
+constexpr int GapAboveToday = 3;
 constexpr int SmallButtonWidth = 50; // the small buttons stand 750 units apart
 constexpr int SmallButtonHeight = 26;
 constexpr int SmallIcon = 18;
@@ -22,6 +23,7 @@ constexpr int AlertHeight = 21;
 constexpr int AlertGap = 2;
 constexpr QSize TimeSize{76, 18};
 constexpr int TimerButtonWidth = 26;
+constexpr int TimerButtonHeight = 24;
 constexpr int LockSize = 32;
 constexpr int LockGround = 44; // edge of the square behind the lock
 
@@ -72,7 +74,7 @@ QToolButton* SmallNewButton(const char* picture, const char* name) {
 
 QPushButton* IconButton(const char* picture, const char* name) {
     auto* button = new QPushButton(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)), QString());
-    button->setFixedWidth(TimerButtonWidth);
+    button->setFixedSize(TimerButtonWidth, TimerButtonHeight);
     button->setToolTip(QLatin1String(name));
     button->setAccessibleName(QLatin1String(name));
     return button;
@@ -144,6 +146,7 @@ QWidget* frmMain::BuildSmallCalendar() {
     LabelCalTileBorder = new TileBorder(PictureBoxCalendar);
 
     auto* days = new QHBoxLayout;
+    days->setContentsMargins(0, GapAboveToday, 0, 0);
     const QSize buttonSize{LeftPanelWidth / 2 - 6, TodayHeight};
     picToday = DayButton("Today", buttonSize, LabelToday);
     picTomorrow = DayButton("Tomorrow", buttonSize, LabelTomorrow);
@@ -311,6 +314,7 @@ QWidget* frmMain::BuildTimerPanel() {
     picTime->setAccessibleName(QStringLiteral("Study Timer"));
     ButtonStart = new QPushButton(QStringLiteral("Start"));
     ButtonStart->setMinimumWidth(1); // it takes what the panel leaves
+    ButtonStart->setFixedHeight(TimerButtonHeight);
     ButtonReset = IconButton("picTimerReset.svg", "Reset Study Timer");
     ButtonSeconds = IconButton("picTimerSeconds.svg", "Show or Hide Seconds");
     for (QWidget* control :

@@ -14,9 +14,10 @@ constexpr int TextColor = 0x000000;
 constexpr SurfaceFont TextFont{Face::Status, 8, false};
 
 QString ClockText() {
-    const auto timeOfDay = Now() - std::chrono::floor<std::chrono::days>(Now());
-    return FromScreen(FormatDate(Today(), "Long Date")) + QStringLiteral("      ") +
-           FromScreen(FormatTime(timeOfDay, "Medium Time"));
+    const Moment now = Now();
+    const Date today = std::chrono::floor<std::chrono::days>(now);
+    return FromScreen(FormatDate(today, "Long Date")) + QStringLiteral("      ") +
+           FromScreen(FormatTime(now - today, "Medium Time"));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // The alert buttons, and the window behind each.
 #include "core/Module1.h"
 #include "mainwindow/frmAlert.h"
+#include "platform/Modal.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 
@@ -200,6 +201,25 @@ TEST_F(Alerts, FirstMessageOpensBesideTheMainWindowAndLaterOnesWhereItWasLeft) {
 TEST_F(Alerts, CloseOfTheMessageOnlyHidesIt) {
     AddHomework("2009/10/13");
     WhenDialogOpens([](QWidget* dialog) { EXPECT_FALSE(dialog->close()); });
+    window->ShowAlertMessage(3);
+    EXPECT_TRUE(window->AlertDialog->isHidden());
+}
+
+TEST_F(Alerts, MessageIsModalOverTheMainWindow) {
+    AddHomework("2009/10/13");
+    WhenDialogOpens([this](QWidget* dialog) {
+        EXPECT_TRUE(dialog->isModal());
+        EXPECT_TRUE(ModalDialogIsOpen());
+        EXPECT_EQ(dialog->parentWidget(), window.get());
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+    EXPECT_FALSE(ModalDialogIsOpen());
+}
+
+TEST_F(Alerts, EscapeHidesTheMessage) {
+    AddHomework("2009/10/13");
+    WhenDialogOpens([](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
     window->ShowAlertMessage(3);
     EXPECT_TRUE(window->AlertDialog->isHidden());
 }

@@ -92,6 +92,25 @@ TEST_F(CalendarSteps, AStepperWhoseReleaseCannotComeLetsGo) {
     EXPECT_EQ(window->ClickedDate, Date{2009y / 10 / 15});
 }
 
+TEST_F(CalendarSteps, AStepperLetsGoWhenADialogOpens) {
+    QTest::mousePress(window->picCalDayUp, Qt::LeftButton);
+    WhenDialogOpens([this](QWidget* dialog) {
+        FireTimer(window->TimerButton);
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+    EXPECT_FALSE(window->TimerButton->isActive());
+    EXPECT_EQ(PictureOf(window->picCalDayUp), "picStashCalDayRightUp.svg");
+    EXPECT_EQ(window->ClickedDate, Date{2009y / 10 / 15});
+}
+
+TEST_F(CalendarSteps, TheRightButtonDoesNotStep) {
+    QTest::mousePress(window->picCalDayUp, Qt::RightButton);
+    EXPECT_FALSE(window->TimerButton->isActive());
+    QTest::mouseRelease(window->picCalDayUp, Qt::RightButton);
+    EXPECT_EQ(window->ClickedDate, Date{2009y / 10 / 14});
+}
+
 TEST_F(CalendarSteps, OneMonthOnFrom31JanuaryIsTheLastOfFebruary) {
     window->GoToDate(Date{2009y / 1 / 31});
     QTest::mouseClick(window->picCalMonthUp, Qt::LeftButton);

@@ -20,7 +20,6 @@ struct ModeCase {
     QStringList labels;       // of the counters, an empty one hidden
     QStringList boxes;        // shown
     QStringList list, range;  // items of the filter menus
-    int sortColumn;
 };
 
 class Modes : public WindowTest {
@@ -206,8 +205,7 @@ const std::vector<ModeCase> FullModes{
      {"", "", ""},
      {},
      {"All", "Homework", "Tasks", "Events"}, // those of the mode before
-     {"Today"},
-     5},
+     {"Today"}},
     {Mode::Homework,
      "Homework Mode",
      {"Homework"},
@@ -219,8 +217,7 @@ const std::vector<ModeCase> FullModes{
      {"Total Assignments:", "Assignments Left:", "Study Time Left:"},
      {"TextBoxTotalAssignments", "TextBoxFinishedAssignments", "TextBoxTimeRemaining"},
      {"All", "Done", "Not Done"},
-     {"Day", "Term"},
-     8},
+     {"Day", "Term"}},
     {Mode::Tasks,
      "Task Mode",
      {"Tasks"},
@@ -232,8 +229,7 @@ const std::vector<ModeCase> FullModes{
      {"Total Tasks:", "Tasks Left:", "Undated Tasks Left:"},
      {"TextBoxTotalTasks", "TextBoxFinishedTasks", "TextBoxUndatedTasks"},
      {"All", "Done", "Not Done"},
-     {"Day", "All", "With Date", "Without Date"},
-     5},
+     {"Day", "All", "With Date", "Without Date"}},
     {Mode::Events,
      "Event Mode",
      {"Events"},
@@ -245,8 +241,7 @@ const std::vector<ModeCase> FullModes{
      {"Classes:", "Other Events:", "Study Time:"},
      {"TextBoxClasses", "TextBoxOtherEvents", "TextBoxSchedStudy"},
      {"All", "Classes", "Other Events"},
-     {"Day", "Week", "Month", "Year"},
-     3},
+     {"Day", "Week", "Month", "Year"}},
 };
 
 class FullMode : public Modes, public testing::WithParamInterface<ModeCase> {
@@ -327,10 +322,24 @@ TEST_P(FullMode, SaysItsNameInTheStatusBar) {
     EXPECT_EQ(DrawnTexts(*window->picStatusBar).front(), GetParam().caption);
 }
 
-TEST_P(FullMode, SortsByItsFirstColumnUpwards) {
-    EnterIt();
-    EXPECT_EQ(window->SortColumn, GetParam().sortColumn);
-    EXPECT_EQ(window->SortDirection, Ascending);
+TEST_P(FullMode, LooksTheSameWhateverModeWasBefore) {
+    LoadWindow();
+    for (const ModeRow& before : ModeRows) {
+        SCOPED_TRACE(before.caption);
+        Enter(before.mode);
+        Enter(GetParam().mode);
+        EXPECT_EQ(Checked(), GetParam().checked);
+        EXPECT_EQ(DownPictures(), QStringList{"picStash" + GetParam().checked.front() + "Down.svg"});
+        EXPECT_EQ(WhiteWords(), GetParam().checked);
+        EXPECT_EQ(Panels(), GetParam().panels);
+        EXPECT_EQ(SmallButtons(), GetParam().smallButtons);
+        EXPECT_EQ(LargeButtons(), GetParam().largeButtons);
+        EXPECT_EQ(EnabledItems(), GetParam().enabled);
+        EXPECT_EQ(Exports(), GetParam().exports);
+        EXPECT_EQ(Labels(), GetParam().labels);
+        EXPECT_EQ(Boxes(), GetParam().boxes);
+        EXPECT_TRUE(window->picLock->isHidden());
+    }
 }
 
 TEST_P(FullMode, IsIdleWhenItIsEntered) {
@@ -357,6 +366,7 @@ TEST_F(Modes, StudySessionsEnteredFromHomework) {
     Enter(Mode::StudySessions);
     EXPECT_EQ(Checked(), QStringList{"Study"});
     EXPECT_EQ(DownPictures(), QStringList{"picStashSessionsDown.svg"});
+    EXPECT_EQ(WhiteWords(), QStringList{"Homework"}) << "left as they were";
     EXPECT_EQ(Panels(), (QStringList{"Term", "ViewMenus", "StudySessions"}));
     EXPECT_EQ(SmallButtons(), QStringList{"Assignment"}) << "left as they were";
     EXPECT_EQ(LargeButtons(), QStringList{"Assignment"});
@@ -369,7 +379,6 @@ TEST_F(Modes, StudySessionsEnteredFromHomework) {
     EXPECT_EQ(Items(window->ComboList), QStringList{"All"});
     EXPECT_EQ(Items(window->ComboDateRange), (QStringList{"Day", "Term"}));
     EXPECT_EQ(window->ModeCaption, "Study Session Mode");
-    EXPECT_EQ(window->SortColumn, 6);
     EXPECT_TRUE(window->picLock->isHidden());
 }
 
@@ -380,6 +389,7 @@ TEST_F(Modes, RemindersEnteredFromTasks) {
     Enter(Mode::Reminders);
     EXPECT_EQ(Checked(), QStringList{"Reminders"});
     EXPECT_EQ(DownPictures(), QStringList{"picStashRemindersDown.svg"});
+    EXPECT_EQ(WhiteWords(), QStringList{"Tasks"}) << "left as they were";
     EXPECT_EQ(Panels(), (QStringList{"ViewMenus", "Reminders", "StudyTime"}));
     EXPECT_EQ(SmallButtons(), QStringList{"Task"}) << "left as they were";
     EXPECT_EQ(LargeButtons(), QStringList{});
@@ -392,8 +402,66 @@ TEST_F(Modes, RemindersEnteredFromTasks) {
     EXPECT_EQ(Items(window->ComboList), (QStringList{"All", "Homework", "Tasks", "Events"}));
     EXPECT_EQ(Items(window->ComboDateRange), QStringList{"Today"});
     EXPECT_EQ(window->ModeCaption, "Today's Reminders");
-    EXPECT_EQ(window->SortColumn, 5);
     EXPECT_FALSE(window->picLock->isHidden());
+}
+
+TEST_F(Modes, StudySessionsAndRemindersKeepWhatTheyDoNotTurn) {
+    LoadWindow();
+    for (const ModeRow& before : ModeRows) {
+        for (const Mode mode : {Mode::StudySessions, Mode::Reminders}) {
+            SCOPED_TRACE(before.caption);
+            Enter(before.mode);
+            const bool menus = Panels().contains("ViewMenus");
+            const QStringList buttons = SmallButtons();
+            const QStringList exports = Exports();
+            const QStringList words = WhiteWords();
+            Enter(mode);
+            EXPECT_EQ(Panels().contains("ViewMenus"), menus);
+            EXPECT_EQ(SmallButtons(), buttons);
+            EXPECT_EQ(Exports(), exports);
+            EXPECT_EQ(WhiteWords(), words);
+            EXPECT_EQ(window->MenuCalendar->isChecked(), before.mode == Mode::Calendar);
+            Enter(Mode::Homework); // which unchecks all others
+        }
+    }
+}
+
+TEST_F(Modes, EachStartsWithItsFirstSortUpwards) {
+    LoadWindow();
+    const std::array<std::pair<Mode, int>, 5> sorts{{
+        {Mode::Homework, 8},
+        {Mode::StudySessions, 6},
+        {Mode::Tasks, 5},
+        {Mode::Events, 3},
+        {Mode::Reminders, 5},
+    }};
+    for (const auto& [mode, column] : sorts) {
+        window->SortColumn = 2;
+        window->SortDirection = Descending;
+        Enter(mode);
+        EXPECT_EQ(window->SortColumn, column);
+        EXPECT_EQ(window->SortDirection, Ascending);
+    }
+}
+
+TEST_F(Modes, ModeThatIsCheckedIsNotEnteredAgain) {
+    LoadWindow();
+    const std::array<std::tuple<Mode, PictureBox*, ClickLabel*>, 5> controls{{
+        {Mode::Homework, window->PictureBarHomework, window->LabelBarHomework},
+        {Mode::Tasks, window->PictureBarTasks, window->LabelBarTasks},
+        {Mode::Events, window->PictureBarEvents, window->LabelBarEvents},
+        {Mode::Calendar, window->PictureBarCalendar, window->LabelBarCalendar},
+        {Mode::StudySessions, window->PictureBarStudySessions, nullptr},
+    }};
+    for (const auto& [mode, picture, word] : controls) {
+        Enter(mode);
+        window->ModeCaption = "as it was";
+        QTest::mouseClick(picture, Qt::LeftButton);
+        if (word != nullptr) {
+            QTest::mouseClick(word, Qt::LeftButton);
+        }
+        EXPECT_EQ(window->ModeCaption, "as it was");
+    }
 }
 
 TEST_F(Modes, LockGoesWithTheReminders) {
@@ -464,7 +532,10 @@ TEST_F(Modes, RemindersEnteredFromCalendarLeaveItChecked) {
     EXPECT_EQ(Checked(), (QStringList{"Calendar", "Reminders"}));
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
     EXPECT_EQ(Panels(), (QStringList{"Reminders", "StudyTime"}));
+    EXPECT_EQ(DownPictures(), (QStringList{"picStashCalendarDown.svg", "picStashRemindersDown.svg"}));
     EXPECT_EQ(WhiteWords(), QStringList{"Calendar"});
+    EXPECT_EQ(SmallButtons(), (QStringList{"Assignment", "Event", "Task"}));
+    EXPECT_FALSE(window->picLock->isHidden());
 }
 
 TEST_F(Modes, AnyOtherModeUnchecksCalendarAgain) {

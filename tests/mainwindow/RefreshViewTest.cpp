@@ -1,4 +1,5 @@
 // The refresh: which steps run for which reason in which mode, told by what they leave behind.
+#include "core/DateText.h"
 #include "mainwindow/ModeTables.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
@@ -9,7 +10,7 @@ using std::chrono::days;
 
 namespace {
 
-constexpr int Stale = 99; // a month that none is
+constexpr int October = 10;
 
 // Before each refresh the window is made to show what no step leaves behind.
 class Refresh : public WindowTest {
@@ -18,7 +19,7 @@ protected:
         WindowTest::SetUp();
         LoadWindow();
         selected = Today() + days{2};
-        clicked = Today() + days{40};
+        clicked = Today() + days{5}; // of the same month, so that nothing but an order makes its marks anew
     }
 
     void Enter(Mode mode) {
@@ -33,7 +34,9 @@ protected:
     void MakeStale() {
         window->SelectedDate = selected;
         window->ClickedDate = clicked;
-        window->ShownMonth = Stale;
+        window->ShownMonth = October;
+        window->ShownYear = 2009;
+        window->Month.CellMarked[0] = true; // there is no record at all
         window->LabelMonth->setText("stale");
         window->picGrid->DrawText(0, 0, "stale", {}, 0);
         window->LabelTop->setText("stale");
@@ -42,9 +45,9 @@ protected:
         window->TextBoxSuggested->setText("stale");
     }
 
-    // The steps by what they have left behind, each once: B the month of the selected day is built, b that of
-    // the clicked one, D that of today; L the layout has cleared the grid; F the fill has set the title; A
-    // the alerts, T the study time.
+    // The steps by what they have left behind, each once: the month of the selected day (C), of today (D) or
+    // of the clicked day (b) is built, with its marks made anew (M); L the layout has cleared the grid; F the
+    // fill has set the title; A the alerts, T the study time.
     std::string StepsOf(std::string_view reason) {
         MakeStale();
         window->RefreshFor(reason);
@@ -52,12 +55,12 @@ protected:
         std::string steps;
         if (window->LabelMonth->text() != "stale") {
             EXPECT_EQ(window->SelectedDate, window->ClickedDate);
-            EXPECT_NE(window->ShownMonth, Stale);
-            steps += window->ClickedDate == selected ? "B" : window->ClickedDate == clicked ? "b" : "D";
+            steps += window->ClickedDate == selected ? "C" : window->ClickedDate == clicked ? "b" : "D";
         } else {
             EXPECT_EQ(window->ClickedDate, clicked);
-            EXPECT_EQ(window->ShownMonth, Stale);
         }
+        EXPECT_EQ(window->ShownMonth, October);
+        steps += window->Month.CellMarked[0] ? "" : "M";
         steps += DrawnTexts(*window->picGrid).contains("stale") ? "" : "L";
         steps += window->LabelTop->text() == "stale" ? "" : "F";
         steps += window->ButtonAlert[LateAlert]->isHidden() ? "A" : "";
@@ -67,11 +70,10 @@ protected:
         return steps;
     }
 
-    // The cell of a day of October 2009.
-    std::size_t CellOf(int day) const {
+    // The cell of a day of the month shown.
+    std::size_t CellOf(const std::string& date) const {
         const auto& cells = window->Month.CellDate;
-        const Date date{std::chrono::year{2009} / 10 / day};
-        return static_cast<std::size_t>(std::ranges::find(cells, date) - cells.begin());
+        return static_cast<std::size_t>(std::ranges::find(cells, DateValue(date)) - cells.begin());
     }
 
     static constexpr std::size_t LateAlert = 3;
@@ -100,12 +102,12 @@ INSTANTIATE_TEST_SUITE_P(
     Reasons, RefreshReasons,
     testing::Values(
         // Homework, Calendar, Study Sessions, Tasks, Events, Reminders
-        ReasonCase{"ModeChange", ReasonModeChange, {"BLFA", "BLFA", "BLF", "BLF", "BLFA", "DLFT"}},
-        ReasonCase{"ViewChange", ReasonViewChange, {"BLF", "BLF", "BLF", "BLF", "BLF", "BLFT"}},
-        ReasonCase{"Calendar", ReasonCalendar, {"bLF", "bLF", "bLF", "bLF", "bLF", "bLFT"}},
-        ReasonCase{"StartDayofWeek", ReasonStartDayOfWeek, {"B", "BLF", "B", "B", "B", "B"}},
-        ReasonCase{"NewRecord", ReasonNewRecord, {"BLFA", "BLFA", "BLF", "BLF", "BLFA", "BLFT"}},
-        ReasonCase{"NewTerm", ReasonNewTerm, {"BLFA", "BLFA", "BLF", "", "", ""}},
+        ReasonCase{"ModeChange", ReasonModeChange, {"CMLFA", "CMLFA", "CMLF", "CMLF", "CMLFA", "DMLFT"}},
+        ReasonCase{"ViewChange", ReasonViewChange, {"CMLF", "CMLF", "CMLF", "CMLF", "CMLF", "CMLFT"}},
+        ReasonCase{"Calendar", ReasonCalendar, {"bLF", "bLF", "bLF", "bLF", "bLF", "bMLFT"}},
+        ReasonCase{"StartDayofWeek", ReasonStartDayOfWeek, {"CM", "CMLF", "CM", "CM", "CM", "CM"}},
+        ReasonCase{"NewRecord", ReasonNewRecord, {"CMLFA", "CMLFA", "CMLF", "CMLF", "CMLFA", "CMLFT"}},
+        ReasonCase{"NewTerm", ReasonNewTerm, {"CMLFA", "CMLFA", "CMLF", "", "", ""}},
         ReasonCase{"ColorChange", ReasonColorChange, {"LF", "LF", "LF", "LF", "LF", "LF"}},
         ReasonCase{"Resize", ReasonResize, {"LF", "LF", "LF", "LF", "LF", "LF"}}),
     [](const auto& each) { return each.param.name; });
@@ -122,10 +124,10 @@ TEST_F(Refresh, NothingRunsWhileNoModeIsChecked) {
 
 TEST_F(Refresh, StudySessionsAndRemindersCountAsCalendarWhileItIsChecked) {
     window->ShowStudySessionsMode();
-    EXPECT_EQ(StepsOf(ReasonNewRecord), "BLFA");
+    EXPECT_EQ(StepsOf(ReasonNewRecord), "CMLFA");
     window->ShowCalendarMode();
     window->ShowReminderMode();
-    EXPECT_EQ(StepsOf(ReasonNewRecord), "BLFA");
+    EXPECT_EQ(StepsOf(ReasonNewRecord), "CMLFA");
 }
 
 TEST_F(Refresh, RemindersShowTodayWhateverWasSelected) {
@@ -136,14 +138,31 @@ TEST_F(Refresh, RemindersShowTodayWhateverWasSelected) {
     EXPECT_EQ(window->SelectedDate, Today());
 }
 
-TEST_F(Refresh, MonthIsMarkedAnewOnlyWhereTheReasonForcesIt) {
-    Enter(Mode::Calendar);
-    window->GoToDate(Today());
-    AddTaskRecord({.date = "2009/10/20"});
-    window->GoToDate(Today() + days{1});
-    EXPECT_FALSE(window->Month.CellMarked[CellOf(20)]) << "a day of the same month";
+TEST_F(Refresh, AnotherMonthIsMarkedAnewWithoutAnOrder) {
+    window->ShowTaskMode();
+    AddTaskRecord({.date = "2009/11/20"});
+    window->GoToDate(Date{std::chrono::year{2009} / 11 / 2});
+    EXPECT_TRUE(window->Month.CellMarked[CellOf("2009/11/20")]);
+}
+
+TEST_F(Refresh, RemindersAreMarkedFromTheListThatTheSameRefreshHasFilled) {
+    window->ShowTaskMode(); // entered from Calendar the reminders would count as Calendar
+    window->ShowReminderMode();
+    AddTaskRecord({.date = "2009/10/12"}); // two days late
     window->RefreshFor(ReasonNewRecord);
-    EXPECT_TRUE(window->Month.CellMarked[CellOf(20)]);
+    EXPECT_TRUE(window->Month.CellMarked[CellOf("2009/10/12")]);
+}
+
+TEST_F(Refresh, StudyTimeIsThatOfTheDayShown) {
+    window->ShowTaskMode();
+    window->ShowReminderMode();
+    AddAssignmentRecord({.date = "2009/10/20", .est_time = "02 : 00"});
+    window->GoToDate(Date{std::chrono::year{2009} / 10 / 14});
+    EXPECT_EQ(window->TextBoxMinimum->text(), "00:00");
+    EXPECT_EQ(window->TextBoxSuggested->text(), "00:20");
+    window->GoToDate(Date{std::chrono::year{2009} / 10 / 19});
+    EXPECT_EQ(window->TextBoxMinimum->text(), "02:00");
+    EXPECT_EQ(window->TextBoxSuggested->text(), "02:00");
 }
 
 TEST_F(Refresh, CalendarPaintsTheMonthAsItIsWhenTheModeChanges) {

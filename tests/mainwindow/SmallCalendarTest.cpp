@@ -65,6 +65,13 @@ TEST_F(SmallCalendar, TheFrameFollowsItsCellWhenTheWindowIsResized) {
     }));
 }
 
+TEST_F(SmallCalendar, DaysStandApartFromTheButtonsBelow) {
+    QCoreApplication::sendPostedEvents();
+    EXPECT_GT(window->picToday->y(), Day(41)->geometry().bottom() + 2);
+    EXPECT_EQ(window->picToday->y(), window->picTomorrow->y());
+    EXPECT_LE(window->picToday->geometry().bottom(), window->PictureBoxCalendar->rect().bottom());
+}
+
 TEST_F(SmallCalendar, TodayAsAGreyCellHasNoFrame) {
     SetClock(2009, 10, 31);
     window->GoToDate(Date{2009y / 11 / 2});

@@ -108,6 +108,28 @@ TEST_F(StudyTimer, SecondsTurnsThemOffAndOn) {
     EXPECT_EQ(Clock(), "00:01:02");
 }
 
+TEST_F(StudyTimer, GoesOnWhileADialogIsOpen) {
+    ClickAt(window->ButtonStart, 0s);
+    QString shown;
+    WhenDialogOpens([this, &shown](QWidget* dialog) {
+        EXPECT_TRUE(window->Timer1->isActive());
+        TickAt(5s);
+        shown = Clock();
+        dialog->close();
+    });
+    window->ShowAlertMessage(3);
+    EXPECT_EQ(shown, "00:00:05");
+}
+
+TEST_F(StudyTimer, ButtonsStandInOneLineOfOneHeight) {
+    QCoreApplication::sendPostedEvents();
+    for (const QPushButton* button : {window->ButtonReset, window->ButtonSeconds}) {
+        EXPECT_EQ(button->y(), window->ButtonStart->y());
+        EXPECT_EQ(button->height(), window->ButtonStart->height());
+    }
+    EXPECT_NEAR(window->picTime->geometry().center().y(), window->ButtonStart->geometry().center().y(), 1);
+}
+
 TEST_F(StudyTimer, EachButtonHandsTheFocusToTheGrid) {
     for (QPushButton* button : {window->ButtonStart, window->ButtonReset, window->ButtonSeconds}) {
         window->ButtonSelectTerm->setFocus();

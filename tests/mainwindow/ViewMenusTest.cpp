@@ -140,6 +140,15 @@ TEST_F(ViewMenus, ChoiceRefreshesTheView) {
     EXPECT_EQ(window->RefreshReason, "None");
 }
 
+TEST_F(ViewMenus, ChoiceRefreshesStudySessionsAndReminders) {
+    LoadWindow();
+    window->ShowTaskMode(); // entered from Calendar they would leave it checked
+    window->ShowStudySessionsMode();
+    EXPECT_TRUE(RefreshesWhen([this] { window->ComboDateRange->setCurrentText("Day"); }));
+    window->ShowReminderMode();
+    EXPECT_TRUE(RefreshesWhen([this] { window->ComboList->setCurrentText("Tasks"); }));
+}
+
 TEST_F(ViewMenus, ChoiceByKeyRefreshesTheView) {
     LoadWindow();
     window->ShowTaskMode();
