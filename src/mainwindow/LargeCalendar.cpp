@@ -11,7 +11,7 @@ constexpr int HeadForeColor = 0x5C5C5C;
 constexpr int GridLineColor = 0x808080;
 constexpr int OutOfMonthColor = 0xF5F5F5;
 constexpr int TodayColor = 0x5A4239;
-constexpr int TextLeft = 300; // of a line's text behind the left of its picture
+constexpr int TextLeft = 270; // of a line's text behind the left of its picture
 
 constexpr SurfaceFont HeadFont{Face::List, 9, true};
 constexpr SurfaceFont LineFont{Face::List, 9, false};

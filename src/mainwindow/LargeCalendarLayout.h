@@ -24,7 +24,7 @@ struct CalendarLayout {
 };
 
 inline constexpr int CalendarHeadHeight = 375;
-inline constexpr int CalendarIconSize = 240; // of the picture at the left of a line
+inline constexpr int CalendarIconSize = 210; // of the picture at the left of a line
 inline constexpr int TodayFrameWidth = 30;   // two lines
 
 // The layout on a grid of that size. Which lines a cell has follows from the month's counters.
