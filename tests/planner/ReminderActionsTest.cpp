@@ -146,6 +146,25 @@ TEST_F(ReminderButtons, FindTheRecordOfARowByItsId) {
     EXPECT_EQ(ReminderPosition("Task", "41"), 2);
     EXPECT_EQ(ReminderPosition("Homework", "1"), 1);
     EXPECT_EQ(ReminderPosition("Event", "2"), 2);
+    Store.TaskRecord.id.values = {"1", "10"};
+    EXPECT_EQ(ReminderPosition("Task", "10"), 2);
+    Store.TaskRecord.id.values = {"10", "1"};
+    EXPECT_EQ(ReminderPosition("Task", "1"), 2);
+}
+
+TEST_F(ReminderButtons, LeaveEveryOtherRecordAsItIs) {
+    const PlannerStore before = Store;
+    Snooze("Event", "2", "5 Minutes");
+    RemoveReminder("Task", "2", window.flags);
+    for (const Field<EventLists>& field : EventFields) {
+        EXPECT_EQ((Store.EventRecord.*field.list).Item(1), (before.EventRecord.*field.list).Item(1));
+    }
+    for (const Field<TaskLists>& field : TaskFields) {
+        EXPECT_EQ((Store.TaskRecord.*field.list).Item(1), (before.TaskRecord.*field.list).Item(1));
+    }
+    for (const Field<AssignmentLists>& field : AssignmentFields) {
+        EXPECT_EQ(Store.Assignment.*field.list, before.Assignment.*field.list) << field.tag;
+    }
 }
 
 TEST_F(ReminderButtons, TakingTheLastRowOutSelectsTheNewLast) {

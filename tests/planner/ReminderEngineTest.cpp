@@ -12,6 +12,14 @@ using Texts = std::vector<std::string>;
 
 const EventTexts Daily{.date = "2009/10/01", .recurrence = "Day", .repeat_daily = "TTTTTTT"};
 
+template <class Lists, std::size_t Count>
+void ExpectEqualLists(const Lists& found, const Lists& expected,
+                      const std::array<Field<Lists>, Count>& fields) {
+    for (const Field<Lists>& field : fields) {
+        EXPECT_EQ(found.*field.list, expected.*field.list) << field.tag;
+    }
+}
+
 } // namespace
 
 // --- Tasks and homework ------------------------------------------------------------------------------------
@@ -49,6 +57,30 @@ TEST_F(ReminderScan, BringsTheWindowUpOnlyForTheFirstRowsAndForWhatFires) {
     window.Tick();
     EXPECT_TRUE(window.flags.ReminderShowWindow);
     EXPECT_EQ(window.Standing(), (Texts{"Task 1", "Task 2"}));
+}
+
+TEST_F(ReminderScan, ChangesNothingButTheReminderOfWhatFires) {
+    AddTaskRecord({});
+    AddTaskRecord(ArmedTask({}, "2009/10/14", "09:00 AM"));
+    AddAssignmentRecord({});
+    AddEventRecord({});
+    AddArmedEvent({});
+    AddArmedEvent(Daily);
+    AddArmedEvent({.date = "2009/10/20"});
+    PlannerStore expected = Store;
+    expected.TaskRecord.reminder.Replace(2, "False");
+    expected.TaskRecord.reminder_list.Replace(2, "True");
+    expected.EventRecord.reminder.Replace(2, "False");
+    expected.EventRecord.reminder_list.Replace(2, "True");
+    expected.EventRecord.reminder_list.Replace(3, "True");
+    expected.EventRecord.reminder_currentday.Replace(3, "2009/10/14");
+    expected.EventRecord.reminder_alarm.Replace(3, "2009/10/14 08:30:00");
+    expected.EventRecord.reminder_nextday.Replace(3, "2009/10/15");
+    expected.EventRecord.reminder_nextalarm.Replace(3, "2009/10/15 08:30:00");
+    window.Tick();
+    ExpectEqualLists(Store.TaskRecord, expected.TaskRecord, TaskFields);
+    ExpectEqualLists(Store.Assignment, expected.Assignment, AssignmentFields);
+    ExpectEqualLists(Store.EventRecord, expected.EventRecord, EventFields);
 }
 
 TEST_F(ReminderScan, KeepsTheFirstTickUntilARowIsFound) {
