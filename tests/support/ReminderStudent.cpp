@@ -7,6 +7,7 @@
 #include "planner/RecurrenceEntry.h"
 #include "planner/ReminderItems.h"
 #include "planner/SeriesEdits.h"
+#include "planner/SeriesRule.h"
 #include "support/ScriptedPlatform.h"
 
 #include <algorithm>
@@ -28,7 +29,10 @@ std::string TimeText(Moment moment) {
 
 EventTexts RandomEvent(Simulation& simulation) {
     const Moment moment = simulation.Soon();
-    const Date first = floor<days>(moment);
+    Date first = floor<days>(moment);
+    if (simulation.Chance(25)) {
+        first = LastDayOf(MonthOf(first));
+    }
     EventTexts event{.date = StoredDate(first), .time = TimeText(moment)};
     event.recurrence = simulation.OneOf({"None", "Day", "Day", "Month", "Year"});
     for (char& letter : event.repeat_daily) {
