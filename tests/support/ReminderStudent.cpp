@@ -30,11 +30,11 @@ std::string TimeText(Moment moment) {
 EventTexts RandomEvent(Simulation& simulation) {
     const Moment moment = simulation.Soon();
     Date first = floor<days>(moment);
-    if (simulation.Chance(25)) {
+    if (simulation.Chance(40)) {
         first = LastDayOf(MonthOf(first));
     }
     EventTexts event{.date = StoredDate(first), .time = TimeText(moment)};
-    event.recurrence = simulation.OneOf({"None", "Day", "Day", "Month", "Year"});
+    event.recurrence = simulation.OneOf({"None", "Day", "Day", "Month", "Month", "Year"});
     for (char& letter : event.repeat_daily) {
         letter = simulation.Chance(30) ? 'T' : 'F';
     }
