@@ -27,13 +27,6 @@ bool IsEstimateCharacter(char character) {
     return character == ' ' || (character >= '0' && character <= ':');
 }
 
-// Half of a whole number's last two figures goes to the even hundred.
-int HundredthsToEven(int number) {
-    const int whole = number / 100;
-    const int rest = number % 100;
-    return whole + (rest > 50 || (rest == 50 && whole % 2 == 1) ? 1 : 0);
-}
-
 } // namespace
 
 std::string ValidatePercent(std::string_view text) {
@@ -66,7 +59,7 @@ std::string UpdateTimeLeft(bool finished, std::string_view estimate, std::string
     }
     std::string number(percent);
     std::erase(number, '%');
-    const int left = HundredthsToEven(ClockToMinutes(estimate) * (100 - ToInt16(number)));
+    const int left = Int16Of(ClockToMinutes(estimate) * (100 - ToInt16(number)) / 100.0);
     return SpacedClock(left == 0 ? 1 : left);
 }
 
