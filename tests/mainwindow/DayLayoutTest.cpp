@@ -3,6 +3,7 @@
 
 #include "core/RowLists.h"
 #include "core/RunTimeError.h"
+#include "support/CaseName.h"
 #include "support/EventRecords.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
@@ -61,7 +62,8 @@ INSTANTIATE_TEST_SUITE_P(
         SpanCase{"09:00 AM", "1 Day", {108, 287}}, SpanCase{"12:00 AM", "2 Days", {0, 287}},
         SpanCase{"11:00 PM", "3 Hours", {276, 287}}, SpanCase{"11:59 PM", "1 Hour", {287, 287}},
         SpanCase{"12:00 AM", "99999999999 Days", {0, 287}}, SpanCase{"", "1 Hour", {0, 11}},
-        SpanCase{"noon", "1 Hour", {0, 11}}));
+        SpanCase{"noon", "1 Hour", {0, 11}}),
+    [](const auto& each) { return CaseName(std::string(each.param.time) + " " + each.param.duration); });
 
 TEST_F(DayLayout, ADurationWithoutANumberIsAnError) {
     AddRow("09:00 AM", "long");

@@ -29,6 +29,9 @@ std::vector<int> Widths(ListKind kind, int gridWidth) {
     return widths;
 }
 
+// By ListKind.
+constexpr std::array<const char*, 5> ListNames{"Homework", "StudySessions", "Tasks", "Events", "Reminders"};
+
 class EachList : public testing::TestWithParam<ListKind> {};
 
 } // namespace
@@ -99,7 +102,8 @@ TEST_P(EachList, EdgesOfColumnsFallOnWholePixels) {
 
 INSTANTIATE_TEST_SUITE_P(GridLayout, EachList,
                          testing::Values(ListKind::Homework, ListKind::StudySessions, ListKind::Tasks,
-                                         ListKind::Events, ListKind::Reminders));
+                                         ListKind::Events, ListKind::Reminders),
+                         [](const auto& each) { return ListNames[static_cast<std::size_t>(each.param)]; });
 
 TEST(GridLayout, WholeRowsFitUnderTheTitles) {
     EXPECT_EQ(WholeRows(21 + 22 * 18, 21, 22), 18);

@@ -3,12 +3,23 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+
 using namespace std::chrono_literals;
 
 namespace {
 
 constexpr ListView Forty{.rowCount = 40, .firstRow = 11, .rowsVisible = 10};
 constexpr Date LeapJanuary{std::chrono::year{2008} / 1 / 31};
+
+// By GridMove.
+constexpr std::array<const char*, 8> MoveNames{"Up",     "Down",     "Left", "Right",
+                                               "PageUp", "PageDown", "Home", "End"};
+
+std::string NameOf(GridMove move) {
+    return MoveNames[static_cast<std::size_t>(move)];
+}
 
 struct RowCase {
     GridMove move;
@@ -41,7 +52,10 @@ INSTANTIATE_TEST_SUITE_P(GridMoves, RowMoves,
                                          RowCase{GridMove::PageDown, 35, 40}, RowCase{GridMove::Down, 0, 11},
                                          RowCase{GridMove::Up, 0, 11}, RowCase{GridMove::PageDown, 0, 11},
                                          RowCase{GridMove::Home, 0, 1}, RowCase{GridMove::End, 0, 40},
-                                         RowCase{GridMove::Left, 0, 0}));
+                                         RowCase{GridMove::Left, 0, 0}),
+                         [](const auto& each) {
+                             return NameOf(each.param.move) + "From" + std::to_string(each.param.row);
+                         });
 
 TEST(GridMoves, AnEmptyListHasNoRowToMoveTo) {
     for (const GridMove move : {GridMove::Down, GridMove::Home, GridMove::End, GridMove::PageDown}) {
@@ -65,4 +79,5 @@ INSTANTIATE_TEST_SUITE_P(GridMoves, DateMoves,
                                          DateCase{GridMove::PageUp, Date{2007y / 12 / 31}},
                                          DateCase{GridMove::PageDown, Date{2008y / 2 / 29}},
                                          DateCase{GridMove::Home, Date{2008y / 1 / 1}},
-                                         DateCase{GridMove::End, Date{2008y / 1 / 31}}));
+                                         DateCase{GridMove::End, Date{2008y / 1 / 31}}),
+                         [](const auto& each) { return NameOf(each.param.move); });

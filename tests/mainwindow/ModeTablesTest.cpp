@@ -2,6 +2,7 @@
 #include "mainwindow/ModeTables.h"
 
 #include "mainwindow/ViewMenuColor.h"
+#include "support/CaseName.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +42,8 @@ INSTANTIATE_TEST_SUITE_P(
                     RefreshCase{"NewRecord", "BLFA", "BLFA", "BLF", "BLF", "BLFA", "CMLFbT"},
                     RefreshCase{"NewTerm", "BLFA", "BLFA", "BLF", "", "", ""},
                     RefreshCase{"ColorChange", "LF", "LF", "LF", "LF", "LF", "LF"},
-                    RefreshCase{"Resize", "LF", "LF", "LF", "LF", "LF", "LF"}));
+                    RefreshCase{"Resize", "LF", "LF", "LF", "LF", "LF", "LF"}),
+    [](const auto& each) { return CaseName(std::string(each.param.reason)); });
 
 TEST(RefreshSteps, AnyOtherReasonAsksForNothing) {
     for (const std::string_view reason : {"None", "", "mode change", "Scroll"}) {

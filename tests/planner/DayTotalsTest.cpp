@@ -1,6 +1,7 @@
 // The counters beside the lists.
 #include "planner/DayTotals.h"
 #include "core/RunTimeError.h"
+#include "support/CaseName.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 
@@ -102,7 +103,8 @@ INSTANTIATE_TEST_SUITE_P(Durations, StudyUnits,
                                          Unit{"1 Day", "00:00"}, Unit{"3 Days", "00:00"},
                                          Unit{"1 Minute", "00:00"}, Unit{"2 hours", "00:00"},
                                          Unit{"20", "00:00"}, Unit{"30 Minutes", "00:30"},
-                                         Unit{"2.5 Minutes", "00:02"}, Unit{"3.5 Minutes", "00:04"}));
+                                         Unit{"2.5 Minutes", "00:02"}, Unit{"3.5 Minutes", "00:04"}),
+                         [](const auto& each) { return CaseName(each.param.duration); });
 
 TEST_F(DayTotals, CountTheMeetingsOfTheActiveTermsClasses) {
     AddClassRecord({.id = "10", .term = "4"});

@@ -118,6 +118,7 @@ TEST_F(RowSorts, MoveEveryListOfEvents) {
 // --- Reminders ---
 
 struct ReminderColumnCase {
+    const char* name;
     ReminderColumn column;
     Numbers up;
     Numbers down;
@@ -147,12 +148,14 @@ TEST_P(ReminderSorts, FollowTheColumnDownwards) {
 
 INSTANTIATE_TEST_SUITE_P(
     Columns, ReminderSorts,
-    testing::Values(ReminderColumnCase{ReminderColumn::For, {3, 2, 4, 1}, {1, 2, 4, 3}},
-                    ReminderColumnCase{ReminderColumn::Class, {4, 2, 1, 3}, {2, 4, 1, 3}},
-                    ReminderColumnCase{ReminderColumn::Type, {3, 1, 4, 2}, {2, 1, 4, 3}},
-                    ReminderColumnCase{ReminderColumn::Description, {2, 4, 1, 3}, {3, 1, 4, 2}},
-                    ReminderColumnCase{ReminderColumn::When, {2, 1, 4, 3}, {3, 1, 4, 2}},
-                    ReminderColumnCase{ReminderColumn::Day, {2, 1, 4, 3}, {3, 1, 4, 2}}));
+    testing::Values(ReminderColumnCase{"For", ReminderColumn::For, {3, 2, 4, 1}, {1, 2, 4, 3}},
+                    ReminderColumnCase{"Class", ReminderColumn::Class, {4, 2, 1, 3}, {2, 4, 1, 3}},
+                    ReminderColumnCase{"Type", ReminderColumn::Type, {3, 1, 4, 2}, {2, 1, 4, 3}},
+                    ReminderColumnCase{
+                        "Description", ReminderColumn::Description, {2, 4, 1, 3}, {3, 1, 4, 2}},
+                    ReminderColumnCase{"When", ReminderColumn::When, {2, 1, 4, 3}, {3, 1, 4, 2}},
+                    ReminderColumnCase{"Day", ReminderColumn::Day, {2, 1, 4, 3}, {3, 1, 4, 2}}),
+    [](const auto& each) { return each.param.name; });
 
 TEST_F(RowSorts, OfRemindersByClassCompareTheSentinelAsAText) {
     AddReminderRow("Task", "zzzzzzzzzzz", "", "", 1);

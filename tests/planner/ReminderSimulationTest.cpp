@@ -193,4 +193,4 @@ TEST_P(ReminderYears, LoseNothingRepeatNothingAndShowTheLatest) {
     Simulate(GetParam(), Date{2012y / 1 / 1}, 180, 25);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, ReminderYears, testing::Range(100U, 105U));
+INSTANTIATE_TEST_SUITE_P(Seeds, ReminderYears, testing::Range(100U, 105U), testing::PrintToStringParamName());

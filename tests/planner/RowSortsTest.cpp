@@ -187,6 +187,7 @@ TEST_F(RowSorts, FollowASelection) {
 // --- Study Sessions ---
 
 struct StudyColumnCase {
+    const char* name;
     StudyColumn column;
     Numbers up;
     Numbers down;
@@ -210,14 +211,16 @@ TEST_P(StudySorts, FollowTheColumn) {
     EXPECT_EQ(HomeworkRows.values, GetParam().down);
 }
 
-INSTANTIATE_TEST_SUITE_P(Columns, StudySorts,
-                         testing::Values(StudyColumnCase{StudyColumn::Class, {2, 1, 3}, {3, 1, 2}},
-                                         StudyColumnCase{StudyColumn::Type, {3, 1, 2}, {2, 1, 3}},
-                                         StudyColumnCase{StudyColumn::Description, {2, 3, 1}, {1, 3, 2}},
-                                         StudyColumnCase{StudyColumn::Priority, {2, 3, 1}, {1, 2, 3}},
-                                         StudyColumnCase{StudyColumn::Time, {3, 1, 2}, {2, 1, 3}},
-                                         StudyColumnCase{StudyColumn::DoneOn, {2, 1, 3}, {3, 1, 2}},
-                                         StudyColumnCase{StudyColumn::Due, {2, 3, 1}, {1, 3, 2}}));
+INSTANTIATE_TEST_SUITE_P(
+    Columns, StudySorts,
+    testing::Values(StudyColumnCase{"Class", StudyColumn::Class, {2, 1, 3}, {3, 1, 2}},
+                    StudyColumnCase{"Type", StudyColumn::Type, {3, 1, 2}, {2, 1, 3}},
+                    StudyColumnCase{"Description", StudyColumn::Description, {2, 3, 1}, {1, 3, 2}},
+                    StudyColumnCase{"Priority", StudyColumn::Priority, {2, 3, 1}, {1, 2, 3}},
+                    StudyColumnCase{"Time", StudyColumn::Time, {3, 1, 2}, {2, 1, 3}},
+                    StudyColumnCase{"DoneOn", StudyColumn::DoneOn, {2, 1, 3}, {3, 1, 2}},
+                    StudyColumnCase{"Due", StudyColumn::Due, {2, 3, 1}, {1, 3, 2}}),
+    [](const auto& each) { return each.param.name; });
 
 // --- Tasks ---
 

@@ -2,6 +2,7 @@
 // The clock stands at noon of Wednesday, 2009-10-14.
 #include "planner/StudyTimeAlert.h"
 #include "core/RunTimeError.h"
+#include "support/CaseName.h"
 #include "support/EventRecords.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
@@ -203,7 +204,8 @@ INSTANTIATE_TEST_SUITE_P(Shortages, AlertAmounts,
                                          Shortage{"01 : 01", "1 hour and 1 minute"},
                                          Shortage{"01 : 45", "1 hour and 45 minutes"},
                                          Shortage{"02 : 00", "2 hours"},
-                                         Shortage{"20 : 01", "20 hours and 1 minute"}));
+                                         Shortage{"20 : 01", "20 hours and 1 minute"}),
+                         [](const auto& each) { return CaseName(each.param.amount); });
 
 TEST_F(StudyTimeAlerts, EndInTheRunTimeErrorAtATimeLeftThatIsNone) {
     AddHomework(OnToday, "soon");

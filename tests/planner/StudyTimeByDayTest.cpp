@@ -7,6 +7,7 @@
 #include "planner/EventOccursOn.h"
 #include "planner/RecurrenceOracle.h"
 #include "planner/StudyTimeAlert.h"
+#include "support/CaseName.h"
 #include "support/EventRecords.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
@@ -140,7 +141,8 @@ INSTANTIATE_TEST_SUITE_P(Durations, StudyLengths,
                          testing::Values(Length{"1 Hour", 60}, Length{"2 Hours", 120},
                                          Length{"1.5 Hours", 90}, Length{"45 Minutes", 45},
                                          Length{"1 Day", 1}, Length{"20", 20}, Length{"0 Minutes", 0},
-                                         Length{"2.5 Minutes", 2}, Length{"3.5 Minutes", 4}));
+                                         Length{"2.5 Minutes", 2}, Length{"3.5 Minutes", 4}),
+                         [](const auto& each) { return CaseName(each.param.duration); });
 
 TEST_F(StudyOfDays, RoundsAfterEachSessionHalvesToEven) {
     AddStudy({.date = "2009/10/15", .duration = "22.5 Minutes"}); // 22

@@ -3,6 +3,7 @@
 #include "core/RowLists.h"
 #include "core/RunTimeError.h"
 #include "planner/DateHelpers.h"
+#include "support/CaseName.h"
 #include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
@@ -78,7 +79,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Selection{"With Date", "All", {1, 2, 3}, 3, 1},
                     Selection{"Without Date", "All", {4, 5}, 2, 1},
                     Selection{"Without Date", "Not Done", {4}, 2, 1}, Selection{"Week", "All", {}, 0, 0},
-                    Selection{"All", "Classes", {}, 5, 2}));
+                    Selection{"All", "Classes", {}, 5, 2}),
+    [](const auto& each) { return CaseName(std::string(each.param.range) + " " + each.param.list); });
 
 TEST_F(TaskRowsOf, ADayTakeTheirLookFromTheTypeTable) {
     TypeTable.customname.Replace(TypeRow("Task", "School"), "Campus");
