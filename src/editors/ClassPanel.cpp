@@ -1,5 +1,6 @@
 // The panel of one class in frmCourseSchedule: opened to add or to edit it, checked, saved into the dialog's
 // lists. While it is open the term's own buttons are out of reach.
+#include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/frmCourseSchedule.h"
 #include "planner/Colors.h"
@@ -223,7 +224,7 @@ bool frmCourseSchedule::ValidateCredits(bool quiet) {
 }
 
 bool frmCourseSchedule::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != TextBoxCredits || CloseOK || !EntryEnds(event)) {
+    if (watched != TextBoxCredits || CloseOK || ShuttingDown || !EntryEnds(event)) {
         return QDialog::eventFilter(watched, event);
     }
     const bool quiet = IsPressOn(ButtonCancelClass, event);

@@ -151,7 +151,11 @@ void frmCourseSchedule::Delete() {
 }
 
 void frmCourseSchedule::reject() {
-    Cancel();
+    if (ClassEditMode.empty()) {
+        Cancel();
+    } else {
+        ResetClassPanel();
+    }
 }
 
 // The close box counts as Cancel; a close that is not the student's passes.

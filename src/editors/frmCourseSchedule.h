@@ -38,7 +38,7 @@ public:
 
     DatePicker* Picker = nullptr;
 
-    // Escape counts as Cancel.
+    // Escape counts as Cancel, while a class is open as that of the class.
     void reject() override;
 
 protected:

@@ -18,15 +18,15 @@ frmSelectCourseSchedule::frmSelectCourseSchedule(QWidget* parent) : QDialog(pare
                    {picHelp, 406}});
     connect(ButtonActive, &QPushButton::clicked, this, [this] {
         MakeActive = true;
-        hide();
+        TakeAnswer();
     });
     connect(ButtonNew, &QPushButton::clicked, this, [this] {
         NewCourse = true;
-        hide();
+        TakeAnswer();
     });
     connect(ButtonEdit, &QPushButton::clicked, this, [this] {
         NewCourse = false;
-        hide();
+        TakeAnswer();
     });
     connect(ButtonCancel, &QPushButton::clicked, this, &frmSelectCourseSchedule::reject);
 }
@@ -35,6 +35,17 @@ void frmSelectCourseSchedule::ClearAnswer() {
     Cancelled = false;
     NewCourse = false;
     MakeActive = false;
+    SelectedCourse.clear();
+    SelectedTermID.clear();
+}
+
+void frmSelectCourseSchedule::TakeAnswer() {
+    const int row = ComboTermList->currentIndex();
+    if (row >= 0) {
+        SelectedCourse = TextOf(ComboTermList);
+        SelectedTermID = tempTermIDArray.Item(row + 1);
+    }
+    hide();
 }
 
 void frmSelectCourseSchedule::reject() {

@@ -8,6 +8,8 @@
 
 #include <QDialog>
 
+#include <string>
+
 class frmSelectCourseSchedule : public QDialog, public Ui::frmSelectCourseSchedule {
     Q_OBJECT
 
@@ -18,15 +20,19 @@ public:
     void ClearAnswer();
 
     bool Cancelled = false;
-    bool NewCourse = false;   // the answer is a new term
-    bool MakeActive = false;  // the answer is to change to the term that the combo shows
-    TextList tempTermIDArray; // the ids of the combo's rows
+    bool NewCourse = false;                     // the answer is a new term
+    bool MakeActive = false;                    // the answer is to change to the selected term
+    std::string SelectedCourse, SelectedTermID; // the name and the id in the combo as the answer was given
+    TextList tempTermIDArray;                   // the ids of the combo's rows
 
     // Escape counts as Cancel.
     void reject() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+
+private:
+    void TakeAnswer();
 };
 
 // The one dialog, from the load of the main window on, which owns it.

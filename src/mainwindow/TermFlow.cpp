@@ -177,7 +177,7 @@ void frmMain::ClassSchedule() {
         return;
     }
     if (TermChooser->MakeActive) {
-        SetActiveTerm(ToStore(TermChooser->ComboTermList->currentText()));
+        SetActiveTerm(TermChooser->SelectedCourse);
         return;
     }
     frmCourseSchedule& dialog = *TermDialog;

@@ -1,9 +1,7 @@
 // The flows of an assignment: what each way of closing the editor leaves in the store and on the drive.
 #include "core/DateText.h"
 #include "editors/EditorTest.h"
-
-#include <QApplication>
-#include <QCloseEvent>
+#include "editors/frmSelectCourseSchedule.h"
 
 namespace {
 
@@ -25,13 +23,6 @@ protected:
     static void Ok() { Click(AssignmentDialog->ButtonOK); }
 
     static void Cancel() { Click(AssignmentDialog->ButtonCancel); }
-
-    // What the window system sends for the close box.
-    static void PressCloseBox() {
-        QCloseEvent close;
-        QSpontaneKeyEvent::setSpontaneous(&close);
-        qApp->notify(AssignmentDialog, &close);
-    }
 
     static void ExpectFlags(bool cancelled, bool closeOk, bool deleted) {
         EXPECT_EQ(AssignmentDialog->CancelledFlag, cancelled);
@@ -108,6 +99,42 @@ TEST_F(AssignmentFlow, WithoutClassesTheClassScheduleIsOffered) {
     EXPECT_EQ(Script.boxes,
               std::vector{Question("This Term has no classes. Do you want to edit the Class Schedule?")});
     EXPECT_FALSE(AssignmentDialog->isVisible());
+}
+
+TEST_F(AssignmentFlow, YesToANewTermOpensTheTermsAndNothingMore) {
+    Store.Term = {};
+    window->SetActiveTerm("");
+    Script.answers = {Answer::Yes};
+    NewAssignment([this] {
+        EXPECT_TRUE(TermChooser->isVisible());
+        window->SetActiveTerm("Fall 2009");
+        Click(TermChooser->ButtonCancel);
+    });
+    EXPECT_EQ(Script.boxes.size(), 1U);
+    EXPECT_FALSE(AssignmentDialog->isVisible());
+    EXPECT_EQ(Assignments.id.Count(), 0);
+}
+
+TEST_F(AssignmentFlow, YesToTheClassScheduleOpensTheTermsAndNothingMore) {
+    const auto classes = ActiveClasses;
+    ActiveClasses = {};
+    Script.answers = {Answer::Yes};
+    NewAssignment([&classes] {
+        EXPECT_TRUE(TermChooser->isVisible());
+        ActiveClasses = classes; // as if they had been added meanwhile
+        Click(TermChooser->ButtonCancel);
+    });
+    EXPECT_EQ(Script.boxes.size(), 1U);
+    EXPECT_FALSE(AssignmentDialog->isVisible());
+    EXPECT_EQ(Assignments.id.Count(), 0);
+}
+
+TEST_F(AssignmentFlow, QuestionThatTheShutdownAnswersOpensNothing) {
+    ActiveClasses = {};
+    Script.answers = {Answer::Yes};
+    Script.whileBoxIsOpen = [](const ShownBox&) { ShuttingDown = true; };
+    window->NewAssignment();
+    EXPECT_FALSE(TermChooser->isVisible());
 }
 
 TEST_F(AssignmentFlow, WithoutAClassOkAsksForOneAndStaysOpen) {
@@ -286,9 +313,9 @@ TEST_F(AssignmentFlow, CloseBoxCountsAsCancel) {
     Script.answers = {Answer::No, Answer::Yes};
     NewAssignment([] {
         Type(AssignmentDialog->TextBoxDescription, "x");
-        PressCloseBox();
+        PressCloseBox(*AssignmentDialog);
         EXPECT_TRUE(AssignmentDialog->isVisible());
-        PressCloseBox();
+        PressCloseBox(*AssignmentDialog);
         EXPECT_FALSE(AssignmentDialog->isVisible());
     });
     ExpectFlags(true, true, false);

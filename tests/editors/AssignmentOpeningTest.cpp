@@ -222,21 +222,15 @@ TEST_F(AssignmentOpening, ReminderTimeThatIsNoneOpensAndCountsAsNine) {
 }
 
 TEST_F(AssignmentOpening, ControlsHaveTheirHelpNumbers) {
-    const std::vector<std::pair<const char*, int>> numbers{
-        {"ButtonCancel", 201},       {"ButtonDelete", 202},     {"ButtonOK", 203},
-        {"CheckBoxDone", 204},       {"CheckBoxPriority", 205}, {"CheckboxReminder", 206},
-        {"ComboClassNameList", 207}, {"ComboEstTime", 208},     {"ComboPercentComplete", 209},
-        {"ComboReminderTime", 210},  {"ComboTypeList", 211},    {"PicButtonReminderDate", 212},
-        {"TextBoxDescription", 213}, {"TextBoxGrade", 214},     {"TextBoxNotes", 215},
-        {"TextBoxPercentage", 216},  {"TextBoxScore", 217},     {"TextBoxTimeLeft", 218},
-        {"TextBoxTotal", 219},       {"TextboxDateDue", 220},   {"TextboxReminderDate", 221},
-        {"picButtonDateDue", 222},   {"picHelp", 223},
-    };
-    for (const auto& [name, number] : numbers) {
-        const auto* control = dialog->findChild<QWidget*>(QLatin1String(name));
-        ASSERT_NE(control, nullptr) << name;
-        EXPECT_EQ(control->property("helpTopic").toInt(), number) << name;
-    }
+    ExpectTopics(*dialog,
+                 {{"ButtonCancel", 201},       {"ButtonDelete", 202},     {"ButtonOK", 203},
+                  {"CheckBoxDone", 204},       {"CheckBoxPriority", 205}, {"CheckboxReminder", 206},
+                  {"ComboClassNameList", 207}, {"ComboEstTime", 208},     {"ComboPercentComplete", 209},
+                  {"ComboReminderTime", 210},  {"ComboTypeList", 211},    {"PicButtonReminderDate", 212},
+                  {"TextBoxDescription", 213}, {"TextBoxGrade", 214},     {"TextBoxNotes", 215},
+                  {"TextBoxPercentage", 216},  {"TextBoxScore", 217},     {"TextBoxTimeLeft", 218},
+                  {"TextBoxTotal", 219},       {"TextboxDateDue", 220},   {"TextboxReminderDate", 221},
+                  {"picButtonDateDue", 222},   {"picHelp", 223}});
 }
 
 TEST_F(AssignmentOpening, HelpButtonEntersTheWhatsThisMode) {

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCloseEvent>
 
 namespace {
 
@@ -81,6 +82,24 @@ void EditorTest::Click(QWidget* widget) {
     const QPoint at = qobject_cast<QCheckBox*>(widget) != nullptr ? QPoint(6, widget->height() / 2)
                                                                   : widget->rect().center();
     QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+}
+
+void EditorTest::PressCloseBox(QDialog& dialog) {
+    QCloseEvent close;
+    QSpontaneKeyEvent::setSpontaneous(&close);
+    qApp->notify(&dialog, &close);
+    if (close.isAccepted()) {
+        dialog.hide();
+    }
+}
+
+void EditorTest::ExpectTopics(const QDialog& dialog,
+                              std::initializer_list<std::pair<const char*, int>> numbers) {
+    for (const auto& [name, number] : numbers) {
+        const auto* control = dialog.findChild<QWidget*>(QLatin1String(name));
+        ASSERT_NE(control, nullptr) << name;
+        EXPECT_EQ(control->property("helpTopic").toInt(), number) << name;
+    }
 }
 
 ShownBox EditorTest::Message(const std::string& text) {

@@ -10,6 +10,9 @@
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 
+#include <initializer_list>
+#include <utility>
+
 class EditorTest : public WindowTest {
 protected:
     // The window's ClickedDate is 2009-10-20, six days after today.
@@ -43,6 +46,13 @@ protected:
     static void Choose(QComboBox* combo, int row);
 
     static void Click(QWidget* widget);
+
+    // What the window system sends for the close box.
+    static void PressCloseBox(QDialog& dialog);
+
+    // Expects the numbers to be the topics of the dialog's controls of these names.
+    static void ExpectTopics(const QDialog& dialog,
+                             std::initializer_list<std::pair<const char*, int>> numbers);
 
     // The box that the dialogs of these tests show.
     static ShownBox Message(const std::string& text);

@@ -80,6 +80,7 @@ TEST_F(TaskEditor, EditShowsTheFields) {
     EXPECT_EQ(dialog->TextBoxNotes->toPlainText(), "A4\nwhite");
     EXPECT_TRUE(dialog->ButtonDelete->isEnabled());
     EXPECT_EQ(dialog->ComboPriority->currentText(), "High");
+    EXPECT_EQ(dialog->ComboType->currentText(), "None");
     EXPECT_EQ(dialog->ComboPercentComplete->currentText(), "50%");
     EXPECT_EQ(dialog->TextboxTaskDate->text(), "Monday, November 2, 2009");
     EXPECT_EQ(dialog->tempTaskDate, "11/2/2009");
@@ -159,16 +160,37 @@ TEST_F(TaskEditor, OpeningWritesTheHeadsOfThePickerAndHidesIt) {
 }
 
 TEST_F(TaskEditor, CombosOfferTheirRows) {
-    EXPECT_EQ(dialog->ComboPriority->count(), 4);
-    EXPECT_EQ(dialog->ComboPercentComplete->count(), 5);
+    const auto rowsOf = [](const QComboBox* combo) {
+        QStringList rows;
+        for (int row = 0; row < combo->count(); ++row) {
+            rows.append(combo->itemText(row));
+        }
+        return rows;
+    };
+    EXPECT_EQ(rowsOf(dialog->ComboPriority), (QStringList{"None", "Low", "Medium", "High"}));
+    EXPECT_EQ(rowsOf(dialog->ComboPercentComplete), (QStringList{"0%", "25%", "50%", "75%", "100%"}));
     EXPECT_EQ(dialog->ComboReminderTime->count(), 96);
+    EXPECT_EQ(dialog->ComboReminderTime->itemText(36), "9:00 AM");
 }
 
 TEST_F(TaskEditor, ControlsHaveTheirHelpNumbers) {
-    EXPECT_EQ(dialog->ButtonCancel->property("helpTopic").toInt(), 601);
-    EXPECT_EQ(dialog->CheckBoxDeadline->property("helpTopic").toInt(), 604);
-    EXPECT_EQ(dialog->ComboType->property("helpTopic").toInt(), 610);
-    EXPECT_EQ(dialog->picHelp->property("helpTopic").toInt(), 617);
+    ExpectTopics(*dialog, {{"ButtonCancel", 601},
+                           {"ButtonDelete", 602},
+                           {"ButtonOK", 603},
+                           {"CheckBoxDeadline", 604},
+                           {"CheckBoxDone", 605},
+                           {"CheckboxReminder", 606},
+                           {"ComboPercentComplete", 607},
+                           {"ComboPriority", 608},
+                           {"ComboReminderTime", 609},
+                           {"ComboType", 610},
+                           {"PicButtonReminderDate", 611},
+                           {"TextBoxDescription", 612},
+                           {"TextBoxNotes", 613},
+                           {"TextboxReminderDate", 614},
+                           {"TextboxTaskDate", 615},
+                           {"picButtonTaskDate", 616},
+                           {"picHelp", 617}});
 }
 
 // --- Percent and done --------------------------------------------------------------------------------------

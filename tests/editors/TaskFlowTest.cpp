@@ -154,6 +154,48 @@ TEST_F(TaskFlow, CancelOfAnEditAsksForAllChanges) {
     EXPECT_EQ(Tasks.desc.Item(1), "Task");
 }
 
+TEST_F(TaskFlow, CloseBoxCountsAsCancel) {
+    Script.answers = {Answer::No, Answer::Yes};
+    NewTask([] {
+        Type(TaskDialog->TextBoxDescription, "x");
+        PressCloseBox(*TaskDialog);
+        EXPECT_TRUE(TaskDialog->isVisible());
+        PressCloseBox(*TaskDialog);
+        EXPECT_FALSE(TaskDialog->isVisible());
+    });
+    EXPECT_EQ(Script.boxes.size(), 2U);
+    EXPECT_TRUE(TaskDialog->CancelledFlag);
+    EXPECT_EQ(Tasks.id.Count(), 0);
+}
+
+TEST_F(TaskFlow, CloseThatIsNotTheStudentsPassesAndSavesNothing) {
+    NewTask([] {
+        Type(TaskDialog->TextBoxDescription, "x");
+        TaskDialog->close();
+    });
+    EXPECT_TRUE(Script.boxes.empty());
+    EXPECT_EQ(Tasks.id.Count(), 0);
+}
+
+TEST_F(TaskFlow, UntouchedEditKeepsTheRecordAndStillWrites) {
+    AddTaskRecord({.desc = "Old", .priority = "Urgent", .percent_complete = "40%", .notes = "a\r\nb"});
+    const TaskLists before = Tasks;
+    EditTask(1, Ok);
+    for (const Field<TaskLists>& field : TaskFields) {
+        EXPECT_EQ(Tasks.*field.list, before.*field.list) << field.tag;
+    }
+    EXPECT_NE(ReadData("tasks.xml").find("<desc>Old</desc>"), std::string::npos);
+}
+
+TEST_F(TaskFlow, OkByKeyFirstValidatesTheFieldInHand) {
+    NewTask([] {
+        Type(TaskDialog->ComboPercentComplete, "100");
+        TaskDialog->ButtonOK->click();
+    });
+    EXPECT_EQ(Tasks.percent_complete.Item(1), "100%");
+    EXPECT_EQ(Tasks.done.Item(1), "True");
+}
+
 TEST_F(TaskFlow, DeleteAsksAndTakesTheRecordOutOfEveryList) {
     AddTaskRecord({.desc = "First"});
     AddTaskRecord({.desc = "Second"});

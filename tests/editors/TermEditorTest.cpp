@@ -1,77 +1,8 @@
-// The dialog of a term: its classes in their panel, its checks, and the ways in which it closes.
-#include "editors/EditorTest.h"
-#include "editors/frmCourseSchedule.h"
+// The dialog of a term: how it opens, its checks, and the ways in which it closes.
+#include "editors/TermEditorFixture.h"
+#include "editors/frmSelectCourseSchedule.h"
 
-namespace {
-
-class TermEditor : public EditorTest {
-protected:
-    void SetUp() override {
-        EditorTest::SetUp();
-        dialog = TermDialog;
-    }
-
-    void Show(const std::string& mode) {
-        dialog->EditMode = mode;
-        dialog->Fill();
-        ShowAlone(*dialog);
-    }
-
-    void OpenNew() {
-        for (TextList* list :
-             {&dialog->tempClassIDArray, &dialog->tempClassTermLinkArray, &dialog->tempClassNameArray,
-              &dialog->tempClassCreditsArray, &dialog->tempClassForeColorArray,
-              &dialog->tempClassBackColorArray, &dialog->tempClassNotesArray}) {
-            list->Clear();
-        }
-        dialog->tempPreviousTermNamesArray.values = {"Fall 2009"};
-        dialog->NextClassID = 8;
-        Show("New");
-    }
-
-    // A saved term of two classes and a deleted one between them.
-    void OpenEdit() {
-        dialog->tempTermName = "Fall 2009";
-        dialog->tempTermStart = "2009/09/01";
-        dialog->tempTermEnd = "2009/12/20";
-        dialog->tempClassIDArray.values = {"4", "5", "7"};
-        dialog->tempClassTermLinkArray.values = {"1", "1", "1"};
-        dialog->tempClassNameArray.values = {"Algebra", "DELETED RECORD", "History"};
-        dialog->tempClassCreditsArray.values = {"3", "1", "2"};
-        dialog->tempClassForeColorArray.values = {"0", "0", "255"};
-        dialog->tempClassBackColorArray.values = {"16777215", "16777215", "65280"};
-        dialog->tempClassNotesArray.values = {"", "", "Room 12\r\nMondays"};
-        dialog->tempPreviousTermNamesArray.values = {"Fall 2009", "Spring 2010"};
-        dialog->ThisTermsPreviousName = "Fall 2009";
-        dialog->NextClassID = 8;
-        Show("Edit");
-    }
-
-    void AddClass(const QString& name) {
-        Click(dialog->ButtonAddClass);
-        Type(dialog->TextBoxClassName, name);
-        Click(dialog->ButtonOKClass);
-    }
-
-    void OpenClass(int row) {
-        dialog->ComboBoxClassList->setCurrentIndex(row);
-        Click(dialog->ButtonEditClass);
-    }
-
-    QStringList ClassRows() const {
-        QStringList rows;
-        for (int row = 0; row < dialog->ComboBoxClassList->count(); ++row) {
-            rows.append(dialog->ComboBoxClassList->itemText(row));
-        }
-        return rows;
-    }
-
-    bool PanelIsOpen() const { return dialog->TextBoxClassName->isEnabled(); }
-
-    frmCourseSchedule* dialog = nullptr;
-};
-
-} // namespace
+#include <algorithm>
 
 // --- Opening -----------------------------------------------------------------------------------------------
 
@@ -128,200 +59,101 @@ TEST_F(TermEditor, ClassPanelIsClosedAtFirst) {
 }
 
 TEST_F(TermEditor, EveryControlHasItsHelpTopic) {
-    EXPECT_EQ(dialog->ButtonAddClass->property("helpTopic"), 301);
-    EXPECT_EQ(dialog->ComboBoxClassList->property("helpTopic"), 309);
-    EXPECT_EQ(dialog->picButtonStart->property("helpTopic"), 318);
+    ExpectTopics(*dialog, {{"ButtonAddClass", 301},
+                           {"ButtonCancel", 302},
+                           {"ButtonCancelClass", 303},
+                           {"ButtonDelete", 304},
+                           {"ButtonDeleteClass", 305},
+                           {"ButtonEditClass", 306},
+                           {"ButtonOK", 307},
+                           {"ButtonOKClass", 308},
+                           {"ComboBoxClassList", 309},
+                           {"TextBoxClassName", 310},
+                           {"TextBoxCredits", 311},
+                           {"TextBoxNotes", 312},
+                           {"TextBoxTermName", 313},
+                           {"TextboxTermEnd", 314},
+                           {"TextboxTermStart", 315},
+                           {"picHelp", 316},
+                           {"picButtonEnd", 317},
+                           {"picButtonStart", 318}});
+    ExpectTopics(*TermChooser, {{"ButtonActive", 401},
+                                {"ButtonCancel", 402},
+                                {"ButtonEdit", 403},
+                                {"ButtonNew", 404},
+                                {"ComboTermList", 405},
+                                {"picHelp", 406}});
 }
 
-// --- Classes -----------------------------------------------------------------------------------------------
-
-TEST_F(TermEditor, OpenClassPanelLocksTheTermsButtons) {
-    OpenEdit();
-    Click(dialog->ButtonAddClass);
-    EXPECT_TRUE(PanelIsOpen());
-    for (const QWidget* control : std::initializer_list<QWidget*>{
-             dialog->ButtonAddClass, dialog->ButtonEditClass, dialog->ComboBoxClassList, dialog->ButtonOK,
-             dialog->ButtonCancel, dialog->ButtonDelete, dialog->ButtonDeleteClass}) {
-        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
-    }
-    EXPECT_TRUE(dialog->ButtonOKClass->isEnabled());
-    EXPECT_TRUE(dialog->TextBoxClassName->hasFocus());
-}
-
-TEST_F(TermEditor, AddedClassTakesTheNextIdAndTheDefaults) {
-    OpenEdit();
-    Click(dialog->ButtonAddClass);
-    EXPECT_EQ(dialog->SelectedClassID, 8);
-    EXPECT_EQ(dialog->SelectedClassIndex, 3);
-    EXPECT_EQ(dialog->ClassEditMode, "Add");
-    Type(dialog->TextBoxClassName, "Latin");
-    Type(dialog->TextBoxCredits, "1.5");
-    Click(dialog->ButtonOKClass);
-    EXPECT_EQ(dialog->tempClassIDArray.Item(4), "8");
-    EXPECT_EQ(dialog->tempClassNameArray.Item(4), "Latin");
-    EXPECT_EQ(dialog->tempClassCreditsArray.Item(4), "1.5");
-    EXPECT_EQ(dialog->tempClassBackColorArray.Item(4), "16777215");
-    EXPECT_EQ(dialog->tempClassForeColorArray.Item(4), "0");
-    EXPECT_EQ(dialog->NextClassID, 9);
-    EXPECT_EQ(dialog->ComboBoxClassList->currentText(), "Latin");
-    EXPECT_TRUE(dialog->ChangeFlag);
-    EXPECT_FALSE(PanelIsOpen());
-}
-
-TEST_F(TermEditor, EditedClassIsLoadedWithItsColoursAndKeepsThem) {
-    OpenEdit();
-    OpenClass(1);
-    EXPECT_EQ(dialog->SelectedClassIndex, 3);
-    EXPECT_EQ(dialog->SelectedClassID, 7);
-    EXPECT_EQ(dialog->TextBoxClassName->text(), "History");
-    EXPECT_EQ(dialog->TextBoxCredits->text(), "2");
-    EXPECT_EQ(dialog->TextBoxNotes->toPlainText(), "Room 12\nMondays");
-    EXPECT_EQ(BoxColorOf(dialog->TextBoxClassName), 0x00FF00);
-    EXPECT_TRUE(dialog->ButtonDeleteClass->isEnabled());
-    EXPECT_FALSE(dialog->ChangeFlag);
-    Type(dialog->TextBoxCredits, "4");
-    Click(dialog->ButtonOKClass);
-    EXPECT_EQ(dialog->tempClassCreditsArray.Item(3), "4");
-    EXPECT_EQ(dialog->tempClassIDArray.Item(3), "7");
-    EXPECT_EQ(dialog->tempClassBackColorArray.Item(3), "65280");
-    EXPECT_EQ(dialog->tempClassNotesArray.Item(3), "Room 12\r\nMondays");
-    EXPECT_EQ(dialog->ComboBoxClassList->currentText(), "History");
-    EXPECT_EQ(BoxColorOf(dialog->TextBoxClassName), 0xFFFFFF);
-}
-
-TEST_F(TermEditor, ClassCancelLeavesTheLists) {
-    OpenEdit();
-    OpenClass(0);
-    Type(dialog->TextBoxClassName, "Geometry");
-    Click(dialog->ButtonCancelClass);
-    EXPECT_EQ(dialog->tempClassNameArray.Item(1), "Algebra");
-    EXPECT_EQ(dialog->TextBoxClassName->text(), "");
-    EXPECT_FALSE(PanelIsOpen());
-    EXPECT_TRUE(Script.boxes.empty());
-}
-
-TEST_F(TermEditor, ClassNeedsAName) {
-    OpenEdit();
-    AddClass("  ");
-    EXPECT_EQ(Script.boxes, (std::vector{Message("Enter a name for this class.")}));
-    EXPECT_TRUE(dialog->ClassError);
-    EXPECT_TRUE(PanelIsOpen());
-    EXPECT_EQ(dialog->tempClassNameArray.Count(), 3);
-}
-
-TEST_F(TermEditor, ClassOfTheSameNameIsRefusedWhateverItsCase) {
-    OpenEdit();
-    AddClass(" hISTORY ");
-    EXPECT_EQ(Script.boxes, (std::vector{Message("There is already a class with this name.")}));
-    EXPECT_EQ(dialog->TextBoxClassName->text(), "");
-    EXPECT_TRUE(PanelIsOpen());
-}
-
-TEST_F(TermEditor, NameOfADeletedClassIsFree) {
-    OpenEdit();
-    dialog->tempClassNameArray.Replace(2, "DELETED RECORD");
-    AddClass("deleted record");
-    EXPECT_TRUE(Script.boxes.empty());
-    EXPECT_EQ(dialog->tempClassNameArray.Count(), 4);
-}
-
-TEST_F(TermEditor, RenameInASavedTermIsAsked) {
-    const ShownBox question = Question("You have changed the name of this class. If you have created "
-                                       "assignments for 'Algebra', they will now be "
-                                       "for 'Geometry'.\r\n\r\nClick 'Yes' to rename this class.");
-    OpenEdit();
-    Script.answers = {Answer::No, Answer::Yes};
-    OpenClass(0);
-    Type(dialog->TextBoxClassName, "Geometry");
-    Click(dialog->ButtonOKClass);
-    EXPECT_EQ(Script.boxes, (std::vector{question}));
-    EXPECT_EQ(dialog->TextBoxClassName->text(), "Algebra");
-    EXPECT_TRUE(PanelIsOpen());
-    Type(dialog->TextBoxClassName, "Geometry");
-    Click(dialog->ButtonOKClass);
-    EXPECT_EQ(dialog->tempClassNameArray.Item(1), "Geometry");
-    EXPECT_FALSE(PanelIsOpen());
-}
-
-TEST_F(TermEditor, RenameInANewTermAsksNothing) {
+TEST_F(TermEditor, NewTermIsNamedByTheSeasonOfTheDay) {
+    SetClock(2010, 1, 1);
     OpenNew();
-    AddClass("Algebra");
-    OpenClass(0);
-    Type(dialog->TextBoxClassName, "Geometry");
-    Click(dialog->ButtonOKClass);
-    EXPECT_EQ(ClassRows(), QStringList{"Geometry"});
-    EXPECT_TRUE(Script.boxes.empty());
-}
-
-TEST_F(TermEditor, ClassOfASavedTermIsDeletedAfterTwoQuestions) {
-    OpenEdit();
-    Script.answers = {Answer::Yes, Answer::No, Answer::Yes, Answer::Yes};
-    OpenClass(1);
-    Click(dialog->ButtonDeleteClass);
-    EXPECT_EQ(Script.boxes,
-              (std::vector{Question("Delete this class?"),
-                           Question("Are you sure you want to Delete 'History'? If you have assignments for "
-                                    "'History', they will also be Deleted.")}));
-    EXPECT_TRUE(PanelIsOpen());
-    Click(dialog->ButtonDeleteClass);
-    EXPECT_EQ(ClassRows(), QStringList{"Algebra"});
-    EXPECT_EQ(dialog->tempClassIDArray.values, (std::vector<std::string>{"4", "5"}));
-    EXPECT_EQ(dialog->ComboBoxClassList->currentIndex(), 0);
-    EXPECT_TRUE(dialog->ChangeFlag);
-}
-
-TEST_F(TermEditor, ClassOfANewTermIsDeletedAfterOneQuestion) {
+    EXPECT_EQ(dialog->TextBoxTermName->text(), "Winter 2010");
+    SetClock(2010, 2, 1);
     OpenNew();
-    AddClass("Algebra");
-    OpenClass(0);
-    Script.answers = {Answer::Yes};
-    Click(dialog->ButtonDeleteClass);
-    EXPECT_EQ(Script.boxes, (std::vector{Question("Delete this class?")}));
-    EXPECT_EQ(ClassRows(), QStringList{});
-    EXPECT_FALSE(dialog->ButtonEditClass->isEnabled());
+    EXPECT_EQ(dialog->TextBoxTermName->text(), "Spring 2010");
 }
 
-TEST_F(TermEditor, CreditsAreRefusedUnlessANumberOrNothing) {
-    const ShownBox message =
-        Message("Enter the number of credits you will receive for this class. The number is used "
-                "in calculating your total GPA.");
+TEST_F(TermEditor, OpeningWritesTheHeadsOfThePickerAndHidesIt) {
+    window->StartDayOfWeek = "Saturday";
     OpenEdit();
-    OpenClass(0);
-    for (const char* good : {"", "3", "1.5", "0", " 2 "}) {
-        TypeAndLeave(dialog->TextBoxCredits, good);
-        EXPECT_TRUE(Script.boxes.empty()) << good;
-    }
-    for (const char* bad : {"three", "-1", "1,5"}) {
-        Script.boxes.clear();
-        TypeAndLeave(dialog->TextBoxCredits, bad);
-        EXPECT_EQ(Script.boxes, (std::vector{message})) << bad;
-        EXPECT_EQ(dialog->TextBoxCredits->text(), "") << bad;
-        EXPECT_TRUE(dialog->TextBoxCredits->hasFocus()) << bad;
-    }
-    Script.boxes.clear();
-    TypeAndEnter(dialog->TextBoxCredits, "x");
-    EXPECT_EQ(Script.boxes, (std::vector{message}));
-    EXPECT_TRUE(PanelIsOpen());
+    EXPECT_TRUE(dialog->Picker->isHidden());
+    EXPECT_EQ(dialog->Picker->LabelCalDay[2]->text(), "M");
 }
 
-TEST_F(TermEditor, EnterInTheClassNameAcceptsTheClass) {
-    OpenEdit();
-    Click(dialog->ButtonAddClass);
-    TypeAndEnter(dialog->TextBoxClassName, "Latin");
-    EXPECT_EQ(ClassRows(), (QStringList{"Algebra", "History", "Latin"}));
-    EXPECT_TRUE(dialog->isVisible());
+TEST_F(TermEditor, ExplanationsStandInTheWindows) {
+    const auto textsOf = [](const QDialog& shown) {
+        QStringList texts;
+        for (const QLabel* label : shown.findChildren<QLabel*>()) {
+            texts.append(label->text());
+        }
+        return texts;
+    };
+    for (const char* text : {"The Credits value is used in calculating your GPA. You can leave it blank if "
+                             "all your classes have "
+                             "the same number of credits.",
+                             "Click the 'Add Class' button to enter a new class, or select a class from the "
+                             "Class List to edit or "
+                             "delete it."}) {
+        EXPECT_TRUE(textsOf(*dialog).contains(text)) << text;
+    }
+    for (const char* text :
+         {"Use this feature to see the assignments and class schedule from a previous term.",
+          "Note: You can always change it back.",
+          "Click this button to make changes to your current class schedule.",
+          "When a new term starts, click this button to start again with a new class schedule."}) {
+        EXPECT_TRUE(textsOf(*TermChooser).contains(text)) << text;
+    }
+}
+
+TEST_F(TermEditor, EveryInputHasANameForWhoCannotSeeIt) {
+    const QList<QLabel*> labels = dialog->findChildren<QLabel*>() + TermChooser->findChildren<QLabel*>();
+    for (const QWidget* input : std::initializer_list<QWidget*>{
+             dialog->TextBoxTermName, dialog->TextboxTermStart, dialog->TextboxTermEnd,
+             dialog->ComboBoxClassList, dialog->TextBoxClassName, dialog->TextBoxCredits,
+             dialog->TextBoxNotes, TermChooser->ComboTermList}) {
+        EXPECT_TRUE(std::ranges::any_of(labels, [input](const QLabel* label) {
+            return label->buddy() == input;
+        })) << input->objectName().toStdString();
+    }
 }
 
 // --- Dates and closing -------------------------------------------------------------------------------------
 
 TEST_F(TermEditor, PickedDatesAreShownLongAndHeldShort) {
     OpenEdit();
-    dialog->Picker->ShowCalendar(false);
-    emit dialog->Picker->DatePicked(Date{std::chrono::year{2010} / 1 / 15});
-    EXPECT_EQ(dialog->TextboxTermEnd->text(), "Friday, January 15, 2010");
-    EXPECT_EQ(dialog->tempTermEnd, "1/15/2010");
+    Click(dialog->picButtonEnd);
+    Click(dialog->Picker->LabelTomorrow);
+    EXPECT_EQ(dialog->TextboxTermEnd->text(), "Thursday, October 15, 2009");
+    EXPECT_EQ(dialog->tempTermEnd, "10/15/2009");
     EXPECT_EQ(dialog->TextboxTermStart->text(), "Tuesday, September 1, 2009");
     EXPECT_TRUE(dialog->ChangeFlag);
+    FireTimer(dialog->Picker->TimerCalendar);
+    Click(dialog->TextboxTermStart);
+    Click(dialog->Picker->LabelToday);
+    EXPECT_EQ(dialog->TextboxTermStart->text(), "Wednesday, October 14, 2009");
+    EXPECT_EQ(dialog->tempTermStart, "10/14/2009");
+    EXPECT_EQ(dialog->tempTermEnd, "10/15/2009");
 }
 
 TEST_F(TermEditor, TermMustEndAfterItsStart) {
@@ -374,6 +206,28 @@ TEST_F(TermEditor, CancelAsksAfterAChange) {
     EXPECT_TRUE(dialog->isVisible());
     dialog->reject(); // Escape
     EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(dialog->CancelledFlag);
+}
+
+TEST_F(TermEditor, CloseBoxCountsAsCancelAlsoWhileAClassIsOpen) {
+    OpenEdit();
+    Script.answers = {Answer::No, Answer::Yes};
+    OpenClass(0);
+    Type(dialog->TextBoxClassName, "Geometry");
+    PressCloseBox(*dialog);
+    EXPECT_EQ(Script.boxes, (std::vector{Question("Cancel changes to this Term's Class Schedule?")}));
+    EXPECT_TRUE(PanelIsOpen());
+    PressCloseBox(*dialog);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(dialog->CancelledFlag);
+}
+
+TEST_F(TermEditor, CloseThatIsNotTheStudentsPasses) {
+    OpenEdit();
+    Type(dialog->TextBoxTermName, "Fall");
+    dialog->close();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(Script.boxes.empty());
     EXPECT_TRUE(dialog->CancelledFlag);
 }
 

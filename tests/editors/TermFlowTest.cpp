@@ -76,6 +76,88 @@ TEST_F(TermFlow, WithoutTermsOnlyANewOneCanBeStarted) {
     window->ClassSchedule();
 }
 
+TEST_F(TermFlow, DeletedRecordsAreNoTermsToChoose) {
+    Store.Term.id.Add("2");
+    Store.Term.name.Add("DELETED RECORD");
+    Store.Term.start.Add("2010/01/04");
+    Store.Term.end.Add("2010/05/04");
+    WhenDialogOpens([](QWidget*) {
+        EXPECT_EQ(TermChooser->ComboTermList->count(), 1);
+        EXPECT_EQ(TermChooser->tempTermIDArray.values, (std::vector<std::string>{"1"}));
+        Click(TermChooser->ButtonCancel);
+    });
+    window->ClassSchedule();
+}
+
+TEST_F(TermFlow, EscapeAndTheCloseBoxCancelTheChooser) {
+    for (const bool byKey : {true, false}) {
+        WhenDialogOpens([byKey](QWidget*) {
+            if (byKey) {
+                QTest::keyClick(TermChooser, Qt::Key_Escape);
+            } else {
+                PressCloseBox(*TermChooser);
+            }
+        });
+        window->ClassSchedule();
+        EXPECT_TRUE(TermChooser->Cancelled);
+        EXPECT_FALSE(TermChooser->isVisible());
+    }
+    EXPECT_FALSE(FileWrittenFlags.terms);
+}
+
+TEST_F(TermFlow, ChooserTellsTheChosenTerm) {
+    MakeTerm("Spring 2010");
+    WhenDialogOpens([](QWidget*) {
+        TermChooser->ComboTermList->setCurrentText("Fall 2009");
+        Click(TermChooser->ButtonActive);
+    });
+    window->ClassSchedule();
+    EXPECT_TRUE(TermChooser->MakeActive);
+    EXPECT_EQ(TermChooser->SelectedCourse, "Fall 2009");
+    EXPECT_EQ(TermChooser->SelectedTermID, "1");
+    Choose(TermChooser->ButtonCancel);
+    EXPECT_FALSE(TermChooser->MakeActive);
+    EXPECT_EQ(TermChooser->SelectedTermID, "");
+}
+
+TEST_F(TermFlow, CancelledNewTermUsesItsIdUp) {
+    ChooseAndAct(TermChooser->ButtonNew, [] { Click(TermDialog->ButtonCancel); });
+    EXPECT_EQ(NextTermID, 3);
+}
+
+TEST_F(TermFlow, NewTermMayHaveTheNameOfNoOtherOne) {
+    ChooseAndAct(TermChooser->ButtonNew, [] {
+        EXPECT_EQ(TermDialog->tempPreviousTermNamesArray.values, (std::vector<std::string>{"Fall 2009"}));
+        EXPECT_EQ(TermDialog->tempPreviousTermIDsArray.values, (std::vector<std::string>{"1"}));
+        Click(TermDialog->ButtonOK); // the season's name is that of the term
+        EXPECT_TRUE(TermDialog->isVisible());
+        Click(TermDialog->ButtonCancel);
+    });
+    EXPECT_EQ(Script.boxes, std::vector{Message("There is already a Term with this name.")});
+}
+
+TEST_F(TermFlow, EditKnowsTheTermAsItWas) {
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        EXPECT_EQ(TermDialog->tempTermID, "1");
+        EXPECT_EQ(TermDialog->ThisTermsPreviousID, "1");
+        EXPECT_EQ(TermDialog->ThisTermsPreviousName, "Fall 2009");
+        EXPECT_EQ(TermDialog->tempClassIDArray.values, (std::vector<std::string>{"4", "7"}));
+        EXPECT_EQ(TermDialog->NextClassID, 8);
+        Click(TermDialog->ButtonCancel);
+    });
+}
+
+TEST_F(TermFlow, CloseBoxWithAClassOpenWritesNothing) {
+    Script.answers = {Answer::Yes};
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        Click(TermDialog->ButtonAddClass);
+        Type(TermDialog->TextBoxClassName, "Latin");
+        PressCloseBox(*TermDialog);
+    });
+    EXPECT_EQ(Store.ClassRecord.name.values, (std::vector<std::string>{"Algebra", "History"}));
+    EXPECT_FALSE(FileWrittenFlags.terms);
+}
+
 TEST_F(TermFlow, CancelInTheChooserWritesNothing) {
     const std::string before = ReadData("terms.xml");
     Choose(TermChooser->ButtonCancel);
