@@ -9,7 +9,6 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -33,10 +32,14 @@ void RunShutdownSteps(const frmMain& window) {
     }
 }
 
-// From the last to the first.
-void HideAllWindows() {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    std::for_each(windows.rbegin(), windows.rend(), [](QWidget* window) { window->hide(); });
+// The dialogs and boxes, and the main window last.
+void HideAllWindows(frmMain& window) {
+    for (QWidget* other : QApplication::topLevelWidgets()) {
+        if (other != &window) {
+            other->hide();
+        }
+    }
+    window.hide();
 }
 
 } // namespace
@@ -47,6 +50,6 @@ void frmMain::Unload() {
     }
     ShuttingDown = true;
     RunShutdownSteps(*this);
-    HideAllWindows();
+    HideAllWindows(*this);
     QApplication::exit();
 }

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <sys/socket.h>
@@ -21,8 +22,10 @@ constexpr std::initializer_list<int> TerminationSignals{SIGTERM, SIGINT, SIGHUP}
 int signalPipe[2] = {-1, -1}; // a handler writes to the first end, the window thread reads from the second
 
 void NoteSignal(int) {
+    const int interrupted = errno; // which the code that was at work may be about to read
     const char byte = 0;
     [[maybe_unused]] const ssize_t written = ::write(signalPipe[0], &byte, 1);
+    errno = interrupted;
 }
 
 } // namespace
@@ -54,7 +57,7 @@ std::filesystem::path StartupFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation).toStdString() + "/autostart";
 }
 
-void OnTermination(std::function<void()> end) {
+void OnTermination(const std::function<void()>& end) {
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, signalPipe) != 0) {
         return;
     }

@@ -24,7 +24,7 @@ long StartProcess(const std::string& program, std::initializer_list<std::string>
 std::filesystem::path StartupFolder();
 
 // Calls the procedure, on the window thread, when a termination signal arrives or the desktop session ends.
-void OnTermination(std::function<void()> end);
+void OnTermination(const std::function<void()>& end);
 
 // From here on a write beyond the process's limit of a file's size fails like any other instead of ending the
 // process.

@@ -25,15 +25,15 @@ TrayState* tray = nullptr;
 
 void RebuildMenu() {
     tray->menu.clear();
-    const std::vector<std::string> captions = tray->events.menuWanted();
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        if (captions[i] == "-") {
+    int index = 0;
+    for (const std::string& caption : tray->events.menuWanted()) {
+        if (caption == "-") {
             tray->menu.addSeparator();
-            continue;
+        } else {
+            QObject::connect(tray->menu.addAction(MenuText(caption)), &QAction::triggered, &tray->menu,
+                             [index] { tray->events.itemChosen(index); });
         }
-        const QAction* action = tray->menu.addAction(MenuText(captions[i]));
-        QObject::connect(action, &QAction::triggered, &tray->menu,
-                         [index = static_cast<int>(i)] { tray->events.itemChosen(index); });
+        ++index;
     }
 }
 

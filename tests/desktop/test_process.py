@@ -10,6 +10,7 @@ from session import Session
 
 RECORD_FILES = ["classes.xml", "events.xml", "tasks.xml", "terms.xml"]
 BOX = "Planovarium"
+SPLASH = "Planovarium starts"
 TASK_EDITOR = "Planovarium - New Task"
 READ_ERROR = "Planovarium - File Read Error"
 NO_RECORD_FILE = "line 1\n<wrong>\n"
@@ -71,9 +72,11 @@ class Start(DesktopTest):
         planner.write_data("tasks.xml", NO_RECORD_FILE)
         planner.start(shown=False)
         box = wait_until(lambda: self.desktop.window(READ_ERROR), "the failure is told")
+        self.assertIsNotNone(self.desktop.window(SPLASH))
         self.assertEqual(planner.markers(), [f"{planner.process.pid}.PID"])
         self.desktop.press_in(box, "Return")
         planner.wait_for_window()
+        wait_until(lambda: not self.desktop.window(SPLASH), "the splash is gone")
         self.assertTrue((planner.data / "events.xml").exists())
         self.assertEqual(planner.read_data("tasks.xml"), NO_RECORD_FILE)
 

@@ -161,6 +161,37 @@ TEST_F(Process, DaysLeftAreCountedToTheEndOfTheTerm) {
     }
 }
 
+TEST_F(Process, FirstAppearanceGoesByTheCommandLineAndTheStartMode) {
+    struct AppearanceCase {
+        const char* commandLine;
+        const char* autoStart;
+        bool visible;
+        bool minimized;
+    };
+
+    constexpr std::array<AppearanceCase, 9> cases{{
+        {"", "Tray", true, false},
+        {"", "Min", true, false},
+        {"startup folder", "Tray", true, false},
+        {"Startup Folder ", "Tray", true, false},
+        {"Startup Folder", "Normal", true, false},
+        {"Startup Folder", "Min", true, true},
+        {"Startup Folder", "Full", false, false}, // the start looks for "Normal", and it is meant to be so
+        {"Startup Folder", "Tray", false, false},
+        {"Startup Folder", "No", false, false},
+    }};
+    for (const AppearanceCase& each : cases) {
+        window = std::make_unique<frmMain>();
+        MainWindow = window.get();
+        ASSERT_TRUE(window->LoadPlanner());
+        EXPECT_FALSE(window->isVisible()) << "the load shows nothing";
+        window->AutoStart = each.autoStart;
+        window->ShowAtStart(each.commandLine);
+        EXPECT_EQ(window->isVisible(), each.visible) << each.commandLine << "/" << each.autoStart;
+        EXPECT_EQ(window->isMinimized(), each.minimized) << each.commandLine << "/" << each.autoStart;
+    }
+}
+
 TEST_F(Process, TrayMenuOffersTheWindowOnlyWhileItIsHidden) {
     LoadWindow();
     EXPECT_EQ(TrayMenu(), (std::vector<std::string>{"Show Popup Reminders...", "-", "Shutdown Planovarium"}));

@@ -157,7 +157,7 @@ std::filesystem::path StartupFolder() {
     return Script.startupFolder;
 }
 
-void OnTermination(std::function<void()>) {
+void OnTermination(const std::function<void()>&) {
 }
 
 bool SyncToDevice(std::FILE* file) {

@@ -1,0 +1,111 @@
+// The link between two instances, through a real lock file and a real socket in a runtime folder of its own.
+#include "platform/InstanceLink.h"
+
+#include "support/ChildProcess.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QLocalSocket>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace {
+
+// In a process of its own, with its own runtime folder: the expectations run beside a first instance that
+// answers so and remembers what it was told.
+struct FirstInstance {
+    bool accepts = true;
+    std::vector<std::string> commands{};
+};
+
+void BesideAFirstInstance(FirstInstance first, const std::function<void(FirstInstance&)>& expectations) {
+    EXPECT_TRUE(SucceedsInChild([&] {
+        const QTemporaryDir folder;
+        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+        int argc = 0;
+        QCoreApplication application(argc, nullptr);
+        ASSERT_TRUE(ClaimFirstInstance());
+        ASSERT_TRUE(ReceiveLinkCommands("Planovarium", "Transfer Control", [&](const std::string& command) {
+            first.commands.push_back(command);
+            return first.accepts;
+        }));
+        std::thread second([&] {
+            expectations(first);
+            QMetaObject::invokeMethod(&application, &QCoreApplication::quit, Qt::QueuedConnection);
+        });
+        QCoreApplication::exec();
+        second.join();
+    }));
+}
+
+LinkResult TakeControl() {
+    return SendLinkCommand("Planovarium", "Transfer Control", "Take Control");
+}
+
+// What the first instance answers to these bytes.
+QByteArray AnswerTo(const QByteArray& bytes) {
+    QLocalSocket socket;
+    socket.connectToServer(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/planovarium.socket");
+    socket.write(bytes);
+    socket.waitForDisconnected(3000);
+    return socket.readAll();
+}
+
+} // namespace
+
+TEST(InstanceLink, CarriesTheCommandAndItsAcceptance) {
+    BesideAFirstInstance({}, [](FirstInstance& first) {
+        EXPECT_EQ(TakeControl(), LinkResult::Accepted);
+        EXPECT_EQ(SendLinkCommand("Planovarium", "Transfer Control", "anything"), LinkResult::Accepted);
+        EXPECT_EQ(first.commands, (std::vector<std::string>{"Take Control", "anything"}));
+    });
+}
+
+TEST(InstanceLink, CarriesTheRefusal) {
+    BesideAFirstInstance({.accepts = false},
+                         [](FirstInstance&) { EXPECT_EQ(TakeControl(), LinkResult::Refused); });
+}
+
+TEST(InstanceLink, RefusesAnotherApplicationOrTopicWithoutAsking) {
+    BesideAFirstInstance({}, [](FirstInstance& first) {
+        EXPECT_EQ(SendLinkCommand("Another", "Transfer Control", "Take Control"), LinkResult::Refused);
+        EXPECT_EQ(SendLinkCommand("Planovarium", "Other", "Take Control"), LinkResult::Refused);
+        EXPECT_TRUE(first.commands.empty());
+    });
+}
+
+TEST(InstanceLink, HangsUpOnARequestWithoutAnEnd) {
+    BesideAFirstInstance({}, [](FirstInstance& first) {
+        EXPECT_EQ(AnswerTo(QByteArray(2000, 'x')), QByteArray());
+        EXPECT_EQ(AnswerTo("Planovarium|Transfer Control\nTake Control\n"), QByteArray("accepted\n"));
+        EXPECT_EQ(first.commands, std::vector<std::string>{"Take Control"});
+    });
+}
+
+TEST(InstanceLink, HasOneFirstInstanceAtATime) {
+    BesideAFirstInstance(
+        {}, [](FirstInstance&) { EXPECT_TRUE(SucceedsInChild([] { EXPECT_FALSE(ClaimFirstInstance()); })); });
+}
+
+TEST(InstanceLink, TakesOverWhatADeadInstanceLeft) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        const QTemporaryDir folder;
+        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+        int argc = 0;
+        const QCoreApplication application(argc, nullptr);
+        EXPECT_TRUE(SucceedsInChild([] { EXPECT_TRUE(ClaimFirstInstance()); })); // and goes without a word
+        EXPECT_TRUE(QFile::exists(folder.filePath("planovarium.lock")));
+        EXPECT_TRUE(ClaimFirstInstance());
+    }));
+}
+
+TEST(InstanceLink, FailsWithoutAFirstInstance) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        const QTemporaryDir folder;
+        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+        EXPECT_EQ(TakeControl(), LinkResult::Failed);
+    }));
+}
