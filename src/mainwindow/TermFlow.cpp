@@ -33,6 +33,7 @@ void FillChooser(frmSelectCourseSchedule& chooser) {
     chooser.ButtonActive->setEnabled(hasTerms);
     chooser.ButtonEdit->setEnabled(hasTerms);
     ShowComboText(chooser.ComboTermList, ActiveTermName);
+    chooser.ComboTermList->setFocus();
 }
 
 // Gives false when the student cancelled.

@@ -76,6 +76,16 @@ TEST_F(TermFlow, WithoutTermsOnlyANewOneCanBeStarted) {
     window->ClassSchedule();
 }
 
+TEST_F(TermFlow, ChooserBeginsWithTheListOfTermsEachTime) {
+    Choose(TermChooser->ButtonCancel);
+    TermChooser->ButtonCancel->setFocus(); // where the mouse left it
+    WhenDialogOpens([](QWidget*) {
+        EXPECT_EQ(TermChooser->focusWidget(), TermChooser->ComboTermList);
+        Click(TermChooser->ButtonCancel);
+    });
+    window->ClassSchedule();
+}
+
 TEST_F(TermFlow, DeletedRecordsAreNoTermsToChoose) {
     Store.Term.id.Add("2");
     Store.Term.name.Add("DELETED RECORD");
