@@ -15,6 +15,7 @@ PROGRAM = os.environ["PLANOVARIUM_PROGRAM"]
 TITLE = "Planovarium Homework System"
 FAKETIME_LIBRARY = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
 GREATEST_ICON = 48  # pixels; a menu is wider
+WHEEL_UP, WHEEL_DOWN = 4, 5  # the mouse buttons that stand for a notch of the wheel
 LIMIT = 20  # seconds that any condition may take to come true
 
 
@@ -55,7 +56,7 @@ class Desktop:
         self.processes = []
         read_end, write_end = os.pipe()
         self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
-                     "-noreset"],
+                     "-noreset", "-r"],  # no key repeats itself when the machine is slow to let it go
                     os.environ, pass_fds=[write_end])
         os.close(write_end)
         with os.fdopen(read_end) as told:
@@ -65,28 +66,22 @@ class Desktop:
         for name in ("DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"):
             self.environment.pop(name, None)
         self._start(["openbox", "--sm-disable"], self.environment)
-        wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
-                   "the window manager stands")
+        wait_until(self._window_manager_answers, "the window manager answers")
         if tray:
-            self._start_tray()
+            self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "32"],
+                        self.environment)
+            wait_until(lambda: self.windows_named("^panel$"), "the tray stands")
+
+    def _window_manager_answers(self):
+        """Asks for one desktop in place of the usual four. Windows that come up earlier may stay unseen: what
+        openbox reads while it starts it handles only as something more comes."""
+        self.run("xdotool", "set_num_desktops", "1")
+        return self.run("xdotool", "get_num_desktops").strip() == "1"
 
     def _start(self, command, environment, **options):
         self.processes.append(subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
                                                stderr=subprocess.DEVNULL, **options))
         return self.processes[-1]
-
-    def _start_tray(self):
-        """Starts the tray, once more where it gives up by itself or does not come up, as it does now and then."""
-        for _ in range(3):
-            tray = self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request",
-                                "--height", "32"], self.environment)
-            try:
-                wait_until(lambda: tray.poll() is not None or self.windows_named("^panel$"), "the tray stands", 5)
-                if tray.poll() is None:
-                    return
-            except AssertionError:
-                tray.kill()
-        raise AssertionError("The tray does not come up")
 
     def close(self):
         for process in reversed(self.processes):
@@ -100,7 +95,8 @@ class Desktop:
 
     def run(self, *command):
         """The output of a command on this display, whatever its exit."""
-        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False).stdout
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=False,
+                              timeout=LIMIT).stdout
 
     def windows_named(self, pattern):
         """The ids of the windows on the screen whose names match the pattern."""
@@ -114,6 +110,14 @@ class Desktop:
     def active_window_name(self):
         return self.run("xdotool", "getactivewindow", "getwindowname").strip()
 
+    def activate(self, window):
+        """Brings the window to the front and gives it the keyboard."""
+        def is_active():
+            self.run("xdotool", "windowactivate", window)
+            return self.run("xdotool", "getactivewindow").strip() == window
+
+        wait_until(is_active, "the window is active")
+
     def geometry(self, window):
         """Left, top, width and height of a window on the screen."""
         text = self.run("xwininfo", "-id", window)
@@ -126,6 +130,12 @@ class Desktop:
     def click(self, x, y, button=1, repeat=1):
         self.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(repeat), "--delay", "60", str(button))
 
+    def turn_wheel(self, x, y, notches):
+        """Turns the wheel down at a point of the screen; up where the notches are below zero."""
+        button = WHEEL_DOWN if notches > 0 else WHEEL_UP
+        self.run("xdotool", "mousemove", str(x), str(y), "click", "--repeat", str(abs(notches)), "--delay", "10",
+                 str(button))
+
     def key(self, *keys):
         self.run("xdotool", "key", "--clearmodifiers", *keys)
 
@@ -137,15 +147,44 @@ class Desktop:
 
     def press_in(self, window, *keys):
         """Brings the window to the front and presses the keys in it."""
-        self.run("xdotool", "windowactivate", "--sync", window)
+        self.activate(window)
         self.key(*keys)
+
+    def on_screen(self, window, place):
+        """Where on the screen a place of the window is, which is given from the window's left top corner, or below
+        zero from its right and bottom."""
+        left, top, width, height = self.geometry(window)
+        x, y = place
+        return left + (x if x >= 0 else width + x), top + (y if y >= 0 else height + y)
+
+    def click_in(self, window, place, button=1, repeat=1):
+        self.click(*self.on_screen(window, place), button, repeat)
+
+    def move_to(self, window, place):
+        x, y = self.on_screen(window, place)
+        self.run("xdotool", "mousemove", str(x), str(y))
+
+    def hold(self, window, place):
+        """Presses the mouse at the place and leaves it down."""
+        self.move_to(window, place)
+        self.run("xdotool", "mousedown", "1")
+
+    def let_go(self):
+        self.run("xdotool", "mouseup", "1")
+
+    def colours(self, window, area):
+        """The colours in an area of the window, from its left top corner: left, top, width and height; three bytes
+        a pixel, row by row."""
+        left, top, width, height = area
+        return subprocess.run(["import", "-window", window, "-crop", f"{width}x{height}+{left}+{top}", "+repage",
+                               "-depth", "8", "rgb:-"], env=self.environment, capture_output=True, check=True).stdout
 
     def close_with_window_manager(self, window):
         """What the window's close box does."""
         self.run("wmctrl", "-i", "-c", window)
 
     def popup_menu(self):
-        """The id of an open popup menu, or None."""
+        """The id of an open menu or drop-down list, or None."""
         for window in self.run("xdotool", "search", "--onlyvisible", "--class", "planovarium").split():
             told = self.run("xwininfo", "-id", window)
             beyond_an_icon = "Width:" in told and self.geometry(window)[2] > GREATEST_ICON
@@ -178,11 +217,20 @@ class Planner:
         self.environment = dict(desktop.environment, U3_DEVICE_PATH=str(self.drive),
                                 U3_DEVICE_EXEC_PATH=str(self.drive / "Planovarium"),
                                 U3_DEVICE_DOCUMENT_PATH=str(self.documents), U3_HOST_EXEC_PATH=str(self.host))
+        self.complaints = desktop.runtime / f"complaints-{self.drive.name}"  # what the program writes to stderr
+        self.date_file = desktop.runtime / f"date-{self.drive.name}"
         if date:
-            self.environment.update(LD_PRELOAD=FAKETIME_LIBRARY, FAKETIME=f"@{date}",
-                                    FAKETIME_DONT_FAKE_MONOTONIC="1")
+            self.set_date(date)
+            self.environment.update(LD_PRELOAD=FAKETIME_LIBRARY, FAKETIME_TIMESTAMP_FILE=str(self.date_file),
+                                    FAKETIME_NO_CACHE="1", FAKETIME_DONT_FAKE_MONOTONIC="1")
         self.process = None
         self.started = []
+
+    def set_date(self, date):
+        """Lets the clock of the program stand as if it had started at this date and time; also while it runs."""
+        unfinished = self.date_file.with_suffix(".new")
+        unfinished.write_text(f"@{date}\n")
+        unfinished.rename(self.date_file)
 
     def start(self, *arguments, shown=True):
         """Starts the first instance and, unless it starts hidden, waits for its window."""
@@ -192,8 +240,9 @@ class Planner:
         return self
 
     def start_another(self, *arguments, environment=None):
-        process = subprocess.Popen([self.program, *arguments], env=environment or self.environment,
-                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        with self.complaints.open("ab") as complaints:
+            process = subprocess.Popen([self.program, *arguments], env=environment or self.environment,
+                                       stdout=subprocess.DEVNULL, stderr=complaints)
         self.started.append(process)
         return process
 
@@ -201,7 +250,12 @@ class Planner:
         return self.desktop.window(TITLE)
 
     def wait_for_window(self):
-        return wait_until(self.window, "the main window is on the screen")
+        def window():
+            if self.process.poll() is not None:
+                raise AssertionError(f"The planner ended with {self.process.returncode}: {self.complaints.read_text()}")
+            return self.window()
+
+        return wait_until(window, "the main window is on the screen")
 
     def wait_for_exit(self, process=None):
         """The exit status of the process, the first instance's unless told otherwise."""
@@ -224,7 +278,11 @@ class Planner:
         (self.data / name).write_bytes(text.replace("\n", "\r\n").encode("latin-1"))
 
     def read_data(self, name):
-        return (self.data / name).read_bytes().decode("latin-1").replace("\r\n", "\n")
+        """The text of a file of the data folder; empty while the program has the file moved aside to replace it."""
+        try:
+            return (self.data / name).read_bytes().decode("latin-1").replace("\r\n", "\n")
+        except FileNotFoundError:
+            return ""
 
     def close(self):
         for process in self.started:
@@ -244,7 +302,6 @@ class DesktopTest(unittest.TestCase):
     def setUp(self):
         self.desktop = Desktop(self.screen, self.tray)
         self.addCleanup(self.desktop.close)
-        self.addCleanup(self._keep_picture_of_failure)
 
     def _keep_picture_of_failure(self):
         """With PLANOVARIUM_FAILURES set, leaves a picture of the screen of a failed test in that folder."""
@@ -256,6 +313,7 @@ class DesktopTest(unittest.TestCase):
     def planner(self, **options):
         planner = Planner(self.desktop, **options)
         self.addCleanup(planner.close)
+        self.addCleanup(self._keep_picture_of_failure)
         return planner
 
     def click_tray(self, button=1, repeat=1):

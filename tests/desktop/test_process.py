@@ -384,13 +384,6 @@ class WindowPlace(DesktopTest):
         self.desktop.run("wmctrl", "-i", "-r", planner.window(), "-b", "remove,maximized_vert,maximized_horz")
         wait_until(lambda: self.desktop.geometry(planner.window())[2:] == (780, 575), "the window has the design size")
 
-    def test_cannot_be_made_smaller_than_the_design_size(self):
-        planner = self.planner().start()
-        window = planner.window()
-        self.desktop.run("xdotool", "windowsize", window, "300", "200")
-        self.assertTrue(stays_false(lambda: self.desktop.geometry(window)[2] < 780 or
-                                    self.desktop.geometry(window)[3] < 575, 1))
-
 
 if __name__ == "__main__":
     unittest.main()
