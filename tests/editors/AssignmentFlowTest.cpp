@@ -186,6 +186,17 @@ TEST_F(AssignmentFlow, EnterInTheDescriptionIsOk) {
     EXPECT_EQ(Assignments.desc.Item(1), "x");
 }
 
+TEST_F(AssignmentFlow, EnterOnCancelCancels) {
+    NewAssignment([] {
+        Choose(AssignmentDialog->ComboClassNameList, 0);
+        AssignmentDialog->ChangeFlag = false;
+        GoTo(AssignmentDialog->ButtonCancel);
+        QTest::keyClick(AssignmentDialog->ButtonCancel, Qt::Key_Return);
+    });
+    ExpectFlags(true, true, false);
+    EXPECT_EQ(Assignments.id.Count(), 0);
+}
+
 TEST_F(AssignmentFlow, DialogOpensBesideTheWindowOnceAndThenWhereItWasLeft) {
     window->move(100, 80);
     NewAssignment([] {

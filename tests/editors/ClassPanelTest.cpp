@@ -229,6 +229,21 @@ TEST_F(TermEditor, EscapeClosesAnOpenClassAndNotTheTerm) {
     EXPECT_TRUE(Script.boxes.empty());
 }
 
+TEST_F(TermEditor, EnterPressesTheButtonThatHasTheFocus) {
+    OpenEdit();
+    QTest::keyClick(dialog->ButtonAddClass, Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_TRUE(PanelIsOpen());
+    GoTo(dialog->ButtonCancelClass);
+    QTest::keyClick(dialog->ButtonCancelClass, Qt::Key_Return);
+    EXPECT_FALSE(PanelIsOpen());
+    EXPECT_EQ(dialog->tempClassNameArray.Count(), 3);
+    GoTo(dialog->ButtonCancel);
+    QTest::keyClick(dialog->ButtonCancel, Qt::Key_Return);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(dialog->CancelledFlag);
+}
+
 TEST_F(TermEditor, EnterInTheClassNameAcceptsTheClass) {
     OpenEdit();
     Click(dialog->ButtonAddClass);
