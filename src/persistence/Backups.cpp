@@ -16,6 +16,14 @@ void CopyFile(const fs::path& from, const fs::path& to) {
     }
 }
 
+// A generation that could not move on keeps its name, and none takes its place.
+void RenameWhereFree(const fs::path& from, const fs::path& to) {
+    std::error_code ignored;
+    if (!fs::exists(to, ignored)) {
+        fs::rename(from, to, ignored);
+    }
+}
+
 // Errors are ignored throughout: each step takes what the ones before it left.
 void RotateFile(const std::string& name) {
     const fs::path present = BackupFolder / (name + ".xml");
@@ -26,9 +34,9 @@ void RotateFile(const std::string& name) {
     fs::remove(present, ignored);
     CopyFile(DataFolder / (name + ".xml"), present);
     fs::remove(generation(3), ignored);
-    fs::rename(generation(2), generation(3), ignored);
-    fs::rename(generation(1), generation(2), ignored);
-    fs::rename(present, generation(1), ignored);
+    RenameWhereFree(generation(2), generation(3));
+    RenameWhereFree(generation(1), generation(2));
+    RenameWhereFree(present, generation(1));
 }
 
 } // namespace

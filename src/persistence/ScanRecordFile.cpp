@@ -124,10 +124,10 @@ void ReadRecords(const RecordFile& file, std::string_view rest) {
 } // namespace
 
 bool ScanRecordFile(const RecordFile& file) {
+    *file.nextId = 1;
     if (ShuttingDown || !EnterDataFolder()) {
         return false;
     }
-    *file.nextId = 1;
     try {
         CreateWhereMissing(file);
         ReadRecords(file, FileBytes(file.name));

@@ -1,21 +1,16 @@
 // Any text is a date, a time, a moment, a clock or a duration, or it raises the run-time error and nothing
 // else. A date, a time and a moment come back from their stored forms.
+#include "Require.h"
+
 #include "core/DateText.h"
 #include "core/RunTimeError.h"
 #include "planner/DateHelpers.h"
 #include "support/ScriptedPlatform.h"
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 template <class Procedure>
 void RaisesNothingElse(Procedure procedure) {
@@ -50,9 +45,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     if (const std::optional<TimeOfDay> time = TimeIn(text)) {
         Require(*time >= TimeOfDay{0} && *time < std::chrono::hours{24});
+        Require(TimeIn(StoredTime(*time)) == std::chrono::floor<std::chrono::minutes>(*time));
     }
     RaisesNothingElse([&text] { ClockToMinutes(text); });
     RaisesNothingElse([&text] { DurationToMinutes(text); });
     RaisesNothingElse([&text] { DurationByWholeUnit(text); });
+    RaisesNothingElse([&text] { EventLength(text); });
     return 0;
 }

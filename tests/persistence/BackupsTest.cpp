@@ -174,6 +174,29 @@ TEST_F(Backups, LetTheGenerationsThroughThatCanMove) {
     EXPECT_EQ(Generations("tasks"), (Texts{NoFile, NoFile, before[1], before[2]}));
 }
 
+TEST_F(Backups, ThatCannotMoveOnAreNotOverwritten) {
+    Run([] { SaveTask("one"); });
+    Run([] { SaveTask("two"); });
+    const Texts before = Generations("tasks");
+    std::filesystem::create_directories(BackupFolder / "tasks_backup3.xml" / "occupied");
+    Run([] { SaveTask("three"); });
+    EXPECT_EQ(Script.boxes, Boxes{});
+    EXPECT_EQ(BackupFile("tasks.xml"), DataFile("tasks.xml"));
+    EXPECT_EQ(BackupFile("tasks_backup1.xml"), before[1]);
+    EXPECT_EQ(BackupFile("tasks_backup2.xml"), before[2]);
+}
+
+TEST_F(Backups, OfEventsStayAfterAFailedReadThatNoSaveOfThemFollows) {
+    Run(WriteEvents);
+    const std::string one = DataFile("events.xml");
+    SetDataFile("events.xml", "damaged");
+    Run([] {
+        ReadEvents();
+        SaveTask("another file");
+    });
+    EXPECT_EQ(Generations("events"), (Texts{NoFile, one, NoFile, NoFile}));
+}
+
 TEST_F(Backups, TakeTheNewestGenerationsNameOverALeftoverCopy) {
     std::ofstream(BackupFolder / "tasks.xml") << "left over";
     Run([] { SaveTask("one"); });

@@ -1,5 +1,5 @@
-// The files in tests/data/terms, each named for its fault: what is read from it, and whether a message
-// appears.
+// The files in tests/data/terms, each named for its fault: what is read from it, whether a message appears,
+// and what a save makes of it.
 #include "persistence/DataFolderTest.h"
 
 #include <filesystem>
@@ -68,12 +68,23 @@ const std::vector<DamagedFile> DamagedFiles{
 
 const fs::path Folder = fs::path(PLANOVARIUM_TEST_DATA) / "terms";
 
+// Those of them that hold the records of the whole file in another form.
+const Texts OtherForms{"ByteOrderMark",  "DateWithDotsAndDashes", "LastLineWithoutEnd",
+                       "LineFeedsAlone", "RootClosedTooEarly",    "TagUnknown",
+                       "TagsOutOfOrder"};
+
+void TakeDamagedFile(const std::string& name) {
+    fs::copy_file(Folder / (name + ".xml"), DataFolder / "terms.xml", fs::copy_options::overwrite_existing);
+}
+
 class DamagedFileTest : public DataFolderTest, public testing::WithParamInterface<DamagedFile> {};
+
+class SaveOfADamagedFile : public DataFolderTest {};
 
 } // namespace
 
 TEST_P(DamagedFileTest, GivesWhatCanBeReadAndTheMessage) {
-    fs::copy_file(Folder / (GetParam().name + ".xml"), DataFolder / "terms.xml");
+    TakeDamagedFile(GetParam().name);
     const std::string before = DataFile("terms.xml");
     ReadTermsAndClasses();
     const bool failed = GetParam().message == Message::Reading;
@@ -87,6 +98,40 @@ TEST_P(DamagedFileTest, GivesWhatCanBeReadAndTheMessage) {
 
 INSTANTIATE_TEST_SUITE_P(Files, DamagedFileTest, testing::ValuesIn(DamagedFiles),
                          [](const testing::TestParamInfo<DamagedFile>& row) { return row.param.name; });
+
+TEST_F(SaveOfADamagedFile, GivesTheWholeOneWhereOnlyTheFormIsAnother) {
+    TakeDamagedFile("Whole");
+    const std::string whole = DataFile("terms.xml");
+    for (const std::string& name : OtherForms) {
+        ResetStore();
+        TakeDamagedFile(name);
+        ASSERT_NE(DataFile("terms.xml"), whole) << name;
+        ReadTermsAndClasses();
+        WriteTermsAndClasses();
+        EXPECT_EQ(DataFile("terms.xml"), whole) << name;
+    }
+    EXPECT_EQ(Script.boxes, Boxes{});
+}
+
+TEST_F(SaveOfADamagedFile, WithoutATagKeepsTheRecordsOutOfStep) {
+    TakeDamagedFile("TagMissing");
+    ReadTermsAndClasses();
+    WriteTermsAndClasses();
+    EXPECT_EQ(
+        DataFile("terms.xml"),
+        FileOf("term_data", Lines({"<term>", "  <id>1</id>", "  <name>Spring 2010</name>",
+                                   "  <start>2009/08/24</start>", "  <end>2009/12/18</end>", "</term>"})));
+    EXPECT_EQ(Script.boxes, Boxes{});
+}
+
+TEST_F(SaveOfADamagedFile, WithATagTwiceEndsInTheWritingMessageWithTheFileWhole) {
+    TakeDamagedFile("TagDoubled");
+    const std::string before = DataFile("terms.xml");
+    ReadTermsAndClasses();
+    WriteTermsAndClasses();
+    EXPECT_EQ(DataFile("terms.xml"), before);
+    EXPECT_EQ(Script.boxes, Boxes{FileErrorBox("terms.xml.tmp", "writing")});
+}
 
 TEST(DamagedFilesFolder, HasARowForEachOfItsFiles) {
     std::set<std::string> names;

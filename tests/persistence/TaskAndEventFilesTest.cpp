@@ -32,11 +32,14 @@ TEST_F(Tasks, AreWrittenByteForByteAndReadBackTheSame) {
         FileOf("task_data", TaskText("1", "2009/10/14", "A < B & C", "True", "2009/10/14", "one\r\ntwo") +
                                 TaskText("2", "2009/10/15", "DELETED RECORD", "True", "2009/10/15", "")));
     EXPECT_TRUE(FileWrittenFlags.tasks);
-    const TaskLists written = Store.TaskRecord;
+    TaskLists expected = Store.TaskRecord;
+    expected.date.Replace(2, "2009/10/15");
+    expected.reminder_date.Replace(2, "2009/10/15");
     ResetStore();
     ReadTasks();
-    EXPECT_EQ(Store.TaskRecord.notes, written.notes);
-    EXPECT_EQ(Store.TaskRecord.date.values, (Texts{"2009/10/14", "2009/10/15"}));
+    for (const Field<TaskLists>& field : TaskFields) {
+        EXPECT_EQ(Store.TaskRecord.*field.list, expected.*field.list) << field.tag;
+    }
     EXPECT_EQ(NextTaskID, 3);
 }
 

@@ -8,10 +8,6 @@ class TermsAndClasses : public DataFolderTest {};
 
 class Assignments : public DataFolderTest {};
 
-class Tasks : public DataFolderTest {};
-
-class Events : public DataFolderTest {};
-
 void AddTerm(const std::string& id, const std::string& name, const std::string& start,
              const std::string& end) {
     Store.Term.id.Add(id);
@@ -94,11 +90,13 @@ TEST_F(TermsAndClasses, AreWrittenByteForByteAndReadBackTheSame) {
     const PlannerStore written = Store;
     ResetStore();
     ReadTermsAndClasses();
+    EXPECT_EQ(Store.Term.id, written.Term.id);
     EXPECT_EQ(Store.Term.name, written.Term.name);
     EXPECT_EQ(Store.Term.start.values, (Texts{"2009/08/24", "2010/01/11", "//"}));
     EXPECT_EQ(Store.Term.end.values, (Texts{"2009/12/18", "2010/05/14", "soon/soon/soon"}));
-    EXPECT_EQ(Store.ClassRecord.notes, written.ClassRecord.notes);
-    EXPECT_EQ(Store.ClassRecord.credits, written.ClassRecord.credits);
+    for (const Field<ClassLists>& field : ClassFields) {
+        EXPECT_EQ(Store.ClassRecord.*field.list, written.ClassRecord.*field.list) << field.tag;
+    }
     EXPECT_EQ(NextTermID, 4);
     EXPECT_EQ(NextClassID, 9);
     EXPECT_EQ(Script.boxes, Boxes{});
@@ -235,5 +233,14 @@ TEST_F(Assignments, AreNotReadFromADamagedFileButTheCounterStartsAt1) {
     NextAssignmentID = 50;
     SetDataFile("assignments_3.xml", "damaged");
     ReadAssignments();
+    EXPECT_EQ(NextAssignmentID, 1);
+}
+
+TEST_F(Assignments, StartTheCounterAt1AlsoWhenTheFolderIsGone) {
+    ActiveTermID = 3;
+    NextAssignmentID = 50;
+    std::filesystem::rename(DataFolder, drive.root / "elsewhere");
+    ReadAssignments();
+    EXPECT_EQ(Script.boxes, Boxes{DirectoryErrorBox()});
     EXPECT_EQ(NextAssignmentID, 1);
 }
