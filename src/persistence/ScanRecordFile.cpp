@@ -109,9 +109,8 @@ void ReadRecords(const RecordFile& file, std::string_view rest) {
     bool betweenRecords = true;
     while (const std::optional<std::string_view> line = TakeLine(rest)) {
         const std::string_view trimmed = Trim(*line);
-        if (trimmed.empty() ||
-            trimmed == rootEnd) { // the root's end ends nothing: lines behind it are read on
-            continue;
+        if (trimmed.empty() || trimmed == rootEnd) {
+            continue; // the root's end ends nothing: lines behind it are read on
         }
         if (trimmed == (betweenRecords ? recordStart : recordEnd)) {
             betweenRecords = !betweenRecords;

@@ -10,8 +10,7 @@
 #include <string_view>
 #include <vector>
 
-// --- Folders
-// ---------------------------------------------------------------------------------------------------
+// --- Folders -----------------------------------------------------------------------------------------------
 
 // Sets the help file and the three folders of the drive, creates those that are missing and enters the data
 // folder. False when it cannot be entered: the message has been shown, and the process is to end. Raises the
@@ -22,8 +21,7 @@ bool SetupFolders();
 // fails.
 bool EnterDataFolder();
 
-// --- Messages
-// --------------------------------------------------------------------------------------------------
+// --- Messages ----------------------------------------------------------------------------------------------
 
 // Tells that reading or writing a file failed (the action is "reading" or "writing"), and clears the file's
 // written flag, so that its backups stay as they are.
@@ -35,8 +33,7 @@ void ShowDirectoryError();
 // The written flag of a record file, told by how its name begins; null for any other file.
 bool* WrittenFlag(std::string_view fileName);
 
-// --- Record files
-// ----------------------------------------------------------------------------------------------
+// --- Record files ------------------------------------------------------------------------------------------
 
 // A field of a record file: its tag, the store's list that holds its values, and how they are read and
 // written.
@@ -85,8 +82,7 @@ void WriteTasks();
 void ReadEvents();
 void WriteEvents();
 
-// --- Backups
-// ---------------------------------------------------------------------------------------------------
+// --- Backups -----------------------------------------------------------------------------------------------
 
 // Moves the backups of each file that was written in this run on by one of three generations and makes the
 // present file the newest. Of the assignments that is the active term's file. All errors are ignored.

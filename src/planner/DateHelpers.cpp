@@ -7,7 +7,6 @@
 
 namespace {
 
-using std::chrono::day;
 using std::chrono::days;
 using std::chrono::floor;
 using std::chrono::last;

@@ -148,6 +148,16 @@ TEST_F(Process, LoadWithoutTermsSelectsNone) {
     EXPECT_EQ(window->LabelDaysLeft->text(), "");
 }
 
+TEST_F(Process, LoadGoesOnWithWhatWasReadOfAFileThatFails) {
+    WriteData("terms.xml", TwoTerms + "<id>none</id>\n");
+    LoadWindow();
+    ASSERT_EQ(Script.boxes.size(), 1U);
+    EXPECT_NE(Script.boxes[0].text.find("Error reading the file: terms.xml"), std::string::npos);
+    EXPECT_FALSE(DataExists("classes.xml"));
+    EXPECT_TRUE(DataExists("tasks.xml") && DataExists("events.xml"));
+    EXPECT_EQ(window->LabelTerm->text(), "Spring 2010");
+}
+
 TEST_F(Process, DaysLeftAreCountedToTheEndOfTheTerm) {
     WriteData("terms.xml", TwoTerms);
     WriteData("Prefs.ini", "ActiveTerm=Fall 2009\n");

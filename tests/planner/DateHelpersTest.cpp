@@ -14,6 +14,13 @@ TEST(DaysInMonths, FollowTheCalendar) {
     EXPECT_EQ(DaysInMonth(2009, 13), 31);
 }
 
+TEST(DaysInMonths, AreThirtyOneInDecemberOfAnyYearAndInTheJanuaryBehindIt) {
+    for (int year = 100; year <= 9999; ++year) {
+        ASSERT_EQ(DaysInMonth(year, 12), 31) << year;
+        ASSERT_EQ(DaysInMonth(year, 13), 31) << year;
+    }
+}
+
 TEST(DaysInMonths, SumToFourCenturies) {
     int sum = 0;
     for (int year = 1600; year < 2000; ++year) {
@@ -54,6 +61,7 @@ TEST(ClockTexts, KeepTheLastTwoDigits) {
     EXPECT_EQ(MinutesToClock(750), "12:30");
     EXPECT_EQ(MinutesToClock(6000), "00:00");
     EXPECT_EQ(MinutesToClock(6015), "00:15");
+    EXPECT_EQ(MinutesToClock(5999), "99:59");
 }
 
 TEST(ClockTexts, AreReadFromBothEnds) {
