@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -68,11 +69,12 @@ bool FireLatest(ModelItem& item, Moment now) {
 }
 
 bool FireSnoozed(ModelItem& item) {
-    item.alarm.reset();
+    const std::optional<Moment> alarm = std::exchange(item.alarm, std::nullopt);
     item.stands = !IsException(Store.EventRecord.exceptions.Item(IndexOf(item)), item.shown);
     if (item.stands && item.onlySnoozeLeft) {
         item.armed = false;
         GoOnFrom(item, item.shown);
+        item.nextAlarm = alarm; // snoozed again, it fires at once, unless the clock was set back before this
     }
     return item.stands;
 }

@@ -22,7 +22,9 @@ struct Simulation {
     ReminderWindow window;
     std::map<int, AssignmentLists> closedTerms; // the assignments of those not active, as in their files
     std::set<std::string> dismissed;            // rows that were acted on and may not come back
+    PlannerStore before;                        // as the last tick or action left it
     std::vector<std::string> rows;              // as they stood after the last tick
+    int fired = 0;                              // reminders, since the beginning
 
     int Below(int limit) { return std::uniform_int_distribution<int>{0, limit - 1}(random); }
 
