@@ -1,12 +1,11 @@
 // The commands of the menu bar, the mode bar and the buttons, bound to their procedures.
 #include "core/Module1.h"
 #include "mainwindow/ModeTables.h"
+#include "mainwindow/MorningTime.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Process.h"
 
 namespace {
-
-constexpr const char* NewEventStart = "9:00 AM";
 
 // A checkable item turns its check mark before it tells that it was chosen. It is turned back, so that the
 // command finds the marks as they were.
@@ -38,7 +37,7 @@ void BindModeChoices(frmMain& window) {
 void frmMain::BindCommands() {
     BindModeChoices(*this);
     const auto newEvent = [this] {
-        EventClickedStartTime = NewEventStart;
+        EventClickedStartTime = MorningTime;
         NewEvent();
     };
     connect(MenuNewAssignment, &QAction::triggered, this, &frmMain::NewAssignment);

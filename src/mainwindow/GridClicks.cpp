@@ -35,17 +35,30 @@ void ClickCalendar(frmMain& window, int x, int y, bool right) {
 }
 
 void ClickDay(frmMain& window, int y, bool right) {
+    const bool onBox = window.ClickedRow > 0;
+    if (!onBox) {
+        window.EventClickedStartTime = StartTimeOfHalfHour(HalfHourAt(y, window.FirstRow));
+    }
     if (right) {
         window.ShowEventListMenu();
-    } else if (window.ClickedRow > 0) {
+    } else if (onBox) {
         window.OpenEventBox(window.ClickedRow);
     } else {
-        window.OpenHalfHour(HalfHourAt(y, window.FirstRow));
+        window.NewEvent();
     }
 }
 
 bool HasListMenu(Mode mode) {
     return mode == Mode::Homework || mode == Mode::Tasks;
+}
+
+// The keys go on from the row that was clicked.
+void MoveCurrentRow(frmMain& window, int row) {
+    if (row != window.CurrentRow) {
+        window.CurrentRow = row;
+        window.LayoutGrid();
+        window.FillGrid();
+    }
 }
 
 void ClickList(frmMain& window, bool right) {
@@ -58,7 +71,7 @@ void ClickList(frmMain& window, bool right) {
         return;
     }
     if (row <= window.RowCount) {
-        window.CurrentRow = row;
+        MoveCurrentRow(window, row);
         window.OpenRow(row);
     } else if (mode == Mode::Homework) {
         window.NewAssignment();
@@ -92,7 +105,6 @@ void frmMain::BindGrid() {
     connect(picGrid, &PictureBox::Pressed, this, &frmMain::GridPressed);
     connect(picGrid, &PictureBox::Released, this, &frmMain::GridReleased);
     connect(picGrid, &PictureBox::WheelTurned, this, &frmMain::MouseWheel);
-    connect(picGrid, &PictureBox::Resized, this, &frmMain::GridResized);
     for (std::size_t i = 0; i < picColHeader.size(); ++i) {
         connect(picColHeader[i], &PictureBox::Clicked, this,
                 [this, i] { ColumnClicked(static_cast<int>(i)); });
@@ -101,9 +113,8 @@ void frmMain::BindGrid() {
 }
 
 void frmMain::GridResized() {
-    const bool idle = RefreshReason == ReasonNone && !ChangingMode;
-    if (idle && CurrentMode() != Mode::None && !isMinimized()) {
-        RefreshFor(ReasonResize);
+    if (!ChangingMode) {
+        RefreshAfterResize();
     }
 }
 

@@ -69,7 +69,7 @@ void ShowWithRow(frmMain& window, int row) {
     NotifyGridMoved(window);
 }
 
-// --- The lists ---------------------------------------------------------------------------------------------
+// --- The lists ---
 
 bool ListKey(frmMain& window, int key) {
     if (const auto move = MoveOf(key)) {
@@ -104,8 +104,7 @@ bool ListMenuKey(frmMain& window, Mode mode) {
     return mode == Mode::Homework || mode == Mode::Tasks;
 }
 
-// --- The schedule of a day
-// -----------------------------------------------------------------------------------
+// --- The schedule of a day ---
 
 // To the side the keys choose among the events of the half hour.
 void ChooseEvent(frmMain& window, int step) {
@@ -145,8 +144,7 @@ bool DayMenuKeyPressed(frmMain& window) {
     return true;
 }
 
-// --- The month
-// -------------------------------------------------------------------------------------------------
+// --- The month ---
 
 // The selected day is always one of the month's cells.
 const CalendarCell& SelectedCell(const frmMain& window) {
@@ -195,8 +193,7 @@ bool MonthMenuKey(frmMain& window) {
     return true;
 }
 
-// --- All views
-// ---------------------------------------------------------------------------------------------------
+// --- All views ---
 
 // The selected day, moved from every view in which the calendar reacts.
 bool DateKey(frmMain& window, int key) {

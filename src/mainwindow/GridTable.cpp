@@ -55,8 +55,7 @@ std::size_t CellIndex(int row, int column) {
     return static_cast<std::size_t>(row * DaysPerWeek + column);
 }
 
-// --- The lists
-// -------------------------------------------------------------------------------------------------
+// --- The lists ---
 
 QString ListTitle(ListKind kind, int column) {
     const std::string_view title = Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title);
@@ -94,8 +93,7 @@ QRect ListPlace(const frmMain& window, ListKind kind, int row, int column) {
     return InPixels(CellRect(place, row + 2 - window.FirstRow));
 }
 
-// --- The month
-// -------------------------------------------------------------------------------------------------
+// --- The month ---
 
 QString DoneOfAll(const char* what, int done, int left) {
     return done + left == 0
@@ -111,8 +109,7 @@ QString DayText(const CalendarMonth& month, std::size_t cell) {
            (events == 0 ? QString() : QStringLiteral(", events %1").arg(events));
 }
 
-// --- The day
-// -----------------------------------------------------------------------------------------------------
+// --- The day ---
 
 QString EventText(int eventRow, int column) {
     const EventLists& store = Store.EventRecord;

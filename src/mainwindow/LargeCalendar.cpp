@@ -1,5 +1,6 @@
 // The large calendar, painted on the grid in Calendar mode.
 #include "mainwindow/LargeCalendarLayout.h"
+#include "mainwindow/ListGrid.h"
 #include "mainwindow/frmMain.h"
 #include "planner/DateTitles.h"
 #include "platform/Text.h"
@@ -114,9 +115,7 @@ void PaintLines(PictureBox& surface, const CalendarCell& cell, const CalendarMon
 
 void frmMain::LayoutCalendarGrid() {
     VSGridScroll->hide();
-    for (PictureBox* header : picColHeader) {
-        header->hide();
-    }
+    HideColumnTitles(*this);
     CalendarGrid = LayOutCalendar(picGrid->WidthInUnits(), picGrid->HeightInUnits(), Month);
     picGrid->Clear();
     PaintGrounds(*picGrid, CalendarGrid, Month);
@@ -134,6 +133,5 @@ void frmMain::LayoutCalendarGrid() {
 }
 
 void frmMain::ShowCalendarTitles() {
-    LabelTop->setText(FromScreen(MonthTitle(ClickedDate)));
-    LabelInfoTitle->setText(FromScreen(DayTitle(ClickedDate)));
+    ShowTopTitles(*this, FromScreen(MonthTitle(ClickedDate)));
 }

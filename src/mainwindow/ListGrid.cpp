@@ -5,6 +5,7 @@
 #include "mainwindow/ListRows.h"
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
+#include "planner/DateTitles.h"
 #include "platform/Text.h"
 
 namespace {
@@ -28,6 +29,7 @@ void PlaceTitles(frmMain& window, const std::vector<ColumnPlace>& places) {
         if (used) {
             window.picColHeader[i]->setGeometry(places[i].left / UnitsPerPixel, 0,
                                                 places[i].width / UnitsPerPixel, TitleHeight);
+            window.picColHeader[i]->ShowPicture(QLatin1String(TitlePicture));
         }
         window.picColHeader[i]->setVisible(used);
     }
@@ -137,7 +139,7 @@ void ShowList(frmMain& window, ListKind kind) {
 
 void ShowTopTitles(frmMain& window, const QString& top) {
     window.LabelTop->setText(top);
-    window.LabelInfoTitle->setText(FromScreen(FormatDate(window.ClickedDate, "dddd, mmm d")));
+    window.LabelInfoTitle->setText(FromScreen(DayTitle(window.ClickedDate)));
 }
 
 void ShowTopTitlesOfDay(frmMain& window, const char* words) {
@@ -174,8 +176,5 @@ void frmMain::HighlightRow(int row, bool on) {
     const UnitRect rect = CellRect({0, RowNumberWidth * UnitsPerPixel}, row);
     picGrid->FillRectangle(rect.left, rect.top, rect.width, rect.height, on ? ColorBlack : ColorWhite);
     DrawRowNumber(*picGrid, row, number, on ? ColorWhite : ColorBlack);
-    if (number == CurrentRow) {
-        DrawCurrentRow(*picGrid, row);
-    }
     picGrid->repaint(); // before the editor loads
 }

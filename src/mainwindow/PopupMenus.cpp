@@ -2,6 +2,7 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
+#include "mainwindow/MorningTime.h"
 #include "mainwindow/frmMain.h"
 #include "planner/EventSelection.h"
 #include "planner/HomeworkSelection.h"
@@ -42,8 +43,6 @@ constexpr std::array<TagCommand, 9> TagCommands{{
     {"event new", PopupCommand::NewEvent},
     {"event view", PopupCommand::SeeEvents},
 }};
-
-constexpr const char* MorningTime = "9:00 AM";
 
 // The columns by which the menus of a day are sorted.
 constexpr int HomeworkDayColumn = 8;

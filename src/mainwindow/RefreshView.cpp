@@ -81,5 +81,5 @@ void frmMain::RefreshAfterResize() {
 
 void frmMain::BindModes() {
     // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
-    connect(picGrid, &PictureBox::Resized, this, &frmMain::RefreshAfterResize);
+    connect(picGrid, &PictureBox::Resized, this, &frmMain::GridResized);
 }

@@ -1,6 +1,5 @@
 // The commands of the menu bar, the mode bar and the buttons.
-#include "core/Module1.h"
-#include "support/WindowTest.h"
+#include "mainwindow/GridTest.h"
 
 #include <QMenuBar>
 
@@ -29,6 +28,8 @@ protected:
 
     void Press(Qt::Key key) { QTest::keyClick(window->picGrid, key, Qt::ControlModifier); }
 };
+
+using NewItems = GridTest; // with a term and a class
 
 } // namespace
 
@@ -158,6 +159,24 @@ TEST_F(Commands, NewEventsStartAtNine) {
         act();
         EXPECT_EQ(window->EventClickedStartTime, "9:00 AM");
     }
+}
+
+TEST_F(NewItems, ItemsAndButtonsAskForTheSame) {
+    window->MenuNewAssignment->trigger();
+    QTest::mouseClick(window->ButtonNewAssignmentSmall, Qt::LeftButton);
+    window->ButtonNewAssignment->click();
+    EXPECT_EQ(Opened, QStringList(3, "Planovarium - New Assignment: "));
+    Opened.clear();
+    window->MenuNewTask->trigger();
+    QTest::mouseClick(window->ButtonNewTaskSmall, Qt::LeftButton);
+    window->ButtonNewTask->click();
+    EXPECT_EQ(Opened, QStringList(3, "Planovarium - New Task: "));
+}
+
+TEST_F(NewItems, ClassScheduleAsksForTheTerm) {
+    window->MenuClassSchedule->trigger();
+    window->ButtonSelectTerm->click();
+    EXPECT_EQ(Opened, QStringList(2, "Planovarium - Select a Term"));
 }
 
 TEST_F(Commands, EditClassScheduleGivesTheGridTheFocus) {

@@ -1,23 +1,12 @@
-// Scrolling, sorting and clicking on the grid.
+// Sorting and clicking on the grid.
 #include "mainwindow/GridTest.h"
 
 #include "core/RowLists.h"
-
-#include <QApplication>
-#include <QWheelEvent>
 
 namespace {
 
 class GridClicks : public GridTest {
 protected:
-    void TurnWheel(QWidget* over, int angle) {
-        const QPointF place = QPointF(over->rect().center());
-        QWheelEvent event(place, over->mapToGlobal(place), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event); // only such an event goes on to what lies behind
-        qApp->notify(over, &event);
-    }
-
     void ClickTitle(std::size_t column) { QTest::mouseClick(window->picColHeader[column], Qt::LeftButton); }
 
     QPoint HalfHourPoint(int halfHour) const {
@@ -31,104 +20,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(GridClicks, TheScrollBarIsDisabledWhileAllRowsFit) {
-    AddAssignments(3);
-    window->ShowHomeworkMode();
-    EXPECT_FALSE(window->VSGridScroll->isEnabled());
-    EXPECT_TRUE(window->VSGridScroll->isVisible());
-    EXPECT_EQ(window->VSGridScroll->value(), 1);
-}
-
-TEST_F(GridClicks, TheScrollBarRunsUntilTheLastRowIsTheLastVisible) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    EXPECT_TRUE(window->VSGridScroll->isEnabled());
-    EXPECT_EQ(window->VSGridScroll->minimum(), 1);
-    EXPECT_EQ(window->VSGridScroll->maximum(), 60 - window->RowsVisible + 1);
-    EXPECT_EQ(window->VSGridScroll->singleStep(), 1);
-    EXPECT_EQ(window->VSGridScroll->pageStep(), window->RowsVisible - 1);
-    window->VSGridScroll->setValue(window->VSGridScroll->maximum());
-    EXPECT_EQ(Cell(ListKind::Homework, window->RowsVisible, 0).text, "60");
-}
-
-TEST_F(GridClicks, ScrollingShowsTheRowsFromItsValueOn) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->VSGridScroll->setValue(7);
-    EXPECT_EQ(window->FirstRow, 7);
-    EXPECT_EQ(RowTexts(ListKind::Homework, 1).mid(0, 6),
-              (QStringList{"7", "", "", "Algebra ", "Reading", "A7 "}));
-}
-
-TEST_F(GridClicks, TheFirstRowSurvivesARefresh) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->VSGridScroll->setValue(7);
-    Refresh();
-    EXPECT_EQ(window->FirstRow, 7);
-}
-
-TEST_F(GridClicks, AListThatBecomesShorterKeepsItsLastRowsInView) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->VSGridScroll->setValue(window->VSGridScroll->maximum());
-    while (Store.Assignment.id.Count() > 40) {
-        RemoveRecord(Store.Assignment, AssignmentFields, 1);
-    }
-    Refresh();
-    EXPECT_EQ(window->FirstRow, 40 - window->RowsVisible + 1);
-    EXPECT_EQ(Cell(ListKind::Homework, window->RowsVisible, 0).text, "40");
-    while (Store.Assignment.id.Count() > 3) {
-        RemoveRecord(Store.Assignment, AssignmentFields, 1);
-    }
-    Refresh();
-    EXPECT_EQ(window->FirstRow, 1);
-    EXPECT_EQ(RowsPainted(), 3);
-}
-
-TEST_F(GridClicks, TheScrollBarHandsItsFocusToTheGrid) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->VSGridScroll->setFocus();
-    EXPECT_EQ(window->focusWidget(), window->picGrid);
-    EXPECT_EQ(window->VSGridScroll->focusPolicy(), Qt::NoFocus);
-}
-
-TEST_F(GridClicks, TheWheelMovesThreeRowsAndStopsAtBothEnds) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    TurnWheel(window->picGrid, -120);
-    EXPECT_EQ(window->FirstRow, 4);
-    TurnWheel(window->picGrid, 120);
-    TurnWheel(window->picGrid, 120);
-    EXPECT_EQ(window->FirstRow, 1);
-    for (int i = 0; i < 40; ++i) {
-        TurnWheel(window->picGrid, -120);
-    }
-    EXPECT_EQ(window->FirstRow, window->VSGridScroll->maximum());
-}
-
-TEST_F(GridClicks, TheWheelCountsOverTitlesAndOverTheRestOfTheWindow) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    TurnWheel(window->picColHeader[3], -120);
-    EXPECT_EQ(window->FirstRow, 4);
-    TurnWheel(window->LabelTop, -120);
-    EXPECT_EQ(window->FirstRow, 7);
-}
-
-TEST_F(GridClicks, TheWheelDoesNothingWhileTheScrollBarIsDisabledOrHidden) {
-    AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->ShowCalendarMode();
-    TurnWheel(window->picGrid, -120);
-    EXPECT_EQ(window->VSGridScroll->value(), 1);
-    Store.Assignment = {};
-    window->ShowHomeworkMode();
-    TurnWheel(window->picGrid, -120);
-    EXPECT_EQ(window->VSGridScroll->value(), 1);
-}
 
 TEST_F(GridClicks, ATitleSortsByItsColumnAndTurnsAtTheSecondClick) {
     AddAssignmentRecord({.desc = "b"});
@@ -275,8 +166,9 @@ TEST_F(GridClicks, RemindersOpenTheirRecordWithEitherButton) {
     window->ShowReminderMode();
     window->ColumnClicked(1); // by kind: Homework, then Task
     ClickRow(1);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{"1"});
     ClickRow(2, Qt::RightButton);
-    EXPECT_EQ(HighlightedNumbers(), (QStringList{"1", "2"}));
+    EXPECT_EQ(HighlightedNumbers(), QStringList{"2"});
     EXPECT_EQ(Opened,
               (QStringList{"Planovarium - Edit Assignment: Page 12", "Planovarium - Edit Task: Call"}));
 }
@@ -323,6 +215,31 @@ TEST_F(GridClicks, AClickOnABoxTakesNoTime) {
     Click(HalfHourPoint(18));
     EXPECT_EQ(window->ClickedRow, 1);
     EXPECT_EQ(window->EventClickedStartTime, "");
+}
+
+TEST_F(GridClicks, TheRightButtonTakesTheHalfHourToo) {
+    window->ShowEventMode();
+    WhenPopupOpens([](QMenu*) {});
+    Click(HalfHourPoint(20), Qt::RightButton);
+    EXPECT_EQ(window->EventClickedStartTime, "10:00 AM");
+}
+
+TEST_F(GridClicks, DraggingFromOneBoxToAnotherOrOffItDoesNothing) {
+    AddEventRecord({.time = "09:00 AM"});
+    AddEventRecord({.time = "11:00 AM"});
+    window->ShowEventMode();
+    for (const int halfHour : {22, 25}) {
+        QTest::mousePress(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(18));
+        QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(halfHour));
+        EXPECT_EQ(window->EventClickedStartTime, "");
+    }
+}
+
+TEST_F(GridClicks, AReleaseOffAllBoxesTakesTheHalfHourThere) {
+    window->ShowEventMode();
+    QTest::mousePress(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(18));
+    QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(20)); // no box, no box
+    EXPECT_EQ(window->EventClickedStartTime, "10:00 AM");
 }
 
 TEST_F(GridClicks, TheMonthGoesToTheClickedDay) {

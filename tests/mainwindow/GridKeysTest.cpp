@@ -243,6 +243,18 @@ TEST_F(GridKeys, OtherKeysAreLeftToTheWindow) {
     EXPECT_FALSE(window->GridKeyPressed(Qt::Key_Down, Qt::AltModifier));
 }
 
+TEST_F(GridKeys, AClickTakesTheFrameWithIt) {
+    AddAssignments(5);
+    window->ShowHomeworkMode();
+    Press(Qt::Key_End);
+    ClickRow(2);
+    EXPECT_TRUE(CurrentRowIsFramed(2));
+    EXPECT_FALSE(CurrentRowIsFramed(5));
+    ClickRow(3);
+    EXPECT_TRUE(CurrentRowIsFramed(3));
+    EXPECT_FALSE(CurrentRowIsFramed(2));
+}
+
 TEST_F(GridKeys, TheMouseDoesWhatItDidBefore) {
     AddAssignments(5);
     window->ShowHomeworkMode();

@@ -122,6 +122,13 @@ TEST_F(ListGrid, TitlesAreThoseOfTheMode) {
               (QStringList{"#", Mark, "Name", "Type", "Priority", "Date", "Done"}));
     window->ShowEventMode();
     EXPECT_EQ(Titles(window->picColHeader), QStringList{});
+    window->ShowStudySessionsMode();
+    EXPECT_EQ(Titles(window->picColHeader),
+              (QStringList{"#", "Class", "Type", "Description", "Priority", "Time", "Done On", "Due"}));
+    window->MenuStudySessions->setChecked(false);
+    window->ShowReminderMode();
+    EXPECT_EQ(Titles(window->picColHeader),
+              (QStringList{"#", "For", "Class", "Type", "Description", "When", "Date"}));
 }
 
 TEST_F(ListGrid, TitlesStandInBoldVerdanaFromTheCorner) {
@@ -193,7 +200,58 @@ TEST_F(ListGrid, LinesRunAtEveryRowAndColumn) {
          PlaceColumns(ColumnsOf(ListKind::Tasks), window->picGrid->WidthInUnits())) {
         EXPECT_TRUE(lineAt(place.left + place.width - 15, TitleUnits, 0xE0E0E0));
     }
-    EXPECT_TRUE(lineAt(0, TitleUnits, 0x808080));
+    for (const auto& [width, height] : {std::pair{window->picGrid->WidthInUnits() - ScrollStripWidth, 0},
+                                        std::pair{0, window->picGrid->HeightInUnits() - TitleUnits}}) {
+        EXPECT_TRUE(std::ranges::any_of(window->picGrid->Drawn(), [=](const DrawnItem& item) {
+            return item.kind == DrawnKind::Line && item.left == 0 && item.top == TitleUnits &&
+                   item.width == width && item.height == height && item.color == 0x808080;
+        })) << width;
+    }
+}
+
+TEST_F(ListGrid, TextsAndChecksStandInTheirColumns) {
+    AddAssignments(1);
+    window->ShowHomeworkMode();
+    const std::vector<ColumnPlace> places =
+        PlaceColumns(ColumnsOf(ListKind::Homework), window->picGrid->WidthInUnits());
+    std::vector<int> texts;
+    for (const DrawnItem& item : window->picGrid->Drawn()) {
+        if (item.kind == DrawnKind::Text && item.left > RowNumberRight) {
+            texts.push_back(item.left);
+        } else if (item.kind == DrawnKind::Picture && item.top > 0) {
+            EXPECT_EQ(2 * item.left + item.width, 2 * places[8].left + places[8].width);
+        }
+    }
+    EXPECT_EQ(texts, (std::vector<int>{places[3].left + 75, places[4].left + 75, places[5].left + 75,
+                                       places[6].left + 75, places[7].left + 75}));
+}
+
+TEST_F(ListGrid, TheLayoutLeavesEmptyTitles) {
+    window->ShowHomeworkMode();
+    window->LayoutTaskGrid();
+    for (std::size_t column = 0; column < ColumnsOf(ListKind::Tasks).size(); ++column) {
+        const PictureBox& header = *window->picColHeader[column];
+        ASSERT_EQ(header.Drawn().size(), 1U) << column;
+        EXPECT_EQ(header.Drawn()[0].text, "picStashGridTitle.svg");
+        EXPECT_EQ(header.Drawn()[0].width, header.WidthInUnits());
+    }
+}
+
+TEST_F(ListGrid, TheGridStandsBesideAPanelOfThreeThousandUnits) {
+    const QPoint panel = window->PictureBoxCalendar->mapTo(window.get(), QPoint());
+    EXPECT_EQ(window->PictureBoxCalendar->width() * UnitsPerPixel, 3000);
+    EXPECT_EQ(window->picGrid->mapTo(window.get(), QPoint()).x(),
+              panel.x() + window->PictureBoxCalendar->width() + 7); // 100 units are not quite 7 pixels
+}
+
+TEST_F(ListGrid, TheDayStandsOverEveryMode) {
+    for (const auto& enter :
+         {&frmMain::ShowCalendarMode, &frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode,
+          &frmMain::ShowEventMode, &frmMain::ShowStudySessionsMode, &frmMain::ShowReminderMode}) {
+        window->LabelInfoTitle->clear();
+        (window.get()->*enter)();
+        EXPECT_EQ(window->LabelInfoTitle->text(), "Wednesday, Oct 14");
+    }
 }
 
 TEST_F(ListGrid, ATextWiderThanItsColumnLosesItsTail) {

@@ -114,9 +114,26 @@ TEST_F(PopupMenus, TheHomeworkListTakesTheSortOfTheDayMenu) {
     window->ShowCalendarMode();
     window->SortColumn = 5;
     window->SortDirection = Descending;
-    MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton);
+    MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton, "See all assignments...");
+    ASSERT_EQ(window->CurrentMode(), Mode::Homework);
     EXPECT_EQ(window->SortColumn, 8);
     EXPECT_EQ(window->SortDirection, Ascending);
+    EXPECT_EQ(SortPicture(8), "picStashGridTitleUp.svg");
+}
+
+TEST_F(PopupMenus, ADayMenuWithoutItemsShowsWhatStandsBehindThem) {
+    window->ShowCalendarMode();
+    const std::array<QStringList, CalendarIcons> menus{{
+        {"-", "Add new assignment...", "See all assignments...", "See GPA..."},
+        {"-", "Add new task...", "See all tasks..."},
+        {"-", "Add new event...", "See this day's events..."},
+    }};
+    for (const CalendarIcon icon : {CalendarIcon::Homework, CalendarIcon::Tasks, CalendarIcon::Events}) {
+        QStringList captions;
+        WhenPopupOpens([&](QMenu* menu) { captions = Captions(menu); });
+        window->ShowDayMenu(icon);
+        EXPECT_EQ(captions, menus[static_cast<std::size_t>(icon)]);
+    }
 }
 
 TEST_F(PopupMenus, AnAmpersandIsShownAsItIs) {

@@ -209,6 +209,24 @@ TEST_F(Refresh, ResizeDuringARefreshIsLeftOut) {
     EXPECT_EQ(window->RefreshReason, ReasonNewRecord);
 }
 
+TEST_F(Refresh, ResizeDuringAModeEntryIsLeftOut) {
+    window->ShowTaskMode();
+    MakeStale();
+    window->ChangingMode = true;
+    window->resize(window->width() + 100, window->height());
+    QTest::qWait(0);
+    EXPECT_EQ(window->LabelTop->text(), "stale");
+    EXPECT_EQ(window->RefreshReason, "None");
+}
+
+TEST_F(Refresh, WindowIsNeverSmallerThanItsDesign) {
+    EXPECT_EQ(window->minimumSize(), QSize(780, 575));
+    for (const QSize& wanted : {QSize(100, 100), QSize(779, 1000), QSize(1000, 574)}) {
+        window->resize(wanted);
+        EXPECT_EQ(window->size(), wanted.expandedTo({780, 575}));
+    }
+}
+
 TEST_F(Refresh, MinimizedWindowIsLaidOutOnlyWhenItComesBack) {
     window->ShowTaskMode();
     window->showMinimized();

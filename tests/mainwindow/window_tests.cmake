@@ -9,6 +9,7 @@ target_sources(window_tests PRIVATE
   mainwindow/GridAccessibleTest.cpp
   mainwindow/GridClicksTest.cpp
   mainwindow/GridKeysTest.cpp
+  mainwindow/GridScrollTest.cpp
   mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
   mainwindow/LargeCalendarTest.cpp
