@@ -1,5 +1,6 @@
 // The main window at the greatest size of a planner, 1920 by 1080: the work of each refresh in each mode
 // before the paint, and the paint.
+#include "DialogBench.h"
 #include "SampleRecords.h"
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
@@ -134,6 +135,7 @@ int main(int argc, char** argv) {
     window.show();
     QApplication::processEvents();
     RegisterAll(window);
+    RegisterDialogBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -1,0 +1,140 @@
+// The dialogs over a planner of the greatest size: each from the student's wish to the first picture of it,
+// and from OK in it to the refreshed view. The drive stands in memory, so no save waits for a device.
+#include "DialogBench.h"
+
+#include "editors/FrmTask.h"
+#include "editors/frmAssignment.h"
+#include "editors/frmCourseSchedule.h"
+#include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/frmMain.h"
+#include "support/ScriptedPlatform.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <utility>
+
+namespace {
+
+using Step = std::function<void()>;
+
+// Tells of a dialog's first picture since it was last asked for one.
+class FirstPicture : public QObject {
+public:
+    explicit FirstPicture(QDialog* dialog) { dialog->installEventFilter(this); }
+
+    // Calls the step once the dialog has been painted whole.
+    void Then(const Step& step) { next = step; }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Paint && next) {
+            QMetaObject::invokeMethod(this, std::exchange(next, nullptr), Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    Step next;
+};
+
+// Measures from the wish to the picture; the dialog is closed again unmeasured.
+void Opening(benchmark::State& state, QDialog& dialog, const Step& wish) {
+    FirstPicture picture(&dialog);
+    QElapsedTimer clock;
+    for (auto _ : state) {
+        double seconds = 0;
+        picture.Then([&] {
+            seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+            dialog.close();
+        });
+        clock.start();
+        wish();
+        state.SetIterationTime(seconds);
+    }
+    if (!Script.boxes.empty()) {
+        state.SkipWithError("A box came between");
+    }
+}
+
+// Measures from OK until the flow has saved, refreshed and painted.
+void OkToView(benchmark::State& state, QDialog& dialog, QPushButton& ok, const Step& wish) {
+    FirstPicture picture(&dialog);
+    QElapsedTimer clock;
+    MainWindow->ShowHomeworkMode();
+    MainWindow->ComboDateRange->setCurrentText(QStringLiteral("Term"));
+    for (auto _ : state) {
+        picture.Then([&] {
+            clock.start();
+            ok.click();
+        });
+        wish();
+        QApplication::processEvents();
+        state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
+    }
+    if (!Script.boxes.empty()) {
+        state.SkipWithError("A box came between");
+    }
+}
+
+void Register(const char* name, const std::function<void(benchmark::State&)>& measure) {
+    benchmark::RegisterBenchmark(name, measure)->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+// The term's dialog opens behind the chooser, whose button is pressed at its picture.
+void EditTerm(FirstPicture& chooser) {
+    chooser.Then([] { TermChooser->ButtonEdit->click(); });
+    MainWindow->ClassSchedule();
+}
+
+void TermOpening(benchmark::State& state) {
+    FirstPicture chooser(TermChooser);
+    FirstPicture picture(TermDialog);
+    QElapsedTimer clock;
+    for (auto _ : state) {
+        double seconds = 0;
+        picture.Then([&] {
+            seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+            TermDialog->close();
+        });
+        chooser.Then([&clock] {
+            clock.start();
+            TermChooser->ButtonEdit->click();
+        });
+        MainWindow->ClassSchedule();
+        state.SetIterationTime(seconds);
+    }
+}
+
+} // namespace
+
+void RegisterDialogBenchmarks() {
+    Register("Open/NewAssignment", [](benchmark::State& state) {
+        Opening(state, *AssignmentDialog, [] { MainWindow->NewAssignment(); });
+    });
+    Register("Open/EditAssignment", [](benchmark::State& state) {
+        Opening(state, *AssignmentDialog, [] { MainWindow->EditAssignment(1); });
+    });
+    Register("Open/NewTask",
+             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { MainWindow->NewTask(); }); });
+    Register("Open/EditTask",
+             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { MainWindow->EditTask(1); }); });
+    Register("Open/ClassSchedule", [](benchmark::State& state) {
+        Opening(state, *TermChooser, [] { MainWindow->ClassSchedule(); });
+    });
+    Register("Open/Term", TermOpening);
+    Register("Ok/EditAssignment", [](benchmark::State& state) {
+        OkToView(state, *AssignmentDialog, *AssignmentDialog->ButtonOK,
+                 [] { MainWindow->EditAssignment(1); });
+    });
+    Register("Ok/EditTask", [](benchmark::State& state) {
+        OkToView(state, *TaskDialog, *TaskDialog->ButtonOK, [] { MainWindow->EditTask(1); });
+    });
+    Register("Ok/Term", [](benchmark::State& state) {
+        FirstPicture chooser(TermChooser);
+        OkToView(state, *TermDialog, *TermDialog->ButtonOK, [&chooser] { EditTerm(chooser); });
+    });
+}
