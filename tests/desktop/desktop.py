@@ -177,7 +177,8 @@ class Desktop:
         a pixel, row by row."""
         left, top, width, height = area
         return subprocess.run(["import", "-window", window, "-crop", f"{width}x{height}+{left}+{top}", "+repage",
-                               "-depth", "8", "rgb:-"], env=self.environment, capture_output=True, check=True).stdout
+                               "-depth", "8", "rgb:-"], env=self.environment, capture_output=True, check=True,
+                              timeout=LIMIT).stdout
 
     def close_with_window_manager(self, window):
         """What the window's close box does."""

@@ -39,10 +39,15 @@ class MainWindow:
     def finish_input(self):
         """Waits until all mouse and keyboard input so far has taken effect: a menu opened behind it is open. That
         also tells that no dialog is."""
+        bar = self.colours(Main.MENU_BAR)
         self.desktop.key("alt+f")
         wait_until(self.desktop.popup_menu, "the menu is open")
-        self.desktop.key("Escape", "Escape")
-        wait_until(lambda: not self.desktop.popup_menu(), "the menu is closed")
+
+        def has_left_the_menus():
+            self.desktop.key("Escape", "Escape")  # out of the menu, out of the menu bar
+            return not self.desktop.popup_menu() and self.colours(Main.MENU_BAR) == bar
+
+        wait_until(has_left_the_menus, "the menu is closed and the menu bar left")
 
     def settled(self, area):
         """What the area shows once all input has taken effect and two looks at it are alike."""

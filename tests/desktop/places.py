@@ -6,6 +6,7 @@ opens. A point is left and top, an area left, top, width and height."""
 class Main:
     """The main window."""
 
+    MENU_BAR = (0, 0, 170, 18)
     MODES = {"Calendar": (66, 38), "Homework": (178, 38), "Events": (283, 38), "Tasks": (372, 38)}  # their words
     MODE_WORDS = (0, 30, 420, 16)  # the row in which they stand
     MONTH_UP = (195, 78)
