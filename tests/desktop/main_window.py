@@ -1,5 +1,7 @@
 """The main window of a planner as a student sees and uses it: what it shows at its places, and its modes."""
 
+import hashlib
+
 from desktop import wait_until
 from places import Main
 
@@ -13,15 +15,16 @@ class MainWindow:
         self.id = planner.window()
         self.desktop.activate(self.id)
 
-    def colours(self, area):
-        return self.desktop.colours(self.id, area)
+    def look(self, area):
+        """A short mark of what the area shows: the same for the same picture."""
+        return hashlib.sha256(self.desktop.colours(self.id, area)).hexdigest()
 
     def click(self, place, button=1, repeat=1):
         self.desktop.click_in(self.id, place, button, repeat)
 
     def mode(self):
         """The mode whose word in the mode bar is bright, or None while it changes."""
-        words = self.colours(Main.MODE_WORDS)
+        words = self.desktop.colours(self.id, Main.MODE_WORDS)
         bright = [mode for mode, (x, _) in Main.MODES.items() if has_bright_pixel(words, x)]
         return bright[0] if len(bright) == 1 else None
 
@@ -30,32 +33,32 @@ class MainWindow:
 
     def wait_for_change(self, area, before, what):
         """Waits until the area shows something else, and gives what it shows then."""
-        wait_until(lambda: self.colours(area) != before, what)
+        wait_until(lambda: self.look(area) != before, what)
         return self.settled(area)
 
     def wait_for_picture(self, area, picture, what):
-        wait_until(lambda: self.colours(area) == picture, what)
+        wait_until(lambda: self.look(area) == picture, what)
 
     def finish_input(self):
         """Waits until all mouse and keyboard input so far has taken effect: a menu opened behind it is open. That
         also tells that no dialog is."""
-        bar = self.colours(Main.MENU_BAR)
+        bar = self.look(Main.MENU_BAR)
         self.desktop.key("alt+f")
         wait_until(self.desktop.popup_menu, "the menu is open")
 
         def has_left_the_menus():
             self.desktop.key("Escape", "Escape")  # out of the menu, out of the menu bar
-            return not self.desktop.popup_menu() and self.colours(Main.MENU_BAR) == bar
+            return not self.desktop.popup_menu() and self.look(Main.MENU_BAR) == bar
 
         wait_until(has_left_the_menus, "the menu is closed and the menu bar left")
 
     def settled(self, area):
         """What the area shows once all input has taken effect and two looks at it are alike."""
         self.finish_input()
-        looks = [self.colours(area)]
+        looks = [self.look(area)]
 
         def is_still():
-            looks.append(self.colours(area))
+            looks.append(self.look(area))
             return looks[-1] == looks[-2]
 
         wait_until(is_still, "the picture stands still")

@@ -14,7 +14,7 @@ class Main:
     SMALL_CALENDAR = (8, 68, 198, 142)
     DAY_UP = (762, 77)
     TOP = (240, 66, 510, 24)  # the title and the day over the view
-    VIEW = (214, 96, 559, 448)
+    VIEW = (217, 99, 553, 442)  # without the frame of the focus
     ROW = (450, 129)  # the first row of a list
     ROW_HEIGHT = 22
     CLOCK = (540, 554, 220, 18)

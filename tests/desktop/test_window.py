@@ -96,25 +96,25 @@ class Steppers(WindowTest):
         seen = {november}
 
         def has_stepped_on():
-            seen.add(self.window.colours(Main.MONTH_NAME))
+            seen.add(self.window.look(Main.MONTH_NAME))
             return len(seen) >= 4
 
         wait_until(has_stepped_on, "the held button has stepped three times")
         self.desktop.let_go()
         after = self.window.settled(Main.MONTH_NAME)
-        self.assertTrue(stays_false(lambda: self.window.colours(Main.MONTH_NAME) != after, 1))
+        self.assertTrue(stays_false(lambda: self.window.look(Main.MONTH_NAME) != after, 1))
 
     def test_step_by_day(self):
         fourteenth = self.window.settled(Main.SMALL_CALENDAR)
         days_on = []
         for column in (4, 5, 6):  # the 15th to the 17th
-            before = self.window.colours(Main.SMALL_CALENDAR)
+            before = self.window.look(Main.SMALL_CALENDAR)
             self.window.click(small_day(2, column))
             days_on.append(self.window.wait_for_change(Main.SMALL_CALENDAR, before, "another day is selected"))
         self.window.click(small_day(2, 3))
         self.window.wait_for_picture(Main.SMALL_CALENDAR, fourteenth, "the 14th is selected again")
         self.window.click(Main.DAY_UP)  # on a slow machine it may be held long enough to step again
-        wait_until(lambda: self.window.colours(Main.SMALL_CALENDAR) in days_on, "the next day is selected")
+        wait_until(lambda: self.window.look(Main.SMALL_CALENDAR) in days_on, "the next day is selected")
 
 
 class List(WindowTest):
@@ -126,7 +126,7 @@ class List(WindowTest):
 
     def view(self):
         self.window.finish_input()
-        return self.window.colours(Main.VIEW)
+        return self.window.look(Main.VIEW)
 
     def turn_wheel(self, notches):
         self.desktop.turn_wheel(*self.desktop.on_screen(self.window.id, Main.ROW), notches)
@@ -186,10 +186,10 @@ class Midnight(WindowTest):
 
     def test_moves_today_at_the_next_refresh(self):
         before = self.window.settled(Main.SMALL_CALENDAR)
-        clock = self.window.colours(Main.CLOCK)
+        clock = self.window.look(Main.CLOCK)
         self.sample.set_date("2026-10-15 00:00:00")
         self.window.wait_for_change(Main.CLOCK, clock, "the clock in the status bar has passed midnight")
-        self.assertEqual(self.window.colours(Main.SMALL_CALENDAR), before)
+        self.assertEqual(self.window.look(Main.SMALL_CALENDAR), before)
         self.key("ctrl+2")
         self.window.wait_for_mode("Homework")
         self.key("ctrl+1")
