@@ -6,7 +6,8 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE}")
+  # What ccache asks for where headers are precompiled (ccache manual, "Precompiled headers").
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros "${CCACHE}")
 endif()
 
 add_library(planovarium_flags INTERFACE)
@@ -16,6 +17,9 @@ target_compile_options(planovarium_flags INTERFACE
 # read the same flags and do not know that warning.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(planovarium_flags INTERFACE -Wno-unknown-warning-option -Wno-restrict)
+endif()
+if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(planovarium_flags INTERFACE -fpch-preprocess)
 endif()
 target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
 

@@ -5,5 +5,3 @@ target_sources(logic_tests PRIVATE
   core/TextFilesTest.cpp
   core/ValuesTest.cpp
 )
-# GCC 12 takes the insertion that this test expects to be refused for one that happens.
-set_source_files_properties(core/ValuesTest.cpp PROPERTIES COMPILE_OPTIONS -Wno-array-bounds)
