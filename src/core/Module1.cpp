@@ -101,12 +101,17 @@ bool ActiveTermIsLiving() {
     return !ActiveTermName.empty() && ActiveTermName != DeletedRecord;
 }
 
+bool IsActiveClass(int position) {
+    const ClassLists& classes = Store.ClassRecord;
+    return ActiveTermID != 0 && NumberIn(classes.term.Item(position)) == ActiveTermID &&
+           classes.name.Item(position) != DeletedRecord;
+}
+
 void SetupActiveClasses() {
     ActiveClasses = {};
     const ClassLists& classes = Store.ClassRecord;
     for (int position = 1; position <= classes.name.Count(); ++position) {
-        const bool ofTerm = NumberIn(classes.term.Item(position)) == ActiveTermID;
-        if (ActiveTermID == 0 || !ofTerm || classes.name.Item(position) == DeletedRecord) {
+        if (!IsActiveClass(position)) {
             continue;
         }
         ActiveClasses.id.Add(classes.id.Item(position));

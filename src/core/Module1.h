@@ -11,8 +11,7 @@
 #include <string>
 #include <string_view>
 
-// --- The store
-// -------------------------------------------------------------------------------------------------
+// --- The store -----------------------------------------------------------------------------------
 
 struct PlannerStore {
     TermLists Term;
@@ -29,8 +28,7 @@ extern TypeTableLists TypeTable;
 // The next id of each kind, from 1 on; rebuilt by each read of the kind's file.
 extern int NextTermID, NextClassID, NextAssignmentID, NextTaskID, NextEventID;
 
-// --- The active term
-// -------------------------------------------------------------------------------------------
+// --- The active term -----------------------------------------------------------------------------
 
 extern std::string ActiveTermName; // empty for none
 extern int ActiveTermID;           // 0 for none
@@ -50,14 +48,17 @@ void ChooseActiveTerm(std::string_view name);
 // True when a term is active whose assignments may be read.
 bool ActiveTermIsLiving();
 
+// True when the class record at the position is one of the active term's and not deleted; false without a
+// term.
+bool IsActiveClass(int position);
+
 // Fills ActiveClasses anew from the classes of the active term.
 void SetupActiveClasses();
 
 // Replaces the assignment lists by empty ones.
 void ResetAssignmentLists();
 
-// --- Folders and files
-// -----------------------------------------------------------------------------------------
+// --- Folders and files ---------------------------------------------------------------------------
 
 extern std::filesystem::path DocumentFolder, DataFolder, BackupFolder, HelpFile;
 
@@ -72,8 +73,7 @@ struct FileFlags {
 
 extern FileFlags FileWrittenFlags;
 
-// --- The filter menus
-// ----------------------------------------------------------------------------------------------
+// --- The filter menus ----------------------------------------------------------------------------
 
 // The words last chosen in ComboList and ComboDateRange while a mode was shown.
 struct ChosenFilter {
@@ -83,8 +83,7 @@ struct ChosenFilter {
 // Of Homework, Study Sessions, Tasks, Events and Reminders, in this order.
 extern std::array<ChosenFilter, 5> ChosenFilters;
 
-// --- The run
-// ---------------------------------------------------------------------------------------------------
+// --- The run -------------------------------------------------------------------------------------
 
 // True until a dialog has opened for the first time in this run, when it is placed beside the main window.
 extern bool AssignmentDBFirstOpen, SelectCourseScheduleDBFirstOpen, CourseScheduleDBFirstOpen,

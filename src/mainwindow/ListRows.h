@@ -35,8 +35,7 @@ GridRow TaskGridRow(int row);
 GridRow EventGridRow(int row);
 GridRow ReminderGridRow(int row);
 
-// --- The cells that several lists have
-// -----------------------------------------------------------------------
+// --- The cells that several lists have -----------------------------------------------------------
 
 GridCell TextCell(std::string_view text);
 

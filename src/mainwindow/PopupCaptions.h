@@ -5,8 +5,7 @@
 #include <vector>
 
 // A caption and the two words of the command, subject and verb; both in the characters of the store. A
-// caption of
-// "-" is a separator and has no command.
+// caption of "-" is a separator and has no command.
 struct PopupItem {
     std::string caption;
     std::string tag;

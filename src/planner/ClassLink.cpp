@@ -54,9 +54,8 @@ std::vector<int> ActiveClassIds() {
     const ClassLists& classes = Store.ClassRecord;
     std::vector<int> ids;
     for (int position = 1; position <= classes.id.Count(); ++position) {
-        const bool ofTerm = ActiveTermID != 0 && IdIn(classes.term.Item(position)) == ActiveTermID;
         const std::optional<int> id = IdIn(classes.id.Item(position));
-        if (ofTerm && id && classes.name.Item(position) != DeletedRecord) {
+        if (id && IsActiveClass(position)) {
             ids.push_back(*id);
         }
     }
