@@ -2,9 +2,9 @@
 
 RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools qt6-svg-dev
   libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
-HeadlessPackages="xvfb openbox xdotool imagemagick"
+HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
 TestPackages="$HeadlessPackages libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev pkg-config clang
-  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 wmctrl x11-utils locales"
+  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 x11-utils locales"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 
 AsRoot() {
