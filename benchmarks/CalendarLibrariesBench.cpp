@@ -26,7 +26,7 @@ void SetUpICalendarFile() {
     ResetStore();
     SetupFolders();
     AddSampleEvents(Events);
-    WriteAndClose(OpenForWriting(FileName), EventsAsICalendar());
+    WriteFile(FileName, EventsAsICalendar());
     ResetStore();
 }
 
@@ -73,7 +73,7 @@ void SaveEventsWithLibical(benchmark::State& state) {
     for (auto _ : state) {
         const std::unique_ptr<char, decltype(&std::free)> text(icalcomponent_as_ical_string_r(calendar.get()),
                                                                &std::free);
-        WriteAndClose(OpenForWriting("saved.ics"), text.get());
+        WriteFile("saved.ics", text.get());
     }
     Require(state, EventsIn(calendar.get()) == Events);
 }

@@ -112,7 +112,7 @@ void DeviceSync(benchmark::State& state) {
     WriteEvents();
     const std::string bytes = FileBytes("events.xml");
     for (auto _ : state) {
-        WriteAndClose(OpenForWriting("bytes"), bytes);
+        WriteFile("bytes", bytes);
         state.PauseTiming();
         std::filesystem::remove("bytes");
         state.ResumeTiming();

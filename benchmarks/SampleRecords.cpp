@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -172,4 +173,10 @@ std::string EventsAsICalendar() {
     }
     AddLine(text, "END:VCALENDAR");
     return text;
+}
+
+void WriteFile(const std::string& name, std::string_view bytes) {
+    OutputFile file = OpenForWriting(name);
+    WriteBytes(file, bytes);
+    SyncAndClose(std::move(file));
 }

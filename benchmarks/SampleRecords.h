@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // Fills the empty store with so many events: single ones, and one in four a series with exceptions, an end or
 // both.
@@ -12,3 +13,6 @@ void AddSampleAssignments(int count);
 
 // The store's events as an iCalendar file, with the same dates, times, texts, series and alarms.
 std::string EventsAsICalendar();
+
+// Writes a file of the current folder, through to the device.
+void WriteFile(const std::string& name, std::string_view bytes);

@@ -176,5 +176,6 @@ void WritePreferencesFile(const PreferenceValues& values) {
     for (const TypeSection& section : TypeSections) {
         AddTypeSection(text, section);
     }
-    WriteAndClose(std::move(file), text);
+    WriteBytes(file, text);
+    SyncAndClose(std::move(file));
 }

@@ -9,6 +9,12 @@
 #include <filesystem>
 #include <system_error>
 
+namespace {
+
+constexpr const char* WritingFailed = "File cannot be written";
+
+} // namespace
+
 void ChangeToDataFolder() {
     std::error_code error;
     std::filesystem::current_path(DataFolder, error);
@@ -58,11 +64,16 @@ OutputFile OpenForWriting(const std::string& name) {
     return file;
 }
 
-void WriteAndClose(OutputFile file, std::string_view bytes) {
-    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    const bool synced = written && std::fflush(file.get()) == 0 && SyncToDevice(file.get());
+void WriteBytes(OutputFile& file, std::string_view bytes) {
+    if (std::fwrite(bytes.data(), 1, bytes.size(), file.get()) != bytes.size()) {
+        throw RunTimeError(WritingFailed);
+    }
+}
+
+void SyncAndClose(OutputFile file) {
+    const bool synced = std::fflush(file.get()) == 0 && SyncToDevice(file.get());
     const bool closed = std::fclose(file.release()) == 0;
     if (!synced || !closed) {
-        throw RunTimeError("File cannot be written");
+        throw RunTimeError(WritingFailed);
     }
 }

@@ -29,6 +29,8 @@ using OutputFile = std::unique_ptr<std::FILE, FileCloser>;
 // Opens the file for writing and empties it; raises the run-time error when that fails.
 OutputFile OpenForWriting(const std::string& name);
 
-// Writes the bytes, hands them to the device and closes the file; raises the run-time error when any of it
-// fails.
-void WriteAndClose(OutputFile file, std::string_view bytes);
+// Writes the bytes behind what was written before; raises the run-time error when that fails.
+void WriteBytes(OutputFile& file, std::string_view bytes);
+
+// Hands all that was written to the device and closes the file; raises the run-time error when that fails.
+void SyncAndClose(OutputFile file);

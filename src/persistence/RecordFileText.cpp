@@ -2,13 +2,13 @@
 #include "persistence/RecordFileText.h"
 
 #include "core/DateText.h"
-#include "core/TextFiles.h"
 
 namespace {
 
 constexpr std::string_view Header = R"(<?xml version="1.0" encoding="ISO-8859-1"?>)";
 constexpr std::string_view Indentation = "  ";
 constexpr std::string_view NoDate = "//";
+constexpr std::size_t BlockSize = 65536; // bytes gathered before they are written
 
 // What stands around the value of a field.
 struct FieldFrame {
@@ -48,25 +48,29 @@ std::string ClosingTag(std::string_view tag) {
     return std::string("</").append(tag).append(">");
 }
 
-std::string RecordFileText(const RecordFile& file, int records) {
+void WriteRecords(OutputFile& output, const RecordFile& file, int records) {
     const std::vector<FieldFrame> frames = FramesOf(file.fields);
     const std::string recordStart = OpeningTag(file.record).append(LineEnd);
     const std::string recordEnd = ClosingTag(file.record).append(LineEnd);
-    std::string text(Header);
-    text.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
+    std::string block(Header);
+    block.append(LineEnd).append(OpeningTag(file.root)).append(LineEnd);
     for (int position = 1; position <= records; ++position) {
-        text.append(recordStart);
+        block.append(recordStart);
         for (std::size_t i = 0; i < frames.size(); ++i) {
             const std::string& value = file.fields[i].list->Item(position);
-            text.append(frames[i].opening);
+            block.append(frames[i].opening);
             if (file.fields[i].rule == FieldRule::DateText) {
-                text.append(FormattedDate(value));
+                block.append(FormattedDate(value));
             } else {
-                text.append(value);
+                block.append(value);
             }
-            text.append(frames[i].closing);
+            block.append(frames[i].closing);
         }
-        text.append(recordEnd);
+        block.append(recordEnd);
+        if (block.size() >= BlockSize) {
+            WriteBytes(output, block);
+            block.clear();
+        }
     }
-    return text.append(ClosingTag(file.root)).append(LineEnd);
+    WriteBytes(output, block.append(ClosingTag(file.root)).append(LineEnd));
 }

@@ -13,7 +13,8 @@ bool SaveRecordFile(const RecordFile& file) {
     const std::string temporary = file.name + ".tmp";
     try {
         OutputFile output = OpenForWriting(temporary);
-        WriteAndClose(std::move(output), RecordFileText(file, file.counted->Count()));
+        WriteRecords(output, file, file.counted->Count());
+        SyncAndClose(std::move(output));
     } catch (const RunTimeError&) {
         ShowFileError(temporary, "writing");
         return false;

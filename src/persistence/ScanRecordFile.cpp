@@ -20,7 +20,8 @@ void CreateWhereMissing(const RecordFile& file) {
     }
     OutputFile output = OpenForWriting(file.name);
     try {
-        WriteAndClose(std::move(output), RecordFileText(file, 0));
+        WriteRecords(output, file, 0);
+        SyncAndClose(std::move(output));
     } catch (const RunTimeError&) {
         std::filesystem::remove(file.name, error);
         throw;

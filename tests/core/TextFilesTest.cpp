@@ -3,6 +3,8 @@
 
 #include "persistence/DataFolderTest.h"
 
+#include <utility>
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -13,6 +15,14 @@ Texts LinesIn(std::string_view text) {
         lines.emplace_back(*line);
     }
     return lines;
+}
+
+void WriteWhole(const std::string& name, const Texts& pieces) {
+    OutputFile file = OpenForWriting(name);
+    for (const std::string& piece : pieces) {
+        WriteBytes(file, piece);
+    }
+    SyncAndClose(std::move(file));
 }
 
 class TextFiles : public DataFolderTest {};
@@ -38,9 +48,11 @@ TEST_F(TextFiles, HoldEveryByteThatIsWritten) {
     for (int i = 0; i < 200000; ++i) {
         bytes += static_cast<char>(i);
     }
-    WriteAndClose(OpenForWriting("bytes"), bytes);
+    WriteWhole("bytes", {bytes});
     EXPECT_EQ(FileBytes("bytes"), bytes);
-    WriteAndClose(OpenForWriting("bytes"), "");
+    WriteWhole("bytes", {"a", "", "b"});
+    EXPECT_EQ(FileBytes("bytes"), "ab");
+    WriteWhole("bytes", {});
     EXPECT_EQ(FileBytes("bytes"), "");
 }
 
@@ -48,7 +60,9 @@ TEST_F(TextFiles, RaiseTheErrorWhereTheyCannotBeOpenedReadOrWritten) {
     EXPECT_THROW(FileBytes("none"), RunTimeError);
     EXPECT_THROW(FileBytes("Backup"), RunTimeError) << "a folder opens but does not read";
     EXPECT_THROW(OpenForWriting("Backup"), RunTimeError);
-    EXPECT_THROW(WriteAndClose(OpenForWriting("/dev/full"), "x"), RunTimeError);
+    EXPECT_THROW(WriteWhole("/dev/full", {"x"}), RunTimeError);
+    OutputFile full = OpenForWriting("/dev/full");
+    EXPECT_THROW(WriteBytes(full, std::string(1000000, 'x')), RunTimeError);
 }
 
 TEST_F(TextFiles, AreThoseOfTheDataFolderOnceItIsEntered) {
