@@ -32,31 +32,32 @@ int LinkedClasses(std::string_view type) {
 
 HomeworkDayBoxes HomeworkDayTotals(Date day) {
     const AssignmentLists& assignments = Store.Assignment;
-    int total = 0;
-    int left = 0;
+    int TotalCount = 0;
+    int LeftCount = 0;
     int minutes = 0;
     for (int position = 1; position <= assignments.date.Count(); ++position) {
         if (assignments.desc.Item(position) == DeletedRecord ||
             DateValue(assignments.date.Item(position)) != day) {
             continue;
         }
-        ++total;
+        ++TotalCount;
         if (!IsTrue(assignments.done.Item(position))) {
-            ++left;
+            ++LeftCount;
             minutes += ClockToMinutes(assignments.time_left.Item(position));
         }
     }
-    const int openColor = left > 0 ? ColorNotDone : ColorDone;
-    const int color = total == 0 ? ColorWhite : openColor;
-    return {
-        {std::to_string(total), ColorWhite}, {std::to_string(left), color}, {MinutesToClock(minutes), color}};
+    const int openColor = LeftCount > 0 ? ColorNotDone : ColorDone;
+    const int color = TotalCount == 0 ? ColorWhite : openColor;
+    return {{std::to_string(TotalCount), ColorWhite},
+            {std::to_string(LeftCount), color},
+            {MinutesToClock(minutes), color}};
 }
 
 EventDayBoxes EventDayTotals(Date day) {
     const EventLists& events = Store.EventRecord;
     DurationParts study;
-    int classCount = 0;
-    int otherCount = 0;
+    int ClassCount = 0;
+    int OtherCount = 0;
     for (int index = 1; index <= events.date.Count(); ++index) {
         if (!EventOccursOn(day, index)) {
             continue;
@@ -69,10 +70,10 @@ EventDayBoxes EventDayTotals(Date day) {
             continue;
         }
         const int linked = LinkedClasses(type);
-        classCount += linked;
-        otherCount += linked == 0 ? 1 : 0; // also a meeting of another term's class
+        ClassCount += linked;
+        OtherCount += linked == 0 ? 1 : 0; // also a meeting of another term's class
     }
     return {{MinutesToClock(Int32Of(study.hours * MinutesPerHour + study.minutes)), ColorWhite},
-            {std::to_string(classCount), ColorWhite},
-            {std::to_string(otherCount), ColorWhite}};
+            {std::to_string(ClassCount), ColorWhite},
+            {std::to_string(OtherCount), ColorWhite}};
 }
