@@ -122,8 +122,11 @@ class ByKeyboard(HomeworkPath):
             self.keys("Tab")
             self.desktop.type(credits)
             self.keys("shift+Tab", "Return")
-        self.keys("Return")
-        self.closed(NEW_TERM)
+        self.leave_term(NEW_TERM)
+
+    def leave_term(self, title):
+        self.keys("Tab", "Tab", "Return")  # from Add Class to OK
+        self.closed(title)
 
     def enter_assignment(self, row, description, moved=False, estimate=None):
         self.keys("ctrl+n")
@@ -168,8 +171,7 @@ class ByKeyboard(HomeworkPath):
             self.opened(QUESTION)
             self.keys("Return")
         self.opened(EDIT_TERM)
-        self.keys("Return")
-        self.closed(EDIT_TERM)
+        self.leave_term(EDIT_TERM)
 
     def shut_down(self):
         self.assertEqual(self.program.shut_down(), 0)
