@@ -4,6 +4,7 @@
 #include "SampleRecords.h"
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
 #include "support/TemporaryDrive.h"
@@ -64,6 +65,7 @@ void FillPlanner(frmMain& window) {
     AddSampleAssignments(Records);
     AddSampleTasks(Records);
     AddSampleEvents(Records);
+    WriteAssignments(); // a term that is made active reads them again
 }
 
 // By way of Tasks, since a mode entered from Calendar may leave that checked.

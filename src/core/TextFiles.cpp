@@ -6,6 +6,7 @@
 #include "platform/Process.h"
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
@@ -29,6 +30,10 @@ std::string FileBytes(const std::string& name) {
         throw RunTimeError("File cannot be opened", name);
     }
     std::string bytes;
+    std::error_code unknown; // a size that is not told costs time alone
+    if (const std::uintmax_t size = std::filesystem::file_size(name, unknown); !unknown) {
+        bytes.reserve(size);
+    }
     std::array<char, 65536> block{};
     while (const std::size_t count = std::fread(block.data(), 1, block.size(), file.get())) {
         bytes.append(block.data(), count);

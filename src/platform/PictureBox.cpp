@@ -7,6 +7,7 @@
 #include <QSvgRenderer>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <map>
@@ -126,11 +127,19 @@ QString ShortenedText(const QString& text, const SurfaceFont& font, int width) {
     const auto fits = [&](qsizetype length) {
         return Units(metrics.horizontalAdvance(text.left(length))) <= width;
     };
+    if (width <= 0) {
+        return {};
+    }
     if (fits(text.size())) {
         return text;
     }
-    qsizetype longest = 0; // always fits
-    qsizetype tooLong = text.size();
+    // From the front on, as few characters are measured sooner than many.
+    qsizetype tooLong = 1;
+    while (tooLong < text.size() && fits(tooLong)) {
+        tooLong *= 2;
+    }
+    qsizetype longest = tooLong / 2; // always fits
+    tooLong = std::min(tooLong, text.size());
     while (tooLong - longest > 1) {
         const qsizetype middle = longest + (tooLong - longest) / 2;
         (fits(middle) ? longest : tooLong) = middle;
