@@ -115,7 +115,8 @@ std::vector<DayFacts> FactsOfDays(Date first, int count) {
 }
 
 DayBits DayOf(std::span<const DayFacts> row, Date date) {
-    return DaysThrough(row, date) & ~DaysThrough(row, date - std::chrono::days{1});
+    const int n = DayDiff(row.front().date, date);
+    return n >= 0 && n < static_cast<int>(row.size()) ? DayBits{1} << n : 0;
 }
 
 DayBits OccurringDays(std::span<const DayFacts> row, int index) {
