@@ -20,7 +20,6 @@ QPalette ProgramPalette() {
     colors.setColor(QPalette::Base, Qt::white);
     colors.setColor(QPalette::AlternateBase, PanelColor);
     colors.setColor(QPalette::ToolTipBase, Qt::white);
-    colors.setColor(QPalette::PlaceholderText, FaintTextColor);
     colors.setColor(QPalette::Highlight, AccentColor);
     colors.setColor(QPalette::HighlightedText, Qt::white);
     colors.setColor(QPalette::Link, AccentColor);
