@@ -225,21 +225,12 @@ TEST_F(AssignmentEntries, FocusThatGoesToAnotherWindowValidatesNothing) {
 TEST_F(AssignmentEntries, ReminderClickEnablesColoursAndSetsTheAlarm) {
     dialog->tempAssignmentReminderAlarm.clear();
     Click(dialog->CheckboxReminder);
-    EXPECT_TRUE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xFFFFFF);
-    EXPECT_EQ(TextColorOf(dialog->LabelRemTime), 0xFFFFFF);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xFFFFFF);
+    ExpectReminder(*dialog, true);
     EXPECT_EQ(dialog->tempAssignmentReminderAlarm, "2009/10/20 09:00:00");
     EXPECT_TRUE(dialog->ChangeFlag);
     dialog->ChangeFlag = false;
     Click(dialog->CheckboxReminder);
-    EXPECT_FALSE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xC0C0C0);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xC0C0C0);
+    ExpectReminder(*dialog, false);
     EXPECT_TRUE(dialog->ChangeFlag);
 }
 

@@ -98,12 +98,7 @@ TEST_F(AssignmentOpening, NewAssignmentHasNoReminder) {
     Open(*dialog, "New");
     EXPECT_FALSE(dialog->CheckboxReminder->isChecked());
     EXPECT_EQ(dialog->tempAssignmentReminderList, "False");
-    EXPECT_FALSE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xC0C0C0);
-    EXPECT_EQ(TextColorOf(dialog->LabelRemTime), 0xC0C0C0);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xC0C0C0);
+    ExpectReminder(*dialog, false);
 }
 
 TEST_F(AssignmentOpening, EditShowsTheFields) {
@@ -145,12 +140,7 @@ TEST_F(AssignmentOpening, EditClearsAGradeThatScoreAndTotalDoNotGive) {
 TEST_F(AssignmentOpening, EditEnablesTheReminderThatIsOn) {
     OpenEdit();
     EXPECT_TRUE(dialog->CheckboxReminder->isChecked());
-    EXPECT_TRUE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xFFFFFF);
-    EXPECT_EQ(TextColorOf(dialog->LabelRemTime), 0xFFFFFF);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xFFFFFF);
+    ExpectReminder(*dialog, true);
 }
 
 TEST_F(AssignmentOpening, ReminderLabelsAreReadableOnTheirStripInBothStates) {

@@ -69,3 +69,15 @@ private:
 int BackColorOf(const QWidget* widget);
 int TextColorOf(const QWidget* widget);
 int BoxColorOf(const QLineEdit* box);
+
+// Expects the fields of the reminder to be those of one that is on, or off: enabled, and in its colours.
+template <class Dialog>
+void ExpectReminder(const Dialog& dialog, bool on) {
+    const int color = on ? 0xFFFFFF : 0xC0C0C0;
+    EXPECT_EQ(dialog.TextboxReminderDate->isEnabled(), on);
+    EXPECT_EQ(dialog.PicButtonReminderDate->isEnabled(), on);
+    EXPECT_EQ(dialog.ComboReminderTime->isEnabled(), on);
+    EXPECT_EQ(TextColorOf(dialog.LabelRemDate), color);
+    EXPECT_EQ(TextColorOf(dialog.LabelRemTime), color);
+    EXPECT_EQ(BackColorOf(dialog.LabelRemBG2), color);
+}

@@ -65,12 +65,7 @@ TEST_F(TaskEditor, NewTaskOpensWithTheClickedDateAndADeadline) {
 
 TEST_F(TaskEditor, NewTaskKeepsTheReminderDisabledAndGrey) {
     Open(*dialog, "New");
-    EXPECT_FALSE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_FALSE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xC0C0C0);
-    EXPECT_EQ(TextColorOf(dialog->LabelRemTime), 0xC0C0C0);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xC0C0C0);
+    ExpectReminder(*dialog, false);
 }
 
 TEST_F(TaskEditor, EditShowsTheFields) {
@@ -87,12 +82,7 @@ TEST_F(TaskEditor, EditShowsTheFields) {
     EXPECT_EQ(dialog->TextboxReminderDate->text(), "Sunday, November 1, 2009");
     EXPECT_EQ(dialog->tempTaskReminderDate, "11/1/2009");
     EXPECT_EQ(dialog->ComboReminderTime->currentText(), "08:20 PM");
-    EXPECT_TRUE(dialog->TextboxReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->PicButtonReminderDate->isEnabled());
-    EXPECT_TRUE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(TextColorOf(dialog->LabelRemDate), 0xFFFFFF);
-    EXPECT_EQ(TextColorOf(dialog->LabelRemTime), 0xFFFFFF);
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xFFFFFF);
+    ExpectReminder(*dialog, true);
 }
 
 TEST_F(TaskEditor, EditOfATaskWithoutDeadlineShowsItsDateAndGreyLabel) {
@@ -294,12 +284,10 @@ TEST_F(TaskEditor, ReminderClickEnablesColoursAndSetsTheAlarm) {
     Open(*dialog, "New");
     dialog->tempTaskReminderAlarm.clear();
     Click(dialog->CheckboxReminder);
-    EXPECT_TRUE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xFFFFFF);
+    ExpectReminder(*dialog, true);
     EXPECT_EQ(dialog->tempTaskReminderAlarm, "2009/10/20 09:00:00");
     Click(dialog->CheckboxReminder);
-    EXPECT_FALSE(dialog->ComboReminderTime->isEnabled());
-    EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), 0xC0C0C0);
+    ExpectReminder(*dialog, false);
 }
 
 TEST_F(TaskEditor, ReminderTimeIsRewrittenAndSetsTheAlarm) {

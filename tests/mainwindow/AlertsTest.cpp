@@ -9,22 +9,11 @@
 
 namespace {
 
-const std::string OneTerm = R"(<?xml version="1.0" encoding="ISO-8859-1"?>
-<term_data>
-<term>
-  <id>1</id>
-  <name>Fall 2009</name>
-  <start>2009/08/24</start>
-  <end>2009/12/18</end>
-</term>
-</term_data>
-)";
-
 class Alerts : public WindowTest {
 protected:
     void SetUp() override {
         WindowTest::SetUp();
-        WriteData("terms.xml", OneTerm);
+        WriteData("terms.xml", TermsFile({TermText{}}));
         LoadWindow();
     }
 

@@ -30,16 +30,7 @@ bool Inside(const UnitRect& rect, const DrawnItem& item) {
 
 void GridTest::SetUp() {
     WindowTest::SetUp();
-    WriteData("terms.xml", R"(<?xml version="1.0" encoding="ISO-8859-1"?>
-<term_data>
-<term>
-  <id>1</id>
-  <name>Fall 2009</name>
-  <start>2009/08/24</start>
-  <end>2009/12/18</end>
-</term>
-</term_data>
-)");
+    WriteData("terms.xml", TermsFile({TermText{}}));
     LoadWindow();
     ASSERT_EQ(ActiveTermName, Term);
     AddClassRecord({.forecolor = "16777215", .backcolor = "1122867"});

@@ -7,22 +7,7 @@
 
 namespace {
 
-const std::string TwoTerms = R"(<?xml version="1.0" encoding="ISO-8859-1"?>
-<term_data>
-<term>
-  <id>1</id>
-  <name>Fall 2009</name>
-  <start>2009/08/24</start>
-  <end>2009/12/18</end>
-</term>
-<term>
-  <id>2</id>
-  <name>Spring 2010</name>
-  <start>2010/01/11</start>
-  <end>2010/05/14</end>
-</term>
-</term_data>
-)";
+const std::string TwoTerms = TermsFile({{}, {2, "Spring 2010", "2010/01/11", "2010/05/14"}});
 
 class Process : public WindowTest {
 protected:
@@ -107,16 +92,7 @@ TEST_F(Process, LoadThatCannotMakeTheMarkerRaisesTheErrorBeforeAnythingIsReadOrM
 }
 
 TEST_F(Process, LoadOfATermNamedAsDeletedReadsNoAssignments) {
-    WriteData("terms.xml", R"(<?xml version="1.0" encoding="ISO-8859-1"?>
-<term_data>
-<term>
-  <id>3</id>
-  <name>DELETED RECORD</name>
-  <start>2009/08/24</start>
-  <end>2009/12/18</end>
-</term>
-</term_data>
-)");
+    WriteData("terms.xml", TermsFile({{3, "DELETED RECORD"}}));
     WriteData("Prefs.ini", "ActiveTerm=DELETED RECORD\n");
     LoadWindow();
     EXPECT_EQ(window->LabelTerm->text(), "No Term Selected");

@@ -34,7 +34,7 @@ class Pictures : public WindowTest {
 protected:
     void SetUp() override {
         WindowTest::SetUp(); // noon of 14 October 2009
-        WriteData("terms.xml", PictureTerm);
+        WriteData("terms.xml", TermsFile({TermText{}}));
         LoadWindow();
         FillPicturePlanner();
         window->picGrid->setFocus();

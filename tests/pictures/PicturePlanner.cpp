@@ -141,17 +141,6 @@ void AddEvents() {
 
 } // namespace
 
-const char* const PictureTerm = R"(<?xml version="1.0" encoding="ISO-8859-1"?>
-<term_data>
-<term>
-  <id>1</id>
-  <name>Fall 2009</name>
-  <start>2009/08/24</start>
-  <end>2009/12/18</end>
-</term>
-</term_data>
-)";
-
 void FillPicturePlanner() {
     AddClasses();
     AddHomework();

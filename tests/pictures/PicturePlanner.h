@@ -1,9 +1,6 @@
-// The planner that the pictures show: a term with its classes, homework, study sessions, tasks and events
+// What the pictures show of the planner's one term: its classes, homework, study sessions, tasks and events
 // around Wednesday, 14 October 2009.
 #pragma once
 
-// The term as the drive holds it.
-extern const char* const PictureTerm;
-
-// Puts everything else into the store.
+// Puts it into the store, in which the term stands.
 void FillPicturePlanner();

@@ -43,6 +43,15 @@ void ForgetExit() {
 
 } // namespace
 
+std::string TermsFile(const std::vector<TermText>& terms) {
+    std::string text = "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<term_data>\n";
+    for (const TermText& term : terms) {
+        text += "<term>\n  <id>" + std::to_string(term.id) + "</id>\n  <name>" + term.name +
+                "</name>\n  <start>" + term.start + "</start>\n  <end>" + term.end + "</end>\n</term>\n";
+    }
+    return text + "</term_data>\n";
+}
+
 void WindowTest::SetUp() {
     ForgetExit();
     ResetScript();

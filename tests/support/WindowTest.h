@@ -13,6 +13,18 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
+
+// A term as terms.xml holds it.
+struct TermText {
+    int id = 1;
+    std::string name = "Fall 2009";
+    std::string start = "2009/08/24";
+    std::string end = "2009/12/18";
+};
+
+// A terms.xml with these terms.
+std::string TermsFile(const std::vector<TermText>& terms);
 
 class WindowTest : public testing::Test {
 protected:
