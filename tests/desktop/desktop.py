@@ -6,6 +6,7 @@ import re
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
@@ -39,6 +40,11 @@ def stays_false(condition, seconds):
             return False
         time.sleep(0.05)
     return True
+
+
+def clock_lead():
+    """How far the clock of the day is ahead of the one that nobody sets, in seconds."""
+    return time.time() - time.monotonic()
 
 
 class Desktop:
@@ -226,6 +232,7 @@ class Planner:
                                     FAKETIME_NO_CACHE="1", FAKETIME_DONT_FAKE_MONOTONIC="1")
         self.process = None
         self.started = []
+        self.clock_lead = clock_lead()
 
     def set_date(self, date):
         """Lets the clock of the program stand as if it had started at this date and time; also while it runs."""
@@ -285,11 +292,22 @@ class Planner:
         except FileNotFoundError:
             return ""
 
+    def account(self):
+        """What a reader of a failed test wants to know of the first instance and of the machine's clock."""
+        if not self.process:
+            return "The planner was not started."
+        status = Path(f"/proc/{self.process.pid}/status")
+        state = re.search(r"State:\s+(.*)", status.read_text()).group(1) if self.process.poll() is None else None
+        return (f"The planner {f'is in state {state}' if state else f'has ended with {self.process.returncode}'}; the "
+                f"clock was set by {clock_lead() - self.clock_lead:.1f} s; complaints: {self.complaints.read_text()!r}")
+
     def close(self):
         for process in self.started:
             if process.poll() is None:
                 process.kill()
             process.wait()
+            for kind in ("sem.faketime_sem", "faketime_shm"):  # which a killed process leaves
+                Path(f"/dev/shm/{kind}_{process.pid}").unlink(missing_ok=True)
         if self.owns_drive:
             shutil.rmtree(self.drive, ignore_errors=True)
 
@@ -304,17 +322,21 @@ class DesktopTest(unittest.TestCase):
         self.desktop = Desktop(self.screen, self.tray)
         self.addCleanup(self.desktop.close)
 
-    def _keep_picture_of_failure(self):
-        """With PLANOVARIUM_FAILURES set, leaves a picture of the screen of a failed test in that folder."""
-        folder = os.environ.get("PLANOVARIUM_FAILURES")
+    def _report_failure(self, planner):
+        """Tells of the planner of a failed test. With PLANOVARIUM_FAILURES set, leaves a picture of its screen in
+        that folder."""
         result = self._outcome.result
-        if folder and any(test is self for test, _ in result.failures + result.errors):
+        if not any(test is self for test, _ in result.failures + result.errors):
+            return
+        print(planner.account(), file=sys.stderr)
+        folder = os.environ.get("PLANOVARIUM_FAILURES")
+        if folder:
             self.desktop.picture(Path(folder) / f"{self.id()}.png")
 
     def planner(self, **options):
         planner = Planner(self.desktop, **options)
         self.addCleanup(planner.close)
-        self.addCleanup(self._keep_picture_of_failure)
+        self.addCleanup(self._report_failure, planner)
         return planner
 
     def click_tray(self, button=1, repeat=1):
