@@ -8,7 +8,7 @@
 namespace {
 
 std::string Hours(std::int64_t minutes) {
-    return minutes < 2 * MinutesPerHour ? "1 Hour" : std::to_string(minutes / MinutesPerHour) + " Hours";
+    return minutes / MinutesPerHour < 2 ? "1 Hour" : std::to_string(minutes / MinutesPerHour) + " Hours";
 }
 
 std::string HoursOrMinutes(std::int64_t minutes) {
