@@ -19,8 +19,8 @@ class MainWindow:
         """A short mark of what the area shows: the same for the same picture."""
         return hashlib.sha256(self.desktop.colours(self.id, area)).hexdigest()
 
-    def click(self, place, button=1, repeat=1):
-        self.desktop.click_in(self.id, place, button, repeat)
+    def click(self, place):
+        self.desktop.click_in(self.id, place)
 
     def mode(self):
         """The mode whose word in the mode bar is bright, or None while it changes."""

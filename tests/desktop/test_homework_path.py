@@ -95,6 +95,9 @@ class HomeworkPath(DesktopTest):
         wait_until(lambda: self.desktop.active_window_name() == title, f"{title} is in front")
         return window
 
+    def answered(self, question):
+        wait_until(lambda: self.desktop.window(QUESTION) != question, "the question is answered")
+
     def closed(self, title):
         wait_until(lambda: not self.desktop.window(title), f"{title} is closed")
         # So that what comes next goes to the window behind it.
@@ -168,8 +171,9 @@ class ByKeyboard(HomeworkPath):
         self.keys("Tab", "space")  # Edit Class
         self.keys(*["Tab"] * 5, "space")  # over the fields, OK and Cancel to Delete
         for _ in range(2):
-            self.opened(QUESTION)
+            question = self.opened(QUESTION)
             self.keys("Return")
+            self.answered(question)
         self.opened(EDIT_TERM)
         self.leave_term(EDIT_TERM)
 
@@ -187,8 +191,9 @@ class ByMouse(HomeworkPath):
         self.desktop.click_in(window, place)
 
     def say_yes(self):
-        box = self.opened(QUESTION)
-        self.click(box, MessageBox.YES)
+        question = self.opened(QUESTION)
+        self.click(question, MessageBox.YES)
+        self.answered(question)
 
     def start_term(self):
         self.main.click(Main.NEW)
@@ -221,7 +226,8 @@ class ByMouse(HomeworkPath):
         self.click(dialog, Assignment.DESCRIPTION)
         self.desktop.type(description)
         if estimate:
-            self.desktop.click_in(dialog, Assignment.ESTIMATE, repeat=3)  # marks the text
+            self.click(dialog, Assignment.ESTIMATE)
+            self.desktop.key("ctrl+a")
             self.desktop.type(estimate)
         self.click(dialog, Assignment.OK)
         self.closed(NEW_ASSIGNMENT)

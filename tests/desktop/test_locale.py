@@ -5,6 +5,7 @@ import os
 import unittest
 
 from desktop import DesktopTest, wait_until
+from main_window import MainWindow
 
 NEW_TASK = "Planovarium - New Task"
 EDIT_TASK = "Planovarium - Edit Task"
@@ -44,6 +45,7 @@ class German(DesktopTest):
         window = planner.window()
         self.desktop.run("xdotool", "windowsize", "--sync", window, "1100", "700")
         wait_until(lambda: self.desktop.geometry(window)[2:] == (1100, 700), "the window has its new size")
+        MainWindow(planner).finish_input()  # the planner too knows of it
         self.assertEqual(planner.shut_down(), 0)
         self.assertIn("\nFormMainSizeX=1100\nFormMainSizeY=700\n", planner.read_data("Prefs.ini"))
         planner.start()

@@ -6,6 +6,7 @@ import signal
 import unittest
 
 from desktop import TITLE, DesktopTest, stays_false, wait_until
+from main_window import MainWindow
 from session import Session
 
 RECORD_FILES = ["classes.xml", "events.xml", "tasks.xml", "terms.xml"]
@@ -280,9 +281,19 @@ class Idle(DesktopTest):
             fields = stat.read().rsplit(")", 1)[1].split()
         return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")  # its own and the system's for it
 
+    def wait_for_rest(self, process):
+        """Waits until all that comes with the start is done."""
+        def rests():
+            before = self.processor_seconds(process)
+            return stays_false(lambda: self.processor_seconds(process) != before, 1)
+
+        wait_until(rests, "the planner rests")
+
     def test_takes_less_than_a_hundredth_of_a_processor(self):
         planner = self.planner().start()
         wait_until(lambda: self.desktop.active_window_name() == TITLE, "the window is active")
+        wait_until(self.desktop.tray_icon, "the icon is in the tray")
+        self.wait_for_rest(planner.process)
         before = self.processor_seconds(planner.process)
         limit = before + self.seconds / 100
         self.assertTrue(stays_false(lambda: self.processor_seconds(planner.process) > limit, self.seconds))
@@ -362,6 +373,7 @@ class WindowPlace(DesktopTest):
         self.desktop.run("xdotool", "windowmove", "--sync", window, "120", "90")
         wait_until(lambda: self.desktop.geometry(window)[2:] == (900, 650), "the window has its new size")
         before = self.desktop.geometry(window)
+        MainWindow(planner).finish_input()  # the planner too knows of it
         self.assertEqual(planner.shut_down(), 0)
         planner.start()
         wait_until(lambda: self.desktop.geometry(planner.window()) == before, "the window is where it was")

@@ -189,6 +189,9 @@ void RandomWalk::TakeStep() {
 }
 
 void RandomWalk::Act(QDialog& dialog) {
+    if (const auto* picker = dialog.findChild<DatePicker*>()) {
+        FireTimer(picker->TimerCalendar); // the guard after the last pick; on its own it ends sooner or later
+    }
     if (&dialog == TermDialog && Roll(4) == 0) {
         return WorkOnTerm();
     }
@@ -268,7 +271,6 @@ void RandomWalk::PickDate(QDialog& dialog) {
     if (picker == nullptr || button == nullptr) {
         return;
     }
-    FireTimer(picker->TimerCalendar); // the guard after the last pick
     Click(button);
     QWhatsThis::leaveWhatsThisMode();
     if (!picker->isVisible()) {
