@@ -4,7 +4,7 @@ RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev 
   libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
 HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
 TestPackages="$HeadlessPackages libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev pkg-config clang
-  clang-format clang-tidy libclang-rt-14-dev strace trayer faketime python3 x11-utils locales"
+  clang-format clang-tidy libclang-rt-14-dev git trayer faketime python3 x11-utils locales"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 
 AsRoot() {
@@ -20,5 +20,6 @@ Install() {
     [ ${#missing[@]} -gt 0 ] || return 0
     echo "Installing ${missing[*]}"
     AsRoot apt-get update -qq
-    AsRoot env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    AsRoot env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends \
+        -o DPkg::Lock::Timeout=300 "${missing[@]}" >/dev/null
 }
