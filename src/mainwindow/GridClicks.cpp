@@ -104,11 +104,9 @@ void frmMain::BindGrid() {
     connect(VSGridScroll, &QScrollBar::valueChanged, this, &frmMain::GridScrolled);
     connect(picGrid, &PictureBox::Pressed, this, &frmMain::GridPressed);
     connect(picGrid, &PictureBox::Released, this, &frmMain::GridReleased);
-    connect(picGrid, &PictureBox::WheelTurned, this, &frmMain::MouseWheel);
     for (std::size_t i = 0; i < picColHeader.size(); ++i) {
         connect(picColHeader[i], &PictureBox::Clicked, this,
                 [this, i] { ColumnClicked(static_cast<int>(i)); });
-        connect(picColHeader[i], &PictureBox::WheelTurned, this, &frmMain::MouseWheel);
     }
 }
 

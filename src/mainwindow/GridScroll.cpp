@@ -3,7 +3,6 @@
 #include "mainwindow/GridLayout.h"
 #include "mainwindow/frmMain.h"
 
-#include <QCoreApplication>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -31,9 +30,16 @@ void frmMain::MouseWheel(int rotation) {
     }
 }
 
-// The wheel counts wherever the pointer is over the window.
+// The wheel counts wherever the pointer is over the window: nothing there but the scroll bar and the filter
+// menus takes it for itself.
 void frmMain::wheelEvent(QWheelEvent* event) {
-    QCoreApplication::sendEvent(picGrid, event);
+    WheelRest += event->angleDelta().y();
+    const int notches = WheelRest / QWheelEvent::DefaultDeltasPerStep;
+    WheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0) {
+        MouseWheel(notches);
+    }
+    event->accept();
 }
 
 void frmMain::LayoutGrid() {

@@ -139,6 +139,7 @@ public:
     int CurrentRow = 0;                // row of the list on which the keys stand; 0 for none
     int CurrentHalfHour = -1;          // half hour of the day on which they stand; -1 for none
     int CurrentEvent = 0;              // and the event row of it; 0 for none
+    int WheelRest = 0;                 // eighths of a degree that the wheel was turned beyond a notch
     QPoint PopupPoint;                 // where on the screen the next popup menu opens
     std::string ModeCaption;           // the left text of the status bar
     std::string EventClickedStartTime; // the half hour clicked in the day schedule

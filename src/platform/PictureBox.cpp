@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -14,8 +13,6 @@
 #include <memory>
 
 namespace {
-
-constexpr int WheelNotch = 120;
 
 struct FaceFamily {
     const char* family;
@@ -213,16 +210,6 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
         emit Clicked();
     }
-}
-
-void PictureBox::wheelEvent(QWheelEvent* event) {
-    wheelRest += event->angleDelta().y();
-    const int notches = wheelRest / WheelNotch;
-    wheelRest -= notches * WheelNotch;
-    if (notches != 0) {
-        emit WheelTurned(notches);
-    }
-    event->accept();
 }
 
 void PictureBox::resizeEvent(QResizeEvent* /*event*/) {

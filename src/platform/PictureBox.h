@@ -94,15 +94,12 @@ signals:
     // A left press and release, both over the surface.
     void Clicked();
 
-    // The wheel turned by whole notches; above 0 is away from the user.
-    void WheelTurned(int notches);
     void Resized();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -114,5 +111,4 @@ private:
     std::vector<DrawnItem> drawn;
     QWidget* focusFrame = nullptr; // lies over the surface and over what stands on it
     int backColor = 0xFFFFFF;
-    int wheelRest = 0; // eighths of a degree not yet a whole notch
 };

@@ -128,8 +128,8 @@ class List(WindowTest):
         self.window.finish_input()
         return self.window.look(Main.VIEW)
 
-    def turn_wheel(self, notches):
-        self.desktop.turn_wheel(*self.desktop.on_screen(self.window.id, Main.ROW), notches)
+    def turn_wheel(self, notches, place=Main.ROW):
+        self.desktop.turn_wheel(*self.desktop.on_screen(self.window.id, place), notches)
 
     def row(self, number):
         """A place in the row of this number, counted from 0."""
@@ -155,6 +155,10 @@ class List(WindowTest):
         self.window.wait_for_picture(Main.VIEW, self.first, "the list is at its start")
         self.turn_wheel(-3)
         self.assertEqual(self.view(), self.first)
+
+    def test_wheel_counts_over_the_status_bar(self):
+        self.turn_wheel(1, Main.CLOCK[:2])
+        self.window.wait_for_change(Main.VIEW, self.first, "the list has moved")
 
     def test_row_opens_when_press_and_release_fall_on_it(self):
         self.window.click(self.row(0))

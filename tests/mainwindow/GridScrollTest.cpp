@@ -107,6 +107,25 @@ TEST_F(GridScrolls, TheWheelCountsOverTitlesAndOverTheRestOfTheWindow) {
     EXPECT_EQ(window->FirstRow, 7);
 }
 
+TEST_F(GridScrolls, TheWheelCountsOverEveryPicture) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    for (PictureBox* picture : {window->picStatusBar, window->PictureBarTasks, window->picCalMonthUp,
+                                window->picCalDayDown, window->picToday, window->picTime}) {
+        window->VSGridScroll->setValue(1);
+        TurnWheel(picture, -120);
+        EXPECT_EQ(window->FirstRow, 4);
+    }
+}
+
+TEST_F(GridScrolls, HalfNotchesOverTwoPicturesAreAWholeOne) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    TurnWheel(window->picGrid, -60);
+    TurnWheel(window->picColHeader[3], -60);
+    EXPECT_EQ(window->FirstRow, 4);
+}
+
 TEST_F(GridScrolls, TheWheelMovesThreeRowsOverTheScrollBarToo) {
     AddAssignments(60);
     window->ShowHomeworkMode();
