@@ -6,7 +6,6 @@
 #include "platform/ElidedLabel.h"
 
 #include <QHBoxLayout>
-#include <QMenuBar>
 #include <QSizeGrip>
 #include <QVBoxLayout>
 
@@ -66,11 +65,10 @@ frmMain::frmMain() {
     setCentralWidget(centre);
 
     mnuPopup = new QMenu(this);
-    BindModes();
     BindViewMenus();
     BindCalendar();
     BindGrid();
-    BindPanels();
+    BindStatusBar();
     BindAlerts();
     BindStudyTimer();
     BindAutoStart();

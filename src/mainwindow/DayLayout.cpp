@@ -140,6 +140,12 @@ std::vector<int> EventRowsInHalfHour(int halfHour) {
     return rows;
 }
 
+int HalfHourOfEvent(int eventRow, int halfHour) {
+    const int top = EventBoxTop.Item(eventRow);
+    const int bottom = top + EventBoxHeight.Item(eventRow);
+    return std::clamp(halfHour, top / SlotUnits, (bottom - 1) / SlotUnits);
+}
+
 int EventInHalfHour(int halfHour, int wanted) {
     const std::vector<int> rows = EventRowsInHalfHour(halfHour);
     if (rows.empty() || std::ranges::find(rows, wanted) != rows.end()) {

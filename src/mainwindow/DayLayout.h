@@ -59,6 +59,9 @@ int HalfHourAt(int y, int firstRow);
 // The event rows whose boxes touch the half hour, in their order.
 std::vector<int> EventRowsInHalfHour(int halfHour);
 
+// Of the half hours that the event's box touches, the one next to this one.
+int HalfHourOfEvent(int eventRow, int halfHour);
+
 // The event row wanted, when it is one of these; else the first of them, or 0 without.
 int EventInHalfHour(int halfHour, int wanted);
 

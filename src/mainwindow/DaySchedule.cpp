@@ -66,6 +66,14 @@ void DrawCurrentHalfHour(PictureBox& grid, int halfHour, int firstRow) {
                    CurrentColor);
 }
 
+// The scroll bar ends with the half hour of 11 PM; the one behind it comes into view with the keys.
+int FirstRowOfDay(const frmMain& window) {
+    const bool atEnd = window.VSGridScroll->value() == window.VSGridScroll->maximum();
+    return atEnd && window.CurrentHalfHour == HalfHours - 1
+               ? FirstRowShowing(HalfHours, window.FirstRow, window.RowsVisible)
+               : window.FirstRow;
+}
+
 } // namespace
 
 void frmMain::LayoutEventGrid() {
@@ -93,6 +101,7 @@ void frmMain::FillEventDay() {
         CurrentHalfHour = -1;
     }
     CurrentEvent = EventInHalfHour(CurrentHalfHour, CurrentEvent);
+    FirstRow = FirstRowOfDay(*this);
     DrawHalfHours(*picGrid, FirstRow);
     if (CurrentHalfHour >= 0) {
         DrawCurrentHalfHour(*picGrid, CurrentHalfHour, FirstRow);

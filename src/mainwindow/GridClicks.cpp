@@ -1,6 +1,7 @@
 // The clicks on the grid and on its titles, and what they open.
 #include "core/RowLists.h"
 #include "mainwindow/DayLayout.h"
+#include "mainwindow/GridAccessible.h"
 #include "mainwindow/frmMain.h"
 
 namespace {
@@ -36,15 +37,16 @@ void ClickCalendar(frmMain& window, int x, int y, bool right) {
 
 void ClickDay(frmMain& window, int y, bool right) {
     const bool onBox = window.ClickedRow > 0;
+    const int halfHour = HalfHourAt(y, window.FirstRow);
     if (!onBox) {
-        window.EventClickedStartTime = StartTimeOfHalfHour(HalfHourAt(y, window.FirstRow));
+        window.EventClickedStartTime = StartTimeOfHalfHour(halfHour);
     }
     if (right) {
         window.ShowEventListMenu();
     } else if (onBox) {
-        window.OpenEventBox(window.ClickedRow);
+        window.OpenEventBox(window.ClickedRow, halfHour);
     } else {
-        window.NewEvent();
+        window.OpenHalfHour(halfHour);
     }
 }
 
@@ -52,12 +54,22 @@ bool HasListMenu(Mode mode) {
     return mode == Mode::Homework || mode == Mode::Tasks;
 }
 
-// The keys go on from the row that was clicked.
+// The keys go on from the row that is opened.
 void MoveCurrentRow(frmMain& window, int row) {
     if (row != window.CurrentRow) {
         window.CurrentRow = row;
-        window.LayoutGrid();
-        window.FillGrid();
+        window.RepaintGrid();
+        NotifyGridMoved(window);
+    }
+}
+
+// The same for the half hour, and the event row in it or 0.
+void MoveCurrentHalfHour(frmMain& window, int halfHour, int eventRow) {
+    if (halfHour != window.CurrentHalfHour || eventRow != window.CurrentEvent) {
+        window.CurrentHalfHour = halfHour;
+        window.CurrentEvent = eventRow;
+        window.RepaintGrid();
+        NotifyGridMoved(window);
     }
 }
 
@@ -71,7 +83,6 @@ void ClickList(frmMain& window, bool right) {
         return;
     }
     if (row <= window.RowCount) {
-        MoveCurrentRow(window, row);
         window.OpenRow(row);
     } else if (mode == Mode::Homework) {
         window.NewAssignment();
@@ -104,26 +115,20 @@ void frmMain::BindGrid() {
     connect(VSGridScroll, &QScrollBar::valueChanged, this, &frmMain::GridScrolled);
     connect(picGrid, &PictureBox::Pressed, this, &frmMain::GridPressed);
     connect(picGrid, &PictureBox::Released, this, &frmMain::GridReleased);
+    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
+    connect(picGrid, &PictureBox::Resized, this, &frmMain::RefreshAfterResize);
     for (std::size_t i = 0; i < picColHeader.size(); ++i) {
         connect(picColHeader[i], &PictureBox::Clicked, this,
                 [this, i] { ColumnClicked(static_cast<int>(i)); });
     }
 }
 
-void frmMain::GridResized() {
-    if (!ChangingMode) {
-        RefreshAfterResize();
-    }
-}
-
 void frmMain::ResortGrid() {
-    if (VSGridScroll->value() != 1) {
-        VSGridScroll->setValue(1); // repaints
+    const bool scrolled = VSGridScroll->value() != 1;
+    ScrollGridTo(1);
+    if (scrolled) {
         picGrid->setFocus();
-        return;
     }
-    LayoutGrid();
-    FillGrid();
 }
 
 void frmMain::ColumnClicked(int index) {
@@ -138,7 +143,7 @@ void frmMain::ColumnClicked(int index) {
     ResortGrid();
 }
 
-void frmMain::GridPressed(int x, int y, Qt::MouseButton /*button*/) {
+void frmMain::GridPressed(int x, int y) {
     ClickedRow = RowUnder(*this, x, y);
 }
 
@@ -162,6 +167,7 @@ void frmMain::GridReleased(int x, int y, Qt::MouseButton button) {
 }
 
 void frmMain::OpenRow(int row) {
+    MoveCurrentRow(*this, row);
     const int place = row - FirstRow + 1;
     HighlightRow(place, true);
     switch (CurrentMode()) {
@@ -181,11 +187,13 @@ void frmMain::OpenRow(int row) {
     HighlightRow(place, false);
 }
 
-void frmMain::OpenEventBox(int row) {
+void frmMain::OpenEventBox(int row, int halfHour) {
+    MoveCurrentHalfHour(*this, HalfHourOfEvent(row, halfHour), row);
     EditEvent(EventRows.Item(row));
 }
 
 void frmMain::OpenHalfHour(int halfHour) {
+    MoveCurrentHalfHour(*this, std::min(halfHour, HalfHours - 1), 0);
     EventClickedStartTime = StartTimeOfHalfHour(halfHour);
     NewEvent();
 }

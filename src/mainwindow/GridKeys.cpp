@@ -2,7 +2,6 @@
 // context menu, a digit sorts by the column of that number; in the month H, T and E open the day's menus.
 // With Ctrl the arrows and pages move the selected day from every view, Home goes to today and End to
 // tomorrow.
-#include "core/RowLists.h"
 #include "mainwindow/DayLayout.h"
 #include "mainwindow/GridAccessible.h"
 #include "mainwindow/GridMoves.h"
@@ -58,28 +57,23 @@ QPoint OnScreen(const PictureBox& grid, int x, int y) {
     return grid.mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
 }
 
-// Shows the view again with this row of it visible.
-void ShowWithRow(frmMain& window, int row) {
-    const int first = FirstRowShowing(row, window.FirstRow, window.RowsVisible);
-    if (first != window.FirstRow) {
-        window.VSGridScroll->setValue(first); // paints it
-    }
-    window.LayoutGrid();
-    window.FillGrid();
-    NotifyGridMoved(window);
-}
-
 // --- The lists ---
+
+void ShowCurrentRow(frmMain& window) {
+    if (window.CurrentRow > 0) {
+        window.ShowRow(window.CurrentRow);
+    }
+}
 
 bool ListKey(frmMain& window, int key) {
     if (const auto move = MoveOf(key)) {
         const ListView view{window.RowCount, window.FirstRow, window.RowsVisible};
         window.CurrentRow = MovedRow(*move, window.CurrentRow, view);
-        ShowWithRow(window, std::max(window.CurrentRow, 1));
+        ShowCurrentRow(window);
         return true;
     }
     if (IsEnter(key) && window.CurrentRow > 0) {
-        ShowWithRow(window, window.CurrentRow);
+        ShowCurrentRow(window);
         window.OpenRow(window.CurrentRow);
         return true;
     }
@@ -94,6 +88,7 @@ bool ListKey(frmMain& window, int key) {
 }
 
 bool ListMenuKey(frmMain& window, Mode mode) {
+    ShowCurrentRow(window);
     const int place = std::max(window.CurrentRow - window.FirstRow + 1, 1);
     window.PopupPoint = OnScreen(*window.picGrid, RowNumberRight, RowTop(place + 1));
     if (mode == Mode::Homework) {
@@ -105,6 +100,12 @@ bool ListMenuKey(frmMain& window, Mode mode) {
 }
 
 // --- The schedule of a day ---
+
+void ShowCurrentHalfHour(frmMain& window) {
+    if (window.CurrentHalfHour >= 0) {
+        window.ShowRow(window.CurrentHalfHour + 1);
+    }
+}
 
 // To the side the keys choose among the events of the half hour.
 void ChooseEvent(frmMain& window, int step) {
@@ -123,11 +124,11 @@ bool DayKey(frmMain& window, int key) {
         }
         const ListView view{HalfHours, window.FirstRow, window.RowsVisible};
         window.CurrentHalfHour = MovedRow(*move, window.CurrentHalfHour + 1, view) - 1;
-        ShowWithRow(window, std::max(window.CurrentHalfHour + 1, 1));
+        ShowCurrentHalfHour(window);
         return true;
     }
     if (IsEnter(key) && window.CurrentEvent > 0) {
-        window.OpenEventBox(window.CurrentEvent);
+        window.OpenEventBox(window.CurrentEvent, window.CurrentHalfHour);
         return true;
     }
     if (IsEnter(key) && window.CurrentHalfHour >= 0) {
@@ -138,6 +139,7 @@ bool DayKey(frmMain& window, int key) {
 }
 
 bool DayMenuKeyPressed(frmMain& window) {
+    ShowCurrentHalfHour(window);
     const int place = std::max(window.CurrentHalfHour - window.FirstRow + 2, 1);
     window.PopupPoint = OnScreen(*window.picGrid, TimeColumnWidth, place * SlotUnits);
     window.ShowEventListMenu();

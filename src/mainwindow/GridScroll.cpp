@@ -6,21 +6,40 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 // Silent, since a fill is under way that shows what the bar then says.
 void frmMain::SetGridScroll() {
     const GridScroll scroll = GridScrollFor(RowCount, RowsVisible);
     const QSignalBlocker silence(VSGridScroll);
     VSGridScroll->setEnabled(scroll.enabled);
     VSGridScroll->setRange(1, scroll.greatest);
-    VSGridScroll->setSingleStep(1);
     VSGridScroll->setPageStep(scroll.largeStep);
     FirstRow = VSGridScroll->value();
 }
 
 void frmMain::GridScrolled() {
     FirstRow = VSGridScroll->value();
+    RepaintGrid();
+}
+
+void frmMain::RepaintGrid() {
     LayoutGrid();
     FillGrid();
+}
+
+void frmMain::ScrollGridTo(int firstRow) {
+    const int value = std::clamp(firstRow, VSGridScroll->minimum(), VSGridScroll->maximum());
+    if (value == VSGridScroll->value()) {
+        RepaintGrid();
+    } else {
+        VSGridScroll->setValue(value); // repaints
+    }
+}
+
+void frmMain::ShowRow(int row) {
+    ScrollGridTo(FirstRowShowing(row, FirstRow, RowsVisible));
+    NotifyGridMoved(*this);
 }
 
 // The bar is hidden, but not disabled, while the month is shown.

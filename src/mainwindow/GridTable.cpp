@@ -87,8 +87,11 @@ QString ListText(ListKind kind, int row, int column) {
 QRect ListPlace(const frmMain& window, ListKind kind, int row, int column) {
     const ColumnPlace place =
         PlaceColumns(ColumnsOf(kind), window.picGrid->WidthInUnits())[static_cast<std::size_t>(column)];
-    if (row < 0) {
+    if (row == TitleRow) {
         return InPixels({place.left, 0, place.width, TitleUnits});
+    }
+    if (row + 1 < window.FirstRow) {
+        return {};
     }
     return InPixels(CellRect(place, row + 2 - window.FirstRow));
 }
@@ -123,6 +126,21 @@ QString EventText(int eventRow, int column) {
     default:
         return FromStore(EventBoxText(eventRow)).trimmed();
     }
+}
+
+// --- What can be pressed without being on the screen ---
+
+void PressRow(frmMain& window, int row) {
+    window.CurrentRow = row;
+    window.ShowRow(row);
+    window.OpenRow(row);
+}
+
+void PressEvent(frmMain& window, int row) {
+    window.CurrentHalfHour = HalfHourOfEvent(row, 0);
+    window.CurrentEvent = row;
+    window.ShowRow(window.CurrentHalfHour + 1);
+    window.OpenEventBox(row, window.CurrentHalfHour);
 }
 
 } // namespace
@@ -219,11 +237,11 @@ TableCell TableCellAt(const frmMain& window, QPoint point) {
 void PressTableCell(frmMain& window, int row, int column) {
     const Mode mode = window.CurrentMode();
     if (ListOf(mode)) {
-        return row < 0 ? window.ColumnClicked(column) : window.OpenRow(row + 1);
+        return row < 0 ? window.ColumnClicked(column) : PressRow(window, row + 1);
     }
     if (mode == Mode::Calendar && row >= 0) {
         window.GoToDate(window.Month.CellDate[CellIndex(row, column)]);
     } else if (mode == Mode::Events && row >= 0) {
-        window.OpenEventBox(row + 1);
+        PressEvent(window, row + 1);
     }
 }

@@ -74,12 +74,8 @@ void frmMain::RefreshFor(std::string_view reason) {
 }
 
 void frmMain::RefreshAfterResize() {
-    if (!isMinimized() && RefreshReason == ReasonNone && CurrentMode() != Mode::None) {
+    const bool atWork = ChangingMode || RefreshReason != ReasonNone;
+    if (!isMinimized() && !atWork && CurrentMode() != Mode::None) {
         RefreshFor(ReasonResize);
     }
-}
-
-void frmMain::BindModes() {
-    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
-    connect(picGrid, &PictureBox::Resized, this, &frmMain::GridResized);
 }

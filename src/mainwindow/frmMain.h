@@ -73,8 +73,8 @@ public:
     QWidget* PictureBoxCalendar = nullptr; // the small calendar
     ClickLabel* LabelMonth = nullptr;
     PictureBox *picCalMonthUp = nullptr, *picCalMonthDown = nullptr;
-    std::array<ClickLabel*, 7> LabelCalDay{};
-    std::array<ClickLabel*, 42> LabelCalDate{};
+    std::array<ClickLabel*, DaysPerWeek> LabelCalDay{};
+    std::array<ClickLabel*, MonthCells> LabelCalDate{};
     TileBorder* LabelCalTileBorder = nullptr; // the frame around today
     PictureBox *picToday = nullptr, *picTomorrow = nullptr;
     ClickLabel *LabelToday = nullptr, *LabelTomorrow = nullptr;
@@ -230,7 +230,7 @@ public:
     // Sets the reason and refreshes.
     void RefreshFor(std::string_view reason);
 
-    // For the window's new size, unless it is minimized or at work.
+    // For the grid's new size, unless the window is minimized or at work.
     void RefreshAfterResize();
 
     // --- MonthCalendar.cpp, CalendarSteps.cpp, LargeCalendar.cpp ---
@@ -275,21 +275,28 @@ public:
     void ResortGrid();
     void MouseWheel(int rotation);
     void ColumnClicked(int index);
-    void GridPressed(int x, int y, Qt::MouseButton button);
+    void GridPressed(int x, int y);
     void GridReleased(int x, int y, Qt::MouseButton button);
-    void GridResized();
 
     // Gives whether the key means anything here.
     bool GridKeyPressed(int key, Qt::KeyboardModifiers modifiers);
 
-    // Opens the editor on a row of the list, on an event of the day, or for a new event at a half hour.
+    // Opens the editor on a row of the list, on an event of the day, which was chosen in that half hour, or
+    // for a new event at a half hour. The keys go on from there.
     void OpenRow(int row);
-    void OpenEventBox(int row);
+    void OpenEventBox(int row, int halfHour);
     void OpenHalfHour(int halfHour);
 
-    // The layout and the fill of the mode.
+    // The layout and the fill of the mode, and both.
     void LayoutGrid();
     void FillGrid();
+    void RepaintGrid();
+
+    // Repaints the grid from this row on, or from the nearest one that the scroll bar reaches.
+    void ScrollGridTo(int firstRow);
+
+    // Repaints the grid with the row visible, on which the keys stand.
+    void ShowRow(int row);
 
     // --- PopupMenus.cpp ---
     QMenu* mnuPopup = nullptr;
@@ -309,7 +316,7 @@ public:
     // Runs the command of the popup item at the index, counted from 0.
     void RunPopupCommand(int index);
 
-    // --- StatusPanels.cpp, Alerts.cpp, StudyTimer.cpp ---
+    // --- StatusBar.cpp, Alerts.cpp, StudyTimer.cpp ---
     void PaintStatusBar();
     void StudyTimeAlerts();
     void ShowAlertMessage(int index);
@@ -349,12 +356,11 @@ private:
     QWidget* BuildRightSide();
 
     // Each subject binds its controls to its procedures.
-    void BindModes();
     void BindViewMenus();
     void BindCalendar();
     void BindGrid();
     void InstallGridKeys();
-    void BindPanels();
+    void BindStatusBar();
     void BindAlerts();
     void BindStudyTimer();
     void BindAutoStart();

@@ -32,7 +32,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/RefreshView.cpp
   mainwindow/ReminderGrid.cpp
   mainwindow/ShowBox.cpp
-  mainwindow/StatusPanels.cpp
+  mainwindow/StatusBar.cpp
   mainwindow/StudyGrid.cpp
   mainwindow/StudyTimer.cpp
   mainwindow/TaskFlow.cpp

@@ -192,6 +192,21 @@ TEST_F(DayLayout, TheEventOfAHalfHourIsTheOneWantedOrTheFirst) {
     EXPECT_EQ(EventInHalfHour(-1, 1), 0);
 }
 
+TEST_F(DayLayout, TheHalfHourOfAnEventIsTheNextOneThatItsBoxTouches) {
+    AddRow("09:15 AM", "1 Hour");
+    LayoutDayEvents(GridWidth);
+    EXPECT_EQ(HalfHourOfEvent(1, 0), 18);
+    EXPECT_EQ(HalfHourOfEvent(1, 19), 19);
+    EXPECT_EQ(HalfHourOfEvent(1, 20), 20);
+    EXPECT_EQ(HalfHourOfEvent(1, 40), 20);
+}
+
+TEST_F(DayLayout, TheHalfHourOfAnEventEndsBeforeTheNextBegins) {
+    AddRow("09:00 AM", "1 Hour");
+    LayoutDayEvents(GridWidth);
+    EXPECT_EQ(HalfHourOfEvent(1, 20), 19);
+}
+
 TEST_F(DayLayout, ABoxShowsTypeAndDescription) {
     const auto shown = [](const std::string& type, const std::string& desc) {
         EventRows.Add(AddEventRecord({.desc = desc}));

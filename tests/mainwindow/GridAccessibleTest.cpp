@@ -115,6 +115,35 @@ TEST_F(GridAccessible, PressingATitleSortsAndPressingACellOpens) {
     ASSERT_TRUE(WaitUntil([this] { return window->SortColumn == 5; }));
     Table()->cellAt(1, 5)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(WaitUntil([this] { return HighlightedNumbers() == QStringList{"2"}; }));
+    EXPECT_EQ(Table()->selectedRows(), QList<int>{1}); // the keys go on from it
+}
+
+TEST_F(GridAccessible, PressingACellThatIsScrolledAwayShowsItAndOpens) {
+    AddAssignments(40);
+    window->ShowHomeworkMode();
+    Table()->cellAt(39, 5)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_TRUE(WaitUntil([this] { return Opened == QStringList{"Planovarium - Edit Assignment: A40"}; }));
+    EXPECT_EQ(Table()->selectedRows(), QList<int>{39});
+    EXPECT_FALSE(Table()->cellAt(39, 5)->state().offscreen);
+    EXPECT_EQ(HighlightedNumbers(), QStringList{"40"});
+}
+
+TEST_F(GridAccessible, PressingAnEventOfTheDayMovesTheKeysToIt) {
+    AddEventRecord({.time = "01:00 AM", .desc = "Stars"});
+    AddEventRecord({.time = "09:00 AM", .desc = "Chess"});
+    window->ShowEventMode();
+    Table()->cellAt(0, 2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_TRUE(WaitUntil([this] { return Table()->selectedRows() == QList<int>{0}; }));
+    EXPECT_EQ(window->CurrentHalfHour, 2);
+    EXPECT_FALSE(Table()->cellAt(0, 2)->state().offscreen);
+}
+
+TEST_F(GridAccessible, TheRowScrolledUnderTheTitlesIsOffTheScreen) {
+    AddAssignments(40);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(3);
+    EXPECT_TRUE(Table()->cellAt(1, 5)->state().offscreen);
+    EXPECT_FALSE(Table()->cellAt(2, 5)->state().offscreen);
 }
 
 TEST_F(GridAccessible, CellsOfRowsThatHaveGoneAreInvalid) {

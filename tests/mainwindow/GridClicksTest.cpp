@@ -217,6 +217,36 @@ TEST_F(GridClicks, AClickOnABoxTakesNoTime) {
     EXPECT_EQ(window->EventClickedStartTime, "");
 }
 
+TEST_F(GridClicks, TheKeysGoOnFromTheHalfHourThatIsClicked) {
+    AddEventRecord({.time = "09:00 AM", .duration = "1 Hour"});
+    window->ShowEventMode();
+    Click(HalfHourPoint(24));
+    EXPECT_EQ(window->CurrentHalfHour, 24);
+    EXPECT_EQ(window->CurrentEvent, 0);
+    Click(HalfHourPoint(19)); // on the box
+    EXPECT_EQ(window->CurrentHalfHour, 19);
+    EXPECT_EQ(window->CurrentEvent, 1);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(window->CurrentHalfHour, 20);
+}
+
+TEST_F(GridClicks, AClickCloseAboveABoxIsOnItsFirstHalfHour) {
+    AddEventRecord({.time = "09:00 AM", .duration = "1 Hour"});
+    window->ShowEventMode();
+    Click({300, (18 - window->FirstRow + 1) * SlotHeight - 1});
+    EXPECT_EQ(window->ClickedRow, 1);
+    EXPECT_EQ(window->CurrentHalfHour, 18);
+    EXPECT_EQ(window->CurrentEvent, 1);
+}
+
+TEST_F(GridClicks, AClickBeyondTheDayIsOnItsLastHalfHour) {
+    window->ShowEventMode();
+    window->resize(1000, 1900);
+    ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible > 62; }));
+    Click(HalfHourPoint(60));
+    EXPECT_EQ(window->CurrentHalfHour, 47);
+}
+
 TEST_F(GridClicks, TheRightButtonTakesTheHalfHourToo) {
     window->ShowEventMode();
     WhenPopupOpens([](QMenu*) {});

@@ -263,3 +263,66 @@ TEST_F(GridKeys, TheMouseDoesWhatItDidBefore) {
     EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A2"});
     EXPECT_EQ(window->CurrentRow, 2); // and the keys go on from there
 }
+
+TEST_F(GridKeys, AKeyToTheSideLeavesTheViewWhereItIs) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    window->VSGridScroll->setValue(20);
+    Press(Qt::Key_Left);
+    EXPECT_EQ(window->FirstRow, 20);
+    EXPECT_EQ(window->CurrentRow, 0);
+}
+
+TEST_F(GridKeys, AKeyToTheSideLeavesTheDayAtTheMorning) {
+    window->ShowEventMode();
+    Press(Qt::Key_Right);
+    EXPECT_EQ(window->FirstRow, 11);
+    EXPECT_EQ(window->CurrentHalfHour, -1);
+}
+
+TEST_F(GridKeys, TheLastHalfHourIsSeenWhole) {
+    window->ShowEventMode();
+    window->resize(window->width(), window->height() + SlotHeight - window->picGrid->height() % SlotHeight);
+    ASSERT_TRUE(WaitUntil([this] { return window->picGrid->height() % SlotHeight == 0; }));
+    Press(Qt::Key_End);
+    EXPECT_EQ(window->CurrentHalfHour, 47);
+    EXPECT_TRUE(HalfHourIsFramed(window->RowsVisible));
+    EXPECT_EQ(window->VSGridScroll->value(), 47 - window->RowsVisible + 1); // the bar ends where it did
+    EXPECT_EQ(window->VSGridScroll->maximum(), window->VSGridScroll->value());
+    Press(Qt::Key_Up);
+    EXPECT_EQ(window->CurrentHalfHour, 46);
+    EXPECT_EQ(window->FirstRow, window->VSGridScroll->value());
+    EXPECT_TRUE(HalfHourIsFramed(window->RowsVisible));
+}
+
+TEST_F(GridKeys, TheLastHalfHourIsSeenWhereAllOthersFit) {
+    window->ShowEventMode();
+    window->resize(1000, window->height() + 47 * SlotHeight - window->picGrid->height());
+    ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible == 47; }));
+    Press(Qt::Key_End);
+    EXPECT_TRUE(HalfHourIsFramed(47));
+    EXPECT_FALSE(window->VSGridScroll->isEnabled());
+    Press(Qt::Key_Home);
+    EXPECT_TRUE(HalfHourIsFramed(1));
+    EXPECT_EQ(window->FirstRow, 1);
+}
+
+TEST_F(GridKeys, TheMenuKeyShowsTheRowOfTheKeys) {
+    AddAssignments(60);
+    window->ShowHomeworkMode();
+    Press(Qt::Key_End);
+    window->VSGridScroll->setValue(1);
+    MenuAfter(Qt::Key_Menu);
+    EXPECT_TRUE(CurrentRowIsFramed(window->RowsVisible));
+    EXPECT_EQ(window->picGrid->mapFromGlobal(window->PopupPoint).y(),
+              RowTop(window->RowsVisible + 1) / UnitsPerPixel);
+}
+
+TEST_F(GridKeys, TheMenuKeyShowsTheHalfHourOfTheKeys) {
+    window->ShowEventMode();
+    Press(Qt::Key_Home);
+    window->VSGridScroll->setValue(20);
+    MenuAfter(Qt::Key_Menu);
+    EXPECT_TRUE(HalfHourIsFramed(1));
+    EXPECT_EQ(window->picGrid->mapFromGlobal(window->PopupPoint).y(), SlotHeight);
+}

@@ -36,7 +36,7 @@ void frmMain::PaintStatusBar() {
                            clock, TextFont, TextColor);
 }
 
-void frmMain::BindPanels() {
+void frmMain::BindStatusBar() {
     TimerStatusBar = new QTimer(this);
     TimerStatusBar->setInterval(TickMilliseconds);
     connect(TimerStatusBar, &QTimer::timeout, this, &frmMain::PaintStatusBar);
