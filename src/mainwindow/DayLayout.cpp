@@ -6,6 +6,7 @@
 #include "core/RowLists.h"
 #include "planner/Colors.h"
 #include "planner/DateHelpers.h"
+#include "planner/RowLook.h"
 
 #include <algorithm>
 #include <array>
@@ -104,7 +105,8 @@ void LayoutDayEvents(int gridWidth) {
 std::string EventBoxText(int eventRow) {
     const std::string& type = EventRowType.Item(eventRow);
     const std::string& desc = Store.EventRecord.desc.Item(EventRows.Item(eventRow));
-    return type.empty() || desc.empty() ? " " + type + desc : type + " - " + desc;
+    const std::string text = TypeAndDescription(type, desc);
+    return type.empty() || desc.empty() ? " " + text : text;
 }
 
 UnitRect EventBoxOf(int eventRow, int firstRow) {

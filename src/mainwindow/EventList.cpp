@@ -23,12 +23,11 @@ GridCell TimeCell(const std::string& time) {
 GridRow EventGridRow(int row) {
     const EventLists& store = Store.EventRecord;
     const int index = EventRows.Item(row);
-    const std::string& recurrence = store.recurrence.Item(index);
     return {EventRowForeColor.Item(row),
             EventRowBackColor.Item(row),
             {NameCell(store.desc.Item(index), NewEventText(store.type.Item(index))),
              TextCell(EventRowType.Item(row)), DateCell(EventRowDate.Item(row)),
-             TimeCell(store.time.Item(index)), TextCell(recurrence == NoType ? "" : recurrence)}};
+             TimeCell(store.time.Item(index)), TextCell(ShownChoice(store.recurrence.Item(index)))}};
 }
 
 void frmMain::LayoutEventList() {

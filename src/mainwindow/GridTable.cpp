@@ -98,17 +98,17 @@ QRect ListPlace(const frmMain& window, ListKind kind, int row, int column) {
 
 // --- The month ---
 
-QString DoneOfAll(const char* what, int done, int left) {
+QString CountText(const char* what, int done, int left) {
     return done + left == 0
                ? QString()
-               : QStringLiteral(", %1 %2 / %3").arg(QLatin1String(what)).arg(done).arg(done + left);
+               : QStringLiteral(", %1 %2").arg(QLatin1String(what), FromStore(DoneOfAll(done, left)));
 }
 
 QString DayText(const CalendarMonth& month, std::size_t cell) {
     const int events = month.EventCountByDay[cell];
     return FromScreen(FormatDate(month.CellDate[cell], "dddd, MMMM d")) +
-           DoneOfAll("homework", month.HomeworkDoneCount[cell], month.HomeworkLeftCount[cell]) +
-           DoneOfAll("tasks", month.TaskDoneCountByDay[cell], month.TaskLeftCountByDay[cell]) +
+           CountText("homework", month.HomeworkDoneCount[cell], month.HomeworkLeftCount[cell]) +
+           CountText("tasks", month.TaskDoneCountByDay[cell], month.TaskLeftCountByDay[cell]) +
            (events == 0 ? QString() : QStringLiteral(", events %1").arg(events));
 }
 

@@ -91,16 +91,15 @@ struct LineText {
     int color = ColorBlack;
 };
 
-LineText DoneOfAll(int done, int left) {
-    return {QStringLiteral("%1 / %2").arg(done).arg(done + left),
-            left > 0 ? ColorSelectedNotDone : ColorBlack};
+LineText CountText(int done, int left) {
+    return {FromStore(DoneOfAll(done, left)), left > 0 ? ColorSelectedNotDone : ColorBlack};
 }
 
 void PaintLines(PictureBox& surface, const CalendarCell& cell, const CalendarMonth& month,
                 std::size_t index) {
     const std::array<LineText, CalendarIcons> texts{{
-        DoneOfAll(month.HomeworkDoneCount[index], month.HomeworkLeftCount[index]),
-        DoneOfAll(month.TaskDoneCountByDay[index], month.TaskLeftCountByDay[index]),
+        CountText(month.HomeworkDoneCount[index], month.HomeworkLeftCount[index]),
+        CountText(month.TaskDoneCountByDay[index], month.TaskLeftCountByDay[index]),
         {QString::number(month.EventCountByDay[index]), ColorBlack},
     }};
     for (std::size_t line = 0; line < texts.size(); ++line) {

@@ -70,6 +70,10 @@ CalendarLayout LayOutCalendar(int gridWidth, int gridHeight, const CalendarMonth
     return layout;
 }
 
+std::string DoneOfAll(int done, int left) {
+    return std::to_string(done) + " / " + std::to_string(done + left);
+}
+
 std::optional<int> CalendarCellAt(const CalendarLayout& layout, int x, int y) {
     for (int index = 0; index < MonthCells; ++index) {
         if (Holds(layout.cell[static_cast<std::size_t>(index)].area, x, y)) {

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 
 // The lines of a cell, from top to bottom.
 enum class CalendarIcon { Homework, Tasks, Events };
@@ -29,6 +30,9 @@ inline constexpr int TodayFrameWidth = 30;   // two lines
 
 // The layout on a grid of that size. Which lines a cell has follows from the month's counters.
 CalendarLayout LayOutCalendar(int gridWidth, int gridHeight, const CalendarMonth& month);
+
+// What the line of homework or of tasks says: "1 / 2", those done of all.
+std::string DoneOfAll(int done, int left);
 
 // The number of the cell at a point of the grid, from 0 row by row; nothing over the weekday names and
 // outside.

@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
+#include "planner/RowLook.h"
 #include "platform/Text.h"
 
 int RowsInList(ListKind kind) {
@@ -51,9 +52,7 @@ GridCell NameCell(std::string_view text, std::string_view instead) {
 }
 
 GridCell ClockCell(std::string_view clock) {
-    std::string text(clock);
-    std::erase(text, ' ');
-    return TextCell(text);
+    return TextCell(ShownClock(clock));
 }
 
 GridCell DateCell(Date date) {

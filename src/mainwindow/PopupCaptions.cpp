@@ -80,11 +80,6 @@ std::string MarkIf(bool shown, std::string_view mark) {
     return shown ? std::string(mark) + " " : std::string{};
 }
 
-std::string WithoutBlanks(std::string text) {
-    std::erase(text, ' ');
-    return text;
-}
-
 std::string HomeworkCaption(int row) {
     const AssignmentLists& store = Store.Assignment;
     const int index = HomeworkRows.Item(row);
@@ -92,7 +87,7 @@ std::string HomeworkCaption(int row) {
     caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
     caption += MarkIf(IsTrue(store.priority.Item(index)), PriorityMark);
     caption += IsTrue(store.done.Item(index)) ? "(Done)  "
-                                              : "(" + WithoutBlanks(store.time_left.Item(index)) + " left)  ";
+                                              : "(" + ShownClock(store.time_left.Item(index)) + " left)  ";
     caption += RowClass.Item(row) + " - " + OrElse(store.desc.Item(index), NewAssignmentText);
     return caption;
 }
@@ -102,11 +97,8 @@ std::string TaskCaption(int row) {
     const int index = TaskRows.Item(row);
     std::string caption = IsTrue(store.done.Item(index)) ? "(Done)  " : "(Not Done)  ";
     caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
-    const std::string& type = TaskRowType.Item(row);
-    if (!type.empty() && type != NoType) {
-        caption += type + " - ";
-    }
-    caption += OrElse(store.desc.Item(index), NewTaskText);
+    caption +=
+        TypeAndDescription(ShownChoice(TaskRowType.Item(row)), OrElse(store.desc.Item(index), NewTaskText));
     return caption;
 }
 
@@ -119,10 +111,7 @@ std::string EventCaption(int row) {
     }
     caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
     caption += MarkIf(store.recurrence.Item(index) != NoType, RecurrenceMark);
-    const std::string& type = EventRowType.Item(row);
-    const std::string& desc = store.desc.Item(index);
-    const bool both = !type.empty() && !desc.empty();
-    caption += OrElse(type + (both ? " - " : "") + desc, "New Event");
+    caption += OrElse(TypeAndDescription(EventRowType.Item(row), store.desc.Item(index)), "New Event");
     return caption;
 }
 

@@ -25,21 +25,16 @@ void ShowTaskTitles(frmMain& window) {
     }
 }
 
-GridCell ValueCell(const std::string& text) {
-    return TextCell(text == NoType ? "" : text);
-}
-
 } // namespace
 
 GridRow TaskGridRow(int row) {
     const TaskLists& store = Store.TaskRecord;
     const int index = TaskRows.Item(row);
-    const std::string& type = TaskRowType.Item(row);
     const bool dated = IsTrue(store.date_exists.Item(index));
     return {TaskRowForeColor.Item(row),
             TaskRowBackColor.Item(row),
             {ReminderCell(store.reminder.Item(index)), NameCell(store.desc.Item(index), NewTaskText),
-             NameCell(type == NoType ? "" : type), ValueCell(store.priority.Item(index)),
+             NameCell(ShownChoice(TaskRowType.Item(row))), TextCell(ShownChoice(store.priority.Item(index))),
              dated ? DateCell(store.date.Item(index)) : GridCell{}, CheckCell(store.done.Item(index))}};
 }
 

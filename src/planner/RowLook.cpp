@@ -62,6 +62,21 @@ std::string OrElse(const std::string& text, std::string_view other) {
     return text.empty() ? std::string(other) : text;
 }
 
+std::string_view ShownChoice(std::string_view text) {
+    return text == NoType ? std::string_view{} : text;
+}
+
+std::string ShownClock(std::string_view clock) {
+    std::string text(clock);
+    std::erase(text, ' ');
+    return text;
+}
+
+std::string TypeAndDescription(std::string_view type, std::string_view desc) {
+    const bool both = !type.empty() && !desc.empty();
+    return std::string(type) + (both ? " - " : "") + std::string(desc);
+}
+
 std::string_view NewEventText(std::string_view type) {
     if (IsClassMeeting(type)) {
         return "Class";

@@ -38,6 +38,15 @@ RowLook EventTypeLook(std::string_view type);
 // The text, or the other one where it is empty.
 std::string OrElse(const std::string& text, std::string_view other);
 
+// A type, a priority or a recurrence as rows show it: nothing for "None".
+std::string_view ShownChoice(std::string_view text);
+
+// A clock length as rows show it: without its blanks.
+std::string ShownClock(std::string_view clock);
+
+// A type and a description, joined by " - " where there are both.
+std::string TypeAndDescription(std::string_view type, std::string_view desc);
+
 // What stands for an empty description.
 inline constexpr std::string_view NewAssignmentText = "New Assignment";
 inline constexpr std::string_view NewTaskText = "New Task";

@@ -130,6 +130,11 @@ TEST(CalendarIconAt, WhereLinesOverlapInALowCellTheLowerOneCounts) {
     EXPECT_EQ(CalendarIconAt(layout, 0, tasks.left, tasks.top - 1), CalendarIcon::Homework);
 }
 
+TEST(LargeCalendarLayout, LinesTellThoseDoneOfAll) {
+    EXPECT_EQ(DoneOfAll(1, 2), "1 / 3");
+    EXPECT_EQ(DoneOfAll(0, 0), "0 / 0");
+}
+
 RC_GTEST_PROP(LargeCalendarLayout, CoversTheGridWithoutGapOrOverlap, ()) {
     const int width = *rc::gen::inRange(700, 60000);
     const int height = *rc::gen::inRange(1000, 40000);
