@@ -25,14 +25,6 @@ QLabel* TitleLabel(double points, bool bold, Qt::Alignment alignment) {
     return label;
 }
 
-PictureBox* Stepper(const char* picture, const char* name) {
-    auto* box = new PictureBox;
-    box->setFixedSize(StepperSize, StepperSize);
-    box->ShowPicture(QLatin1String(picture));
-    box->setAccessibleName(QLatin1String(name));
-    return box;
-}
-
 } // namespace
 
 frmMain* MainWindow = nullptr;
@@ -85,8 +77,8 @@ QWidget* frmMain::BuildRightSide() {
     picTop->setFixedHeight(TopHeight);
     auto* top = new QHBoxLayout(picTop);
     top->setContentsMargins(0, 0, 0, PanelMargin);
-    picCalDayDown = Stepper("picStashCalDayLeftUp.svg", "One day back");
-    picCalDayUp = Stepper("picStashCalDayRightUp.svg", "One day on");
+    picCalDayDown = PictureButton(StepperSize, "One day back");
+    picCalDayUp = PictureButton(StepperSize, "One day on");
     LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
     LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
     LabelInfoTitle->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);

@@ -62,6 +62,7 @@ void frmMain::BindCalendar() {
     connect(TimerButton, &QTimer::timeout, this, &frmMain::StepperTick);
     for (std::size_t index = 0; index < Steppers.size(); ++index) {
         const PictureBox* box = this->*Steppers[index].box;
+        ShowStepper(*this, Steppers[index], "Up.svg");
         connect(box, &PictureBox::Pressed, this, [this, index](int, int, Qt::MouseButton button) {
             if (button == Qt::LeftButton) {
                 PressStepper(index);

@@ -1,9 +1,11 @@
 // The left panel: the small calendar, the buttons for new records, the panels of the modes, the alerts, the
 // timer.
+#include "mainwindow/ModeTables.h"
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
 #include "platform/ElidedLabel.h"
+#include "platform/Text.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -11,6 +13,8 @@
 namespace {
 
 constexpr int StepperSize = 20;
+constexpr int HeadsRow = 1; // of the small calendar: under the month's name
+constexpr int TodayRow = HeadsRow + 1 + MonthCells / DaysPerWeek;
 constexpr int TodayHeight = 22;
 constexpr int GapAboveToday = 3;
 constexpr int SmallButtonWidth = 50; // the small buttons stand 750 units apart
@@ -33,13 +37,6 @@ QLabel* PlainLabel(const QString& text = {}) {
     return label;
 }
 
-PictureBox* Picture(const char* name, QSize size) {
-    auto* box = new PictureBox;
-    box->setFixedSize(size);
-    box->ShowPicture(QLatin1String(name));
-    return box;
-}
-
 // A panel with a ground and an edge of its own.
 QFrame* Panel() {
     auto* panel = new QFrame;
@@ -52,14 +49,18 @@ QFrame* Panel() {
 }
 
 // A box that shows a number; it cannot be typed into.
-QLineEdit* NumberBox(const char* name) {
+QLineEdit* NumberBox(const QString& name = {}) {
     auto* box = new QLineEdit;
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
     box->setAlignment(Qt::AlignCenter);
     box->setFixedSize(CounterBoxWidth, CounterBoxHeight);
-    box->setAccessibleName(QLatin1String(name));
+    box->setAccessibleName(name);
     return box;
+}
+
+QString WithoutColon(std::string_view label) {
+    return FromStore(label.substr(0, label.find(':')));
 }
 
 QToolButton* SmallNewButton(const char* picture, const char* name) {
@@ -132,17 +133,15 @@ QWidget* frmMain::BuildSmallCalendar() {
     grid->setSpacing(1);
 
     auto* head = new QHBoxLayout;
-    picCalMonthDown = Picture("picStashCalMonthLeftUp.svg", {StepperSize, StepperSize});
-    picCalMonthUp = Picture("picStashCalMonthRightUp.svg", {StepperSize, StepperSize});
-    picCalMonthDown->setAccessibleName(QStringLiteral("One month back"));
-    picCalMonthUp->setAccessibleName(QStringLiteral("One month on"));
+    picCalMonthDown = PictureButton(StepperSize, "One month back");
+    picCalMonthUp = PictureButton(StepperSize, "One month on");
     LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
     head->addWidget(picCalMonthDown);
     head->addWidget(LabelMonth, 1);
     head->addWidget(picCalMonthUp);
-    grid->addLayout(head, 0, 0, 1, 7);
+    grid->addLayout(head, 0, 0, 1, DaysPerWeek);
 
-    BuildDayLabels(grid, 1, LabelCalDay, LabelCalDate);
+    BuildDayLabels(grid, HeadsRow, LabelCalDay, LabelCalDate);
     LabelCalTileBorder = new TileBorder(PictureBoxCalendar);
 
     auto* days = new QHBoxLayout;
@@ -152,10 +151,10 @@ QWidget* frmMain::BuildSmallCalendar() {
     picTomorrow = DayButton("Tomorrow", buttonSize, LabelTomorrow);
     days->addWidget(picToday);
     days->addWidget(picTomorrow);
-    grid->addLayout(days, 8, 0, 1, 7);
+    grid->addLayout(days, TodayRow, 0, 1, DaysPerWeek);
 
     picLock = new PictureBox;
-    grid->addWidget(picLock, 0, 0, 9, 7);
+    grid->addWidget(picLock, 0, 0, TodayRow + 1, DaysPerWeek); // over all of it
     picLock->hide();
     connect(picLock, &PictureBox::Resized, this, [this] { PaintLock(picLock); });
     return PictureBoxCalendar;
@@ -237,8 +236,8 @@ std::array<QWidget*, 3> frmMain::BuildModePanels() {
     auto* grid = new QGridLayout(PictureBoxStudyTime);
     grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     grid->setSpacing(2);
-    TextBoxMinimum = NumberBox("Minimum");
-    TextBoxSuggested = NumberBox("Suggested");
+    TextBoxMinimum = NumberBox(QStringLiteral("Minimum"));
+    TextBoxSuggested = NumberBox(QStringLiteral("Suggested"));
     grid->addWidget(PlainLabel(QStringLiteral("Study Time Today")), 0, 0, 1, 2);
     grid->addWidget(PlainLabel(QStringLiteral("Minimum:")), 1, 0);
     grid->addWidget(TextBoxMinimum, 1, 1);
@@ -248,42 +247,33 @@ std::array<QWidget*, 3> frmMain::BuildModePanels() {
     return {PictureBoxStudySessions, PictureBoxReminders, PictureBoxStudyTime};
 }
 
+// A counter's row holds its label and one box for each mode that shows it, of which one shows at a time.
 QWidget* frmMain::BuildCounters() {
-    LabelTotalAssignments = PlainLabel();
-    LabelFinishedAssignments = PlainLabel();
-    LabelTimeRemaining = PlainLabel();
-    TextBoxTotalAssignments = NumberBox("Total Assignments");
-    TextBoxFinishedAssignments = NumberBox("Assignments Left");
-    TextBoxTimeRemaining = NumberBox("Study Time Left");
-    TextBoxStudySessions = NumberBox("Study Sessions");
-    TextboxStudyTime = NumberBox("Study Time");
-    TextBoxTotalTasks = NumberBox("Total Tasks");
-    TextBoxFinishedTasks = NumberBox("Tasks Left");
-    TextBoxUndatedTasks = NumberBox("Undated Tasks Left");
-    TextBoxClasses = NumberBox("Classes");
-    TextBoxOtherEvents = NumberBox("Other Events");
-    TextBoxSchedStudy = NumberBox("Study Time");
-    TextboxAssignments = NumberBox("Assignments");
-    TextBoxTasks = NumberBox("Tasks");
-    TextBoxEvents = NumberBox("Events");
+    for (QLabel** label : {&LabelTotalAssignments, &LabelFinishedAssignments, &LabelTimeRemaining}) {
+        *label = PlainLabel();
+    }
+    for (QLineEdit** box :
+         {&TextBoxTotalAssignments, &TextBoxFinishedAssignments, &TextBoxTimeRemaining, &TextBoxStudySessions,
+          &TextboxStudyTime, &TextBoxTotalTasks, &TextBoxFinishedTasks, &TextBoxUndatedTasks, &TextBoxClasses,
+          &TextBoxOtherEvents, &TextBoxSchedStudy, &TextboxAssignments, &TextBoxTasks, &TextBoxEvents}) {
+        *box = NumberBox();
+        (*box)->hide();
+    }
 
     auto* panel = new QWidget;
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(PanelGap, 0, PanelGap, 0);
     grid->setSpacing(2);
     grid->setColumnStretch(0, 1);
-    const std::array<QLabel*, 3> labels{LabelTotalAssignments, LabelFinishedAssignments, LabelTimeRemaining};
-    const std::array<std::vector<QLineEdit*>, 3> boxes{{
-        {TextBoxTotalAssignments, TextBoxStudySessions, TextBoxTotalTasks, TextBoxClasses,
-         TextboxAssignments},
-        {TextBoxFinishedAssignments, TextBoxFinishedTasks, TextBoxOtherEvents, TextBoxTasks},
-        {TextBoxTimeRemaining, TextboxStudyTime, TextBoxUndatedTasks, TextBoxSchedStudy, TextBoxEvents},
-    }};
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        grid->addWidget(labels[i], static_cast<int>(i), 0);
-        for (QLineEdit* box : boxes[i]) {
-            grid->addWidget(box, static_cast<int>(i), 1); // one of them shows at a time
-            box->hide();
+    const auto labels = CounterLabels();
+    const auto controls = AllModeControls();
+    for (std::size_t counter = 0; counter < labels.size(); ++counter) {
+        grid->addWidget(labels[counter], static_cast<int>(counter), 0);
+        for (const CounterRow& row : CounterRows) {
+            if (QLineEdit* box = RowOf(controls, row.mode).boxes[counter]) {
+                box->setAccessibleName(WithoutColon(row.labels[counter]));
+                grid->addWidget(box, static_cast<int>(counter), 1);
+            }
         }
     }
     return panel;

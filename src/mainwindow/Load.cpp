@@ -55,7 +55,6 @@ bool frmMain::LoadPlanner() {
     FileWrittenFlags = {};
     ClickedDate = Today();
     SelectedDate = Today();
-    StartDayOfWeek = "Monday"; // until the preferences are read
     MakeProcessMarker();
     if (!SetupFolders()) {
         return false;

@@ -12,11 +12,10 @@ constexpr int GapBehindMode = 16;
 constexpr int BarMargin = 10;
 constexpr double BarPoints = 9;
 
-PictureBox* BarPicture(const char* picture) {
+PictureBox* BarPicture() {
     auto* box = new PictureBox;
     box->setFixedSize(PictureSize, PictureSize);
     box->setCursor(Qt::PointingHandCursor);
-    box->ShowPicture(QLatin1String(picture));
     return box;
 }
 
@@ -25,21 +24,23 @@ ClickLabel* BarLabel(const char* text) {
     label->setText(QLatin1String(text));
     label->setFont(ToQFont({Face::Title, BarPoints, false}));
     label->setCursor(Qt::PointingHandCursor);
-    SetLabelForeColor(label, 0xC0C0C0);
+    SetLabelForeColor(label, WordColor);
     return label;
 }
 
 } // namespace
 
 QWidget* frmMain::BuildModeBar() {
-    PictureBarCalendar = BarPicture("picStashCalendarUp.svg");
-    PictureBarHomework = BarPicture("picStashHomeworkUp.svg");
-    PictureBarStudySessions = BarPicture("picStashSessionsUp.svg");
-    PictureBarEvents = BarPicture("picStashEventsUp.svg");
-    PictureBarTasks = BarPicture("picStashTasksUp.svg");
-    PictureBarReminders = BarPicture("picStashRemindersUp.svg");
-    PictureBarWeb = BarPicture("picBarWeb.svg");
-    picHelp = BarPicture("picHelp.svg");
+    PictureBarCalendar = BarPicture();
+    PictureBarHomework = BarPicture();
+    PictureBarStudySessions = BarPicture();
+    PictureBarEvents = BarPicture();
+    PictureBarTasks = BarPicture();
+    PictureBarReminders = BarPicture();
+    PictureBarWeb = BarPicture();
+    PictureBarWeb->ShowPicture(QStringLiteral("picBarWeb.svg"));
+    picHelp = BarPicture();
+    picHelp->ShowPicture(QStringLiteral("picHelp.svg"));
     picHelp->setAccessibleName(QStringLiteral("Help"));
     LabelBarCalendar = BarLabel("Calendar");
     LabelBarHomework = BarLabel("Homework");

@@ -1,13 +1,11 @@
 // The mode entries: what each mode checks, shows and hides.
 #include "mainwindow/ModeTables.h"
+#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/HelpTopics.h"
 #include "platform/Text.h"
 
 namespace {
-
-constexpr int ActiveWordColor = 0xFFFFFF;
-constexpr int RestWordColor = 0xC0C0C0;
 
 struct BarPictures {
     Mode mode;
@@ -49,7 +47,7 @@ void CheckMode(const frmMain& window, const ModeRow& row) {
         mode.item->setChecked(active);
         mode.picture->ShowPicture(QLatin1String(active ? pictures.down : pictures.up));
         if (mode.word != nullptr && !row.leavesCalendar) {
-            SetLabelForeColor(mode.word, active ? ActiveWordColor : RestWordColor);
+            SetLabelForeColor(mode.word, active ? ActiveWordColor : WordColor);
         }
     }
 }
@@ -111,8 +109,7 @@ void TurnNewButtons(const frmMain& window, const NewButtonRow& row) {
 }
 
 void ShowCounters(const frmMain& window, const CounterRow& row) {
-    const std::array<QLabel*, 3> labels{window.LabelTotalAssignments, window.LabelFinishedAssignments,
-                                        window.LabelTimeRemaining};
+    const auto labels = window.CounterLabels();
     const auto controls = window.AllModeControls();
     for (std::size_t i = 0; i < labels.size(); ++i) {
         for (const ModeControls& mode : controls) {
@@ -153,6 +150,10 @@ std::array<ModeControls, ModeCount> frmMain::AllModeControls() const {
          {TextBoxClasses, TextBoxOtherEvents, TextBoxSchedStudy}},
         {MenuReminders, PictureBarReminders, nullptr, {TextboxAssignments, TextBoxTasks, TextBoxEvents}},
     }};
+}
+
+std::array<QLabel*, 3> frmMain::CounterLabels() const {
+    return {LabelTotalAssignments, LabelFinishedAssignments, LabelTimeRemaining};
 }
 
 Mode frmMain::CurrentMode() const {

@@ -28,6 +28,13 @@ QPalette ProgramPalette() {
 
 } // namespace
 
+PictureBox* PictureButton(int size, const char* name) {
+    auto* box = new PictureBox;
+    box->setFixedSize(size, size);
+    box->setAccessibleName(QLatin1String(name));
+    return box;
+}
+
 void ApplyProgramStyle() {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(ProgramPalette());

@@ -146,7 +146,7 @@ public:
     StudyTimerClock StudyTimer;
 
     // --- Options, kept in Prefs.ini ---
-    std::string StartDayOfWeek = "Monday"; // or "Sunday", "Saturday"
+    std::string StartDayOfWeek = "Monday"; // or "Sunday", "Saturday"; so until the preferences are read
     std::string AutoStart = "Tray";        // or "Full", "Min", "No"
     std::string tempShowTipsAtStartup = "Yes";
     int tempCurrentTip = 0;
@@ -198,6 +198,9 @@ public:
 
     // In the order of Mode.
     std::array<ModeControls, ModeCount> AllModeControls() const;
+
+    // What stands before the boxes of the three counters.
+    std::array<QLabel*, 3> CounterLabels() const;
 
     // Enters the mode unless its item is checked already.
     void ChooseMode(Mode mode);

@@ -197,6 +197,14 @@ TEST_F(CounterBoxes, OfRemindersCountEachSource) {
     EXPECT_EQ(Shown({window->TextBoxMinimum, window->TextBoxSuggested}), "01:30 not done, 01:30 white");
 }
 
+TEST_F(CounterBoxes, AreNamedAsTheLabelsBeforeThem) {
+    EXPECT_EQ(window->TextBoxTimeRemaining->accessibleName(), "Study Time Left");
+    EXPECT_EQ(window->TextboxStudyTime->accessibleName(), "Study Time");
+    EXPECT_EQ(window->TextBoxUndatedTasks->accessibleName(), "Undated Tasks Left");
+    EXPECT_EQ(window->TextBoxOtherEvents->accessibleName(), "Other Events");
+    EXPECT_EQ(window->TextboxAssignments->accessibleName(), "Assignments");
+}
+
 TEST(ShownBox, TakesTheTextAndTheBackColor) {
     QLineEdit box;
     ShowBox(&box, {"01:30", ColorNotDone});
