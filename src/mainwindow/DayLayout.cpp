@@ -52,7 +52,7 @@ SlotSet SlotsOf(DaySpan span) {
 }
 
 int RoomForBoxes(int gridWidth) {
-    return std::max(gridWidth - TimeColumnWidth - ScrollStripWidth, 0);
+    return std::max(RowsRight(gridWidth) - TimeColumnWidth, 0);
 }
 
 } // namespace

@@ -20,11 +20,8 @@ constexpr int RowsLeft = 720;
 constexpr int BoxTextIndent = 90;
 constexpr int BoxTextTop = 60;
 
-int RowsRight(const PictureBox& grid) {
-    return grid.WidthInUnits() - ScrollStripWidth;
-}
-
 void DrawHalfHours(PictureBox& grid, int firstRow) {
+    const int right = RowsRight(grid.WidthInUnits());
     for (int top = 0; top < grid.HeightInUnits(); top += SlotUnits) {
         const int halfHour = HalfHourAt(top, firstRow);
         const QString label = FromStore(HalfHourLabel(halfHour));
@@ -32,10 +29,10 @@ void DrawHalfHours(PictureBox& grid, int firstRow) {
             grid.DrawText(LabelRight - TextWidth(label, LabelFont), top + LabelBelowLine, label, LabelFont,
                           LabelColor);
         }
-        grid.FillRectangle(RowsLeft, top, RowsRight(grid) - RowsLeft, SlotUnits, HalfHourColor(halfHour));
-        grid.DrawLine(RowsLeft, top, RowsRight(grid), top, HalfHourLineColor(halfHour));
+        grid.FillRectangle(RowsLeft, top, right - RowsLeft, SlotUnits, HalfHourColor(halfHour));
+        grid.DrawLine(RowsLeft, top, right, top, HalfHourLineColor(halfHour));
     }
-    grid.DrawLine(0, 0, RowsRight(grid), 0, EdgeLineColor);
+    grid.DrawLine(0, 0, right, 0, EdgeLineColor);
     grid.DrawLine(TimeColumnWidth, 0, TimeColumnWidth, grid.HeightInUnits(), EdgeLineColor);
 }
 
@@ -62,8 +59,8 @@ void DrawEventBoxes(PictureBox& grid, int firstRow, int currentEvent) {
 
 // The half hour on which the keys stand.
 void DrawCurrentHalfHour(PictureBox& grid, int halfHour, int firstRow) {
-    grid.DrawFrame(0, (halfHour - firstRow + 1) * SlotUnits, RowsRight(grid), SlotUnits + UnitsPerPixel,
-                   CurrentColor);
+    grid.DrawFrame(0, (halfHour - firstRow + 1) * SlotUnits, RowsRight(grid.WidthInUnits()),
+                   SlotUnits + UnitsPerPixel, CurrentColor);
 }
 
 // The scroll bar ends with the half hour of 11 PM; the one behind it comes into view with the keys.
@@ -97,9 +94,6 @@ void frmMain::FillEventDay() {
     SortEventRowsByColumn();
     RowCount = DayRowCount;
     SetGridScroll();
-    if (RefreshReason == ReasonModeChange) {
-        CurrentHalfHour = -1;
-    }
     CurrentEvent = EventInHalfHour(CurrentHalfHour, CurrentEvent);
     FirstRow = FirstRowOfDay(*this);
     DrawHalfHours(*picGrid, FirstRow);

@@ -17,6 +17,11 @@ frmMain* WindowOf(const QWidget* grid) {
     return qobject_cast<frmMain*>(grid->window());
 }
 
+// The place of a cell or title among the children of the table: the titles and then the cells, row by row.
+int ChildIndex(const frmMain& window, int row, int column) {
+    return (row - TitleRow) * TableOf(window).columns + column;
+}
+
 // One cell or title. What it tells is read from the window as it is asked.
 class GridCellAccessible : public QAccessibleInterface,
                            public QAccessibleTableCellInterface,
@@ -136,7 +141,7 @@ private:
     int column;
 };
 
-// The table. Its children are the titles and then the cells, row by row, made as they are asked for.
+// The table. Its children are made as they are asked for.
 class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
     explicit GridAccessible(QWidget* grid)
@@ -164,7 +169,7 @@ public:
 
     int indexOfChild(const QAccessibleInterface* child) const override {
         const auto* const cell = dynamic_cast<const GridCellAccessible*>(child);
-        return cell == nullptr ? -1 : IndexOf(cell->Row(), cell->Column());
+        return cell == nullptr ? -1 : ChildIndex(Window(), cell->Row(), cell->Column());
     }
 
     QAccessibleInterface* childAt(int x, int y) const override {
@@ -183,7 +188,9 @@ public:
 
     QAccessibleInterface* summary() const override { return nullptr; }
 
-    QAccessibleInterface* cellAt(int row, int column) const override { return child(IndexOf(row, column)); }
+    QAccessibleInterface* cellAt(int row, int column) const override {
+        return child(ChildIndex(Window(), row, column));
+    }
 
     int selectedCellCount() const override { return CurrentTableCell(Window()).row < 0 ? 0 : 1; }
 
@@ -231,8 +238,6 @@ private:
 
     GridTable Size() const { return TableOf(Window()); }
 
-    int IndexOf(int row, int column) const { return (row - TitleRow) * Size().columns + column; }
-
     QAccessibleInterface* Cell(int row, int column) const {
         const int key = (row - TitleRow) * KeyColumns + column;
         auto known = cells.constFind(key);
@@ -276,7 +281,7 @@ void NotifyGridMoved(frmMain& window) {
     const TableCell current = CurrentTableCell(window);
     if (QAccessible::isActive() && current.row >= 0) {
         QAccessibleEvent event(window.picGrid, QAccessible::Focus);
-        event.setChild((current.row - TitleRow) * TableOf(window).columns + current.column);
+        event.setChild(ChildIndex(window, current.row, current.column));
         QAccessible::updateAccessibility(&event);
     }
 }

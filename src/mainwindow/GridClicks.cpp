@@ -50,10 +50,6 @@ void ClickDay(frmMain& window, int y, bool right) {
     }
 }
 
-bool HasListMenu(Mode mode) {
-    return mode == Mode::Homework || mode == Mode::Tasks;
-}
-
 // The keys go on from the row that is opened.
 void MoveCurrentRow(frmMain& window, int row) {
     if (row != window.CurrentRow) {
@@ -74,14 +70,11 @@ void MoveCurrentHalfHour(frmMain& window, int halfHour, int eventRow) {
 }
 
 void ClickList(frmMain& window, bool right) {
-    const Mode mode = window.CurrentMode();
-    if (right && HasListMenu(mode)) {
-        return mode == Mode::Homework ? window.ShowHomeworkListMenu() : window.ShowTaskListMenu();
-    }
-    const int row = window.FirstRow + window.ClickedRow - 1;
-    if (window.ClickedRow == NoRow) {
+    if ((right && window.ShowListMenu()) || window.ClickedRow == NoRow) {
         return;
     }
+    const Mode mode = window.CurrentMode();
+    const int row = window.FirstRow + window.ClickedRow - 1;
     if (row <= window.RowCount) {
         window.OpenRow(row);
     } else if (mode == Mode::Homework) {
@@ -153,7 +146,7 @@ void frmMain::GridReleased(int x, int y, Qt::MouseButton button) {
         return;
     }
     const bool right = button == Qt::RightButton;
-    PopupPoint = picGrid->mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
+    PointPopupAt(x, y);
     switch (CurrentMode()) {
     case Mode::Calendar:
         return ClickCalendar(*this, x, y, right);
@@ -163,6 +156,23 @@ void frmMain::GridReleased(int x, int y, Qt::MouseButton button) {
         return;
     default:
         return ClickList(*this, right);
+    }
+}
+
+void frmMain::PointPopupAt(int x, int y) {
+    PopupPoint = picGrid->mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
+}
+
+bool frmMain::ShowListMenu() {
+    switch (CurrentMode()) {
+    case Mode::Homework:
+        ShowHomeworkListMenu();
+        return true;
+    case Mode::Tasks:
+        ShowTaskListMenu();
+        return true;
+    default:
+        return false;
     }
 }
 

@@ -53,10 +53,6 @@ bool IsMenuKey(int key, Qt::KeyboardModifiers modifiers) {
     return key == Qt::Key_Menu || (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
 }
 
-QPoint OnScreen(const PictureBox& grid, int x, int y) {
-    return grid.mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
-}
-
 // --- The lists ---
 
 void ShowCurrentRow(frmMain& window) {
@@ -87,16 +83,11 @@ bool ListKey(frmMain& window, int key) {
     return false;
 }
 
-bool ListMenuKey(frmMain& window, Mode mode) {
+bool ListMenuKey(frmMain& window) {
     ShowCurrentRow(window);
     const int place = std::max(window.CurrentRow - window.FirstRow + 1, 1);
-    window.PopupPoint = OnScreen(*window.picGrid, RowNumberRight, RowTop(place + 1));
-    if (mode == Mode::Homework) {
-        window.ShowHomeworkListMenu();
-    } else if (mode == Mode::Tasks) {
-        window.ShowTaskListMenu();
-    }
-    return mode == Mode::Homework || mode == Mode::Tasks;
+    window.PointPopupAt(RowNumberRight, RowTop(place + 1));
+    return window.ShowListMenu();
 }
 
 // --- The schedule of a day ---
@@ -141,23 +132,20 @@ bool DayKey(frmMain& window, int key) {
 bool DayMenuKeyPressed(frmMain& window) {
     ShowCurrentHalfHour(window);
     const int place = std::max(window.CurrentHalfHour - window.FirstRow + 2, 1);
-    window.PopupPoint = OnScreen(*window.picGrid, TimeColumnWidth, place * SlotUnits);
+    window.PointPopupAt(TimeColumnWidth, place * SlotUnits);
     window.ShowEventListMenu();
     return true;
 }
 
 // --- The month ---
 
-// The selected day is always one of the month's cells.
 const CalendarCell& SelectedCell(const frmMain& window) {
-    const auto selected = std::ranges::find(window.Month.CellSelected, true);
-    return window.CalendarGrid.cell.at(
-        static_cast<std::size_t>(selected - window.Month.CellSelected.begin()));
+    return window.CalendarGrid.cell.at(SelectedCellOf(window.Month));
 }
 
 void PointPopupAtDay(frmMain& window) {
     const UnitRect& area = SelectedCell(window).area;
-    window.PopupPoint = OnScreen(*window.picGrid, area.left + area.width / 2, area.top + area.height / 2);
+    window.PointPopupAt(area.left + area.width / 2, area.top + area.height / 2);
 }
 
 // Enter opens the first of the day's menus that has anything to show, else the menu of the calendar.
@@ -176,16 +164,16 @@ bool MonthKey(frmMain& window, int key) {
         NotifyGridMoved(window);
         return true;
     }
+    const auto* const menu = std::ranges::find(DayMenuKeys, key, &DayMenuKey::key);
+    if (menu == DayMenuKeys.end() && !IsEnter(key)) {
+        return false;
+    }
     PointPopupAtDay(window);
     if (IsEnter(key)) {
         OpenDay(window);
-        return true;
+    } else {
+        window.ShowDayMenu(menu->menu);
     }
-    const auto* const menu = std::ranges::find(DayMenuKeys, key, &DayMenuKey::key);
-    if (menu == DayMenuKeys.end()) {
-        return false;
-    }
-    window.ShowDayMenu(menu->menu);
     return true;
 }
 
@@ -225,14 +213,13 @@ bool PlainKey(frmMain& window, int key) {
 }
 
 bool MenuKeyPressed(frmMain& window) {
-    const Mode mode = window.CurrentMode();
-    switch (mode) {
+    switch (window.CurrentMode()) {
     case Mode::Calendar:
         return MonthMenuKey(window);
     case Mode::Events:
         return DayMenuKeyPressed(window);
     default:
-        return ListMenuKey(window, mode);
+        return ListMenuKey(window);
     }
 }
 

@@ -96,7 +96,7 @@ std::vector<ColumnPlace> PlaceColumns(std::span<const ListColumn> columns, int g
     for (const ListColumn& column : columns) {
         fixed += FixedWidth(column);
     }
-    const int shared = std::max(gridWidth - ScrollStripWidth - fixed + SharedExtra, 0);
+    const int shared = std::max(RowsRight(gridWidth) - fixed + SharedExtra, 0);
     std::vector<ColumnPlace> places;
     places.reserve(columns.size());
     int left = 0;
@@ -106,6 +106,10 @@ std::vector<ColumnPlace> PlaceColumns(std::span<const ListColumn> columns, int g
         left += width - Overlap;
     }
     return places;
+}
+
+int RowsRight(int gridWidth) {
+    return gridWidth - ScrollStripWidth;
 }
 
 int WholeRows(int gridHeight, int titleHeight, int rowHeight) {
@@ -122,7 +126,7 @@ UnitRect CellRect(const ColumnPlace& column, int row) {
 }
 
 int RowAt(int x, int y, int gridWidth) {
-    if (x >= gridWidth - ScrollStripWidth) {
+    if (x >= RowsRight(gridWidth)) {
         return NoRow;
     }
     return y < TitleUnits ? 1 : (y - TitleUnits) / RowUnits + 1;

@@ -45,6 +45,9 @@ struct ColumnPlace {
 // the one before it by a pixel, and a share is rounded to whole pixels, so that all edges are sharp.
 std::vector<ColumnPlace> PlaceColumns(std::span<const ListColumn> columns, int gridWidth);
 
+// Where the rows end: before the strip of the scroll bar.
+int RowsRight(int gridWidth);
+
 // Whole rows of that height that fit under the titles; all three in pixels.
 int WholeRows(int gridHeight, int titleHeight, int rowHeight);
 

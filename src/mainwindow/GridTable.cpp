@@ -205,8 +205,7 @@ QRect TablePlace(const frmMain& window, int row, int column) {
 TableCell CurrentTableCell(const frmMain& window) {
     switch (window.CurrentMode()) {
     case Mode::Calendar: {
-        const auto selected = std::ranges::find(window.Month.CellSelected, true);
-        const auto cell = static_cast<int>(selected - window.Month.CellSelected.begin());
+        const auto cell = static_cast<int>(SelectedCellOf(window.Month));
         return cell < MonthCells ? TableCell{cell / DaysPerWeek, cell % DaysPerWeek} : TableCell{};
     }
     case Mode::Events:

@@ -10,6 +10,8 @@
 
 namespace {
 
+constexpr SurfaceFont TitleFont{Face::Title, 8, true};
+constexpr int LineColor = 0xE0E0E0;
 constexpr int TextIndent = 75;    // of a text behind the left edge of its column
 constexpr int TextBelowLine = 60; // of a text under the line of its row
 constexpr int TextLoss = 105;     // by which a text must be narrower than its column
@@ -36,7 +38,7 @@ void PlaceTitles(frmMain& window, const std::vector<ColumnPlace>& places) {
 }
 
 void DrawLines(PictureBox& grid, const std::vector<ColumnPlace>& places) {
-    const int right = grid.WidthInUnits() - ScrollStripWidth;
+    const int right = RowsRight(grid.WidthInUnits());
     const int bottom = grid.HeightInUnits();
     grid.DrawPicture(0, 0, right, TitleUnits, QLatin1String(TitlePicture)); // beside the last title
     for (const ColumnPlace& place : places) {
@@ -91,8 +93,7 @@ void DrawCell(PictureBox& grid, const ColumnPlace& column, int place, const Grid
 }
 
 void DrawCurrentRow(PictureBox& grid, int place) {
-    grid.DrawFrame(0, RowTop(place), grid.WidthInUnits() - ScrollStripWidth, RowUnits + UnitsPerPixel,
-                   CurrentColor);
+    grid.DrawFrame(0, RowTop(place), RowsRight(grid.WidthInUnits()), RowUnits + UnitsPerPixel, CurrentColor);
 }
 
 void DrawRows(frmMain& window, ListKind kind) {
@@ -131,8 +132,7 @@ void LayoutList(frmMain& window, ListKind kind) {
 void ShowList(frmMain& window, ListKind kind) {
     window.RowCount = RowsInList(kind);
     window.SetGridScroll();
-    const bool entered = window.RefreshReason == ReasonModeChange;
-    window.CurrentRow = entered ? 0 : std::min(window.CurrentRow, window.RowCount);
+    window.CurrentRow = std::min(window.CurrentRow, window.RowCount);
     DrawTitles(window, kind);
     DrawRows(window, kind);
 }

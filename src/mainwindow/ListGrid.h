@@ -10,8 +10,6 @@ class frmMain;
 
 // The font of the rows.
 inline constexpr SurfaceFont ListFont{Face::List, 9, false};
-inline constexpr SurfaceFont TitleFont{Face::Title, 8, true};
-inline constexpr int LineColor = 0xE0E0E0;
 inline constexpr int EdgeLineColor = 0x808080; // over and left of the data area
 inline constexpr int CurrentColor = 0xB26F2F;  // the frame of what the keys stand on
 

@@ -184,6 +184,9 @@ void frmMain::EnterMode(Mode mode) {
         SortColumn = row.firstSort;
         SortDirection = Ascending;
     }
+    CurrentRow = 0; // the keys stand nowhere yet
+    CurrentHalfHour = -1;
+    CurrentEvent = 0;
     ChangingMode = false;
     RefreshFor(ReasonModeChange);
     picLock->setVisible(mode == Mode::Reminders);

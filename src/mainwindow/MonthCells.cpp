@@ -3,6 +3,8 @@
 
 #include "planner/DateHelpers.h"
 
+#include <algorithm>
+
 namespace {
 
 using std::chrono::days;
@@ -50,6 +52,10 @@ void ComputeTargets(CalendarMonth& month, Date clicked, Date today) {
 }
 
 } // namespace
+
+std::size_t SelectedCellOf(const CalendarMonth& month) {
+    return static_cast<std::size_t>(std::ranges::find(month.CellSelected, true) - month.CellSelected.begin());
+}
 
 int SelectedColor(int backcolor) {
     for (const ColorPair& pair : SelectedColors) {

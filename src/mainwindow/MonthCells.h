@@ -34,6 +34,9 @@ inline constexpr std::size_t TomorrowEntry = 45;
 inline constexpr std::size_t DayOnEntry = 46;
 inline constexpr std::size_t DayBackEntry = 47;
 
+// The number of the cell of the selected date, from 0; MonthCells while no month is built.
+std::size_t SelectedCellOf(const CalendarMonth& month);
+
 // The colour of the selected cell on the colour that it would have otherwise.
 int SelectedColor(int backcolor);
 

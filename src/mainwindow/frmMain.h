@@ -281,6 +281,12 @@ public:
     void GridPressed(int x, int y);
     void GridReleased(int x, int y, Qt::MouseButton button);
 
+    // Lets the next popup menu open at a point of the grid.
+    void PointPopupAt(int x, int y);
+
+    // Opens the context menu of the list; gives whether it has one.
+    bool ShowListMenu();
+
     // Gives whether the key means anything here.
     bool GridKeyPressed(int key, Qt::KeyboardModifiers modifiers);
 

@@ -48,6 +48,11 @@ TEST(MonthCells, ShowTheDaysOfSixWeeks) {
     EXPECT_EQ(month.CellText[41], "7");
 }
 
+TEST(MonthCells, TellWhichOneIsSelected) {
+    EXPECT_EQ(SelectedCellOf(October()), Cell14);
+    EXPECT_EQ(SelectedCellOf({}), std::size_t{MonthCells});
+}
+
 TEST(MonthCells, AreBlackInTheMonthAndGreyBesideIt) {
     const CalendarMonth month = October();
     EXPECT_EQ(month.CellInMonth[3], 0);
