@@ -2,12 +2,11 @@
 #include "mainwindow/GridMoves.h"
 
 #include "planner/DateHelpers.h"
+#include "planner/MonthGrid.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr int DaysOfWeek = 7;
 
 int DayOfMonth(Date date) {
     const std::chrono::year_month_day parts{date};
@@ -54,9 +53,9 @@ int MovedRow(GridMove move, int row, const ListView& view) {
 Date MovedDate(GridMove move, Date date) {
     switch (move) {
     case GridMove::Up:
-        return DateAddMulti(date, 0, 0, -DaysOfWeek);
+        return DateAddMulti(date, 0, 0, -DaysPerWeek);
     case GridMove::Down:
-        return DateAddMulti(date, 0, 0, DaysOfWeek);
+        return DateAddMulti(date, 0, 0, DaysPerWeek);
     case GridMove::Left:
         return DateAddMulti(date, 0, 0, -1);
     case GridMove::Right:

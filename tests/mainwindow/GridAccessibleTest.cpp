@@ -152,8 +152,7 @@ TEST_F(GridAccessible, CellsOfRowsThatHaveGoneAreInvalid) {
     QAccessibleInterface* cell = Table()->cellAt(2, 5);
     EXPECT_TRUE(cell->isValid());
     RemoveRecord(Store.Assignment, AssignmentFields, 3);
-    window->LayoutGrid();
-    window->FillHomeworkList();
+    window->RepaintGrid();
     EXPECT_FALSE(cell->isValid());
     EXPECT_EQ(cell->text(QAccessible::Name), "");
 }

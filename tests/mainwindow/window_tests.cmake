@@ -4,6 +4,7 @@ target_sources(window_tests PRIVATE
   mainwindow/BringForwardTest.cpp
   mainwindow/CalendarStepsTest.cpp
   mainwindow/CommandsTest.cpp
+  mainwindow/CounterBoxesTest.cpp
   mainwindow/DayScheduleTest.cpp
   mainwindow/ElidedLabelTest.cpp
   mainwindow/GridAccessibleTest.cpp
@@ -20,7 +21,7 @@ target_sources(window_tests PRIVATE
   mainwindow/ProcessTest.cpp
   mainwindow/RefreshViewTest.cpp
   mainwindow/SmallCalendarTest.cpp
-  mainwindow/StatusPanelsTest.cpp
+  mainwindow/StatusBarTest.cpp
   mainwindow/StudyTimerTest.cpp
   mainwindow/ViewMenusTest.cpp
 )
