@@ -52,7 +52,8 @@ QRect InPixels(const UnitRect& rect) {
 }
 
 std::size_t CellIndex(int row, int column) {
-    return static_cast<std::size_t>(row * DaysPerWeek + column);
+    const int cell = row * DaysPerWeek + column;
+    return static_cast<std::size_t>(cell);
 }
 
 // --- The lists ---
