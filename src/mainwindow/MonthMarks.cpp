@@ -8,6 +8,8 @@
 #include "mainwindow/ViewMenuColor.h"
 #include "planner/DateHelpers.h"
 #include "planner/EventMarks.h"
+#include "planner/ReminderItems.h"
+#include "planner/ViewFilter.h"
 
 #include <optional>
 
@@ -36,10 +38,6 @@ int ColorOfItems(const ListFilter& filter) {
     return filter.comboList == "Done" ? ColorDone : ColorNotDone;
 }
 
-bool TakesItem(const ListFilter& filter, const std::string& done) {
-    return filter.comboList == "All" || filter.comboList == (IsTrue(done) ? "Done" : "Not Done");
-}
-
 // What the days of assignments and those of tasks have in common.
 struct ItemCounters {
     std::array<int, MonthCells>& done;
@@ -51,7 +49,7 @@ void MarkItem(CalendarMonth& month, ItemCounters counters, std::size_t cell, con
     if (filter.calendarMode) {
         month.CellMarked[cell] = true;
         ++(IsTrue(done) ? counters.done : counters.left)[cell];
-    } else if (TakesItem(filter, done)) {
+    } else if (IsItemTaken(done, filter)) {
         month.CellMarked[cell] = true;
     }
 }
@@ -68,7 +66,7 @@ int ColorOfReminders(std::string_view comboList) {
 
 // The filter has the words of the sources, the rows those of the items: "Homework", "Task", "Event".
 bool TakesReminder(std::string_view comboList, const std::string& kind) {
-    return comboList == "All" || comboList == (kind == "Homework" ? kind : kind + "s");
+    return comboList == "All" || comboList == (kind == HomeworkMode ? kind : kind + "s");
 }
 
 } // namespace

@@ -7,6 +7,5 @@ ScreenText MonthTitle(Date date) {
 }
 
 ScreenText DayTitle(Date date) {
-    return {FormatDate(date, "dddd").utf8 + ", " + FormatDate(date, "mmm").utf8 + " " +
-            FormatDate(date, "d").utf8};
+    return FormatDate(date, "dddd, mmm d");
 }

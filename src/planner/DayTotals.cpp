@@ -9,8 +9,6 @@
 #include "planner/DateHelpers.h"
 #include "planner/EventOccursOn.h"
 
-#include <algorithm>
-
 namespace {
 
 // The classes of any term with the id in the link, where the link names the active term.

@@ -1,12 +1,18 @@
 // How far away an item is.
 #include "planner/DaysAway.h"
 
-std::string DaysAway(int days) {
-    if (days > 1) {
-        return std::to_string(days) + " Days";
+#include <cstdlib>
+
+std::string DaysAway(int days, std::string_view behindDaysToCome) {
+    switch (days) {
+    case 1:
+        return "Tomorrow";
+    case 0:
+        return "Today";
+    case -1:
+        return "Yesterday";
+    default:
+        return std::to_string(std::abs(days)) + " Days" +
+               std::string(days > 0 ? behindDaysToCome : std::string_view(" Ago"));
     }
-    if (days < -1) {
-        return std::to_string(-days) + " Days Ago";
-    }
-    return days == 1 ? "Tomorrow" : days == 0 ? "Today" : "Yesterday";
 }

@@ -5,8 +5,9 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/ClassLink.h"
-#include "planner/EventFilter.h"
+
 #include "planner/EventOccursOn.h"
+#include "planner/ViewFilter.h"
 
 #include <bit>
 

@@ -4,10 +4,10 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "planner/ClassLink.h"
-#include "planner/EventFilter.h"
 #include "planner/EventOccursOn.h"
 #include "planner/EventWalk.h"
 #include "planner/RowLook.h"
+#include "planner/ViewFilter.h"
 
 namespace {
 

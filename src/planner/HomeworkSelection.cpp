@@ -93,7 +93,6 @@ HomeworkCounts HomeworkDayList(Date day, const ListFilter& filter) {
         const bool done = IsTrue(assignments.done.Item(position));
         ++counts.total;
         counts.left += done ? 0 : 1;
-        counts.allDone &= done;
         if (filter.comboList == (done ? "Not Done" : "Done")) {
             continue;
         }

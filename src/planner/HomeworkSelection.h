@@ -9,7 +9,6 @@
 struct HomeworkCounts {
     int total = 0;
     int left = 0; // not done
-    bool allDone = true;
 };
 
 // Fills HomeworkRows, RowClass, RowForeColor, RowBackColor and RowTimeLeft with the assignments due on the

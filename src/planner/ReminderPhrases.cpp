@@ -2,6 +2,7 @@
 #include "planner/ReminderPhrases.h"
 
 #include "planner/DateHelpers.h"
+#include "planner/DaysAway.h"
 
 #include <cstdlib>
 
@@ -21,16 +22,7 @@ std::string HoursOrMinutes(std::int64_t minutes) {
 } // namespace
 
 std::string DayPhrase(int days) {
-    switch (days) {
-    case 1:
-        return "Tomorrow";
-    case 0:
-        return "Today";
-    case -1:
-        return "Yesterday";
-    default:
-        return std::to_string(std::abs(days)) + (days > 0 ? " Days from Now" : " Days Ago");
-    }
+    return DaysAway(days, " from Now");
 }
 
 std::string MomentPhrase(std::int64_t minutes, int days) {

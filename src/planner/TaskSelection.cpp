@@ -8,6 +8,7 @@
 #include "planner/Colors.h"
 #include "planner/DateHelpers.h"
 #include "planner/RowLook.h"
+#include "planner/ViewFilter.h"
 
 namespace {
 
@@ -65,7 +66,7 @@ void SelectTasks(Date day, const ListFilter& filter) {
             continue;
         }
         CountTask(position);
-        if (filter.comboList == "All" || filter.comboList == (IsDone(position) ? "Done" : "Not Done")) {
+        if (IsItemTaken(Store.TaskRecord.done.Item(position), filter)) {
             AddTaskRow(position);
         }
     }

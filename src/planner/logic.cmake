@@ -10,7 +10,6 @@ target_sources(planovarium_logic PRIVATE
   planner/DaysAway.cpp
   planner/Decimal.cpp
   planner/DurationEntry.cpp
-  planner/EventFilter.cpp
   planner/EventMarks.cpp
   planner/EventOccursOn.cpp
   planner/EventSelection.cpp
@@ -37,4 +36,5 @@ target_sources(planovarium_logic PRIVATE
   planner/TaskSelection.cpp
   planner/TermEntry.cpp
   planner/TypeEntry.cpp
+  planner/ViewFilter.cpp
 )

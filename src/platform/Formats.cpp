@@ -18,14 +18,11 @@ struct DateForm {
     const char* pattern;
 };
 
-constexpr std::array<DateForm, 7> DateForms{{
+constexpr std::array<DateForm, 4> DateForms{{
     {"Medium Date", "dd-MMM-yy"},
     {"dddd, mmm d", "dddd, MMM d"},
     {"dddd, MMMM d", "dddd, MMMM d"},
-    {"dddd", "dddd"},
-    {"mmm", "MMM"},
     {"MMMM", "MMMM"},
-    {"d", "d"},
 }};
 
 // A program without a language of its own speaks US English, not the C locale's mixture.

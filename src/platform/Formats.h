@@ -22,8 +22,8 @@ enum class DateOrder { MonthDayYear, DayMonthYear, YearMonthDay };
 DateOrder LocaleDateOrder();
 
 // A date in one of the forms "Long Date", "Medium Date" (24-Aug-09), "Short Date" (ASCII digits in the user's
-// order, four of them the year, so that it reads back as the same day), "dddd, mmm d", "dddd, MMMM d",
-// "dddd", "mmm", "MMMM" and "d".
+// order, four of them the year, so that it reads back as the same day), "dddd, mmm d", "dddd, MMMM d"
+// and "MMMM".
 ScreenText FormatDate(Date date, std::string_view form);
 
 // A time in the form "Medium Time" (09:00 AM).

@@ -10,7 +10,6 @@ target_sources(logic_tests PRIVATE
   planner/DaysAwayTest.cpp
   planner/DecimalTest.cpp
   planner/DurationEntryTest.cpp
-  planner/EventFilterTest.cpp
   planner/EventMarksTest.cpp
   planner/EventOccursOnTest.cpp
   planner/EventSelectionTest.cpp
@@ -43,4 +42,5 @@ target_sources(logic_tests PRIVATE
   planner/TaskSelectionTest.cpp
   planner/TermEntryTest.cpp
   planner/TypeEntryTest.cpp
+  planner/ViewFilterTest.cpp
 )

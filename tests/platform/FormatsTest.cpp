@@ -90,17 +90,14 @@ TEST(Formats, TheCLocaleCountsAsUSEnglish) {
         EXPECT_EQ(FormatDate(Monday, "Medium Date").utf8, "24-Aug-09");
         EXPECT_EQ(FormatDate(Monday, "dddd, mmm d").utf8, "Monday, Aug 24");
         EXPECT_EQ(FormatDate(Monday, "dddd, MMMM d").utf8, "Monday, August 24");
-        EXPECT_EQ(FormatDate(Monday, "dddd").utf8, "Monday");
-        EXPECT_EQ(FormatDate(Monday, "mmm").utf8, "Aug");
         EXPECT_EQ(FormatDate(Monday, "MMMM").utf8, "August");
-        EXPECT_EQ(FormatDate(Monday, "d").utf8, "24");
     }));
 }
 
 TEST(Formats, NamesAreThoseOfTheUsersLanguage) {
     EXPECT_TRUE(HoldsIn("de_DE", [] {
         EXPECT_EQ(FormatDate(Monday, "Long Date").utf8, "Montag, 24. August 2009");
-        EXPECT_EQ(FormatDate(Monday, "dddd").utf8, "Montag");
+        EXPECT_EQ(FormatDate(Monday, "dddd, mmm d").utf8, "Montag, Aug. 24");
         EXPECT_EQ(FormatDate(Date{2009y / 3 / 1}, "MMMM").utf8, "M\xC3\xA4rz");
     }));
 }

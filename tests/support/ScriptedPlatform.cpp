@@ -75,16 +75,10 @@ ScreenText FormatDate(Date date, std::string_view form) {
     if (form == "dddd, MMMM d") {
         return {weekday + ", " + month + " " + std::to_string(d)};
     }
-    if (form == "dddd") {
-        return {weekday};
-    }
-    if (form == "mmm") {
-        return {month.substr(0, 3)};
-    }
     if (form == "MMMM") {
         return {month};
     }
-    return {std::to_string(d)};
+    return {};
 }
 
 ScreenText FormatTime(TimeOfDay time, std::string_view) {

@@ -1,5 +1,7 @@
-// Which events the words of the view menu keep.
-#include "planner/EventFilter.h"
+// Which events, assignments and tasks the words of the view menu keep.
+#include "planner/ViewFilter.h"
+
+#include "core/Values.h"
 
 bool IsEventTaken(std::string_view type, const ListFilter& filter) {
     if (filter.calendarMode || filter.comboList == "All") {
@@ -7,4 +9,8 @@ bool IsEventTaken(std::string_view type, const ListFilter& filter) {
     }
     const bool isClass = type == "Class";
     return (filter.comboList == "Classes" && isClass) || (filter.comboList == "Other Events" && !isClass);
+}
+
+bool IsItemTaken(std::string_view done, const ListFilter& filter) {
+    return filter.comboList == "All" || filter.comboList == (IsTrue(done) ? "Done" : "Not Done");
 }

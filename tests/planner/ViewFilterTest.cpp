@@ -1,5 +1,7 @@
-// Which events the words of the view menu keep.
-#include "planner/EventFilter.h"
+// Which events, assignments and tasks the words of the view menu keep.
+#include "planner/ViewFilter.h"
+
+#include "core/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +12,12 @@ bool IsTaken(std::string_view type, std::string_view word, bool calendarMode = f
     filter.comboList = word;
     filter.calendarMode = calendarMode;
     return IsEventTaken(type, filter);
+}
+
+bool IsTakenByFlag(std::string_view done, std::string_view word) {
+    ListFilter filter;
+    filter.comboList = word;
+    return IsItemTaken(done, filter);
 }
 
 } // namespace
@@ -40,4 +48,21 @@ TEST(EventFilters, AnyOtherWordTakesNone) {
 TEST(EventFilters, CalendarModeTakesEveryEventWhateverTheWord) {
     EXPECT_TRUE(IsTaken("None", "Classes", true));
     EXPECT_TRUE(IsTaken("Class", "Not Done", true));
+}
+
+TEST(ItemFilter, TakesAnItemByItsFlag) {
+    EXPECT_TRUE(IsTakenByFlag("True", "Done"));
+    EXPECT_FALSE(IsTakenByFlag("False", "Done"));
+    EXPECT_TRUE(IsTakenByFlag("False", "Not Done"));
+    EXPECT_FALSE(IsTakenByFlag("True", "Not Done"));
+}
+
+TEST(ItemFilter, TakesNothingAtAWordOfAnotherMenu) {
+    EXPECT_FALSE(IsTakenByFlag("True", "Classes"));
+    EXPECT_FALSE(IsTakenByFlag("False", "Classes"));
+}
+
+TEST(ItemFilter, DoesNotReadTheFlagWhereEveryItemIsTaken) {
+    EXPECT_TRUE(IsTakenByFlag("perhaps", "All"));
+    EXPECT_THROW(IsTakenByFlag("perhaps", "Done"), RunTimeError);
 }
