@@ -17,8 +17,6 @@ using std::chrono::month;
 using std::chrono::year;
 using std::chrono::year_month_day;
 
-constexpr int LeastYear = 100;
-constexpr int GreatestYear = 9999;
 constexpr int FirstTwoDigitYearOf1900 = 30;
 constexpr std::string_view DateSeparators = "/-.";
 
@@ -37,11 +35,12 @@ std::optional<int> Digits(std::string_view text) {
 }
 
 std::optional<Date> CalendarDate(int y, int m, int d) {
-    const year_month_day date{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}};
-    if (y < LeastYear || y > GreatestYear || !date.ok()) {
+    const year_month_day parts{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}};
+    if (!parts.ok()) {
         return std::nullopt;
     }
-    return Date{date};
+    const Date date{parts};
+    return date >= FirstStoredDate && date <= LastStoredDate ? std::optional(date) : std::nullopt;
 }
 
 // The form in which the store keeps nearly every date, read without a search for its parts.

@@ -7,9 +7,13 @@
 #include <string>
 #include <string_view>
 
+// A text holds dates of the years 100 to 9999 alone.
+inline constexpr Date FirstStoredDate{std::chrono::year{100} / 1 / 1};
+inline constexpr Date LastStoredDate{std::chrono::year{9999} / 12 / 31};
+
 // The date in a text: year, month, day with a four-digit year first, else in the order of the user's short
 // dates, where a two-digit year below 30 means 2000 and later. "/", "-" and "." separate; blanks around are
-// trimmed. Nothing when the text holds no date of the calendar.
+// trimmed. Nothing when the text holds no date of the calendar between those two.
 std::optional<Date> DateIn(std::string_view text);
 
 // The time of day in a text: "9:00 AM", "09:00 am", "11:30PM", "9 AM", "14:05", with seconds or without.

@@ -56,10 +56,10 @@ void DatePicker::AddField(bool target, QWidget* box, QWidget* button, const std:
 void DatePicker::SetCalendarHeads(const std::string& startDayOfWeek) {
     HideCalendar();
     firstDayOfWeek = startDayOfWeek;
-    const std::array<WeekdayHead, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);
+    const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);
     for (std::size_t column = 0; column < heads.size(); ++column) {
-        LabelCalDay[column]->setText(FromStore(heads[column].initial));
-        LabelCalDay[column]->setAccessibleName(FromStore(heads[column].name));
+        LabelCalDay[column]->setText(FromStore(heads[column].substr(0, 1)));
+        LabelCalDay[column]->setAccessibleName(FromStore(heads[column]));
     }
 }
 

@@ -35,9 +35,9 @@ bool IsStartDay(std::string_view day) {
 }
 
 // A head that reacts to a click looks like a link.
-void PaintHead(ClickLabel* head, const WeekdayHead& day, bool reacts) {
-    const QString name = FromStore(day.name);
-    head->setText(FromStore(day.initial));
+void PaintHead(ClickLabel* head, std::string_view day, bool reacts) {
+    const QString name = FromStore(day);
+    head->setText(name.left(1));
     head->setProperty(HeadTag, name);
     head->setAccessibleName(name);
     head->setToolTip(reacts ? QStringLiteral("Start the week on %1").arg(name) : QString());
@@ -138,10 +138,10 @@ void frmMain::ChooseStartDayOfWeek(const std::string& day) {
 }
 
 void frmMain::ApplyStartDayOfWeek() {
-    const std::array<WeekdayHead, DaysPerWeek> heads = WeekdayHeads(StartDayOfWeek);
+    const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(StartDayOfWeek);
     for (std::size_t column = 0; column < heads.size(); ++column) {
-        const bool first = heads[column].name == StartDayOfWeek;
-        PaintHead(LabelCalDay[column], heads[column], IsStartDay(heads[column].name) && !first);
+        const bool first = heads[column] == StartDayOfWeek;
+        PaintHead(LabelCalDay[column], heads[column], IsStartDay(heads[column]) && !first);
     }
     for (QAction* item : {MenuStartSun, MenuStartMon, MenuStartSat}) {
         item->setChecked(ToStore(item->text()) == StartDayOfWeek);

@@ -8,14 +8,7 @@
 
 namespace {
 
-int DayOfMonth(Date date) {
-    const std::chrono::year_month_day parts{date};
-    return static_cast<int>(static_cast<unsigned>(parts.day()));
-}
-
-Date FirstOfMonth(Date date) {
-    return DateAddMulti(date, 0, 0, 1 - DayOfMonth(date));
-}
+using std::chrono::days;
 
 int RowAfter(GridMove move, int row, const ListView& view) {
     switch (move) {
@@ -53,21 +46,21 @@ int MovedRow(GridMove move, int row, const ListView& view) {
 Date MovedDate(GridMove move, Date date) {
     switch (move) {
     case GridMove::Up:
-        return DateAddMulti(date, 0, 0, -DaysPerWeek);
+        return date - days{DaysPerWeek};
     case GridMove::Down:
-        return DateAddMulti(date, 0, 0, DaysPerWeek);
+        return date + days{DaysPerWeek};
     case GridMove::Left:
-        return DateAddMulti(date, 0, 0, -1);
+        return date - days{1};
     case GridMove::Right:
-        return DateAddMulti(date, 0, 0, 1);
+        return date + days{1};
     case GridMove::PageUp:
         return DateAddMulti(date, 0, -1, 0);
     case GridMove::PageDown:
         return DateAddMulti(date, 0, 1, 0);
     case GridMove::Home:
-        return FirstOfMonth(date);
+        return FirstOfMonth(MonthOf(date));
     case GridMove::End:
-        return DateAddMulti(FirstOfMonth(date), 0, 1, -1);
+        return LastOfMonth(MonthOf(date));
     }
     return date;
 }

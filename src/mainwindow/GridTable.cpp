@@ -167,7 +167,7 @@ QString TableTitle(const frmMain& window, int column) {
         return ListTitle(*kind, column);
     }
     const auto index = static_cast<std::size_t>(column);
-    return mode == Mode::Calendar ? FromStore(WeekdayHeads(window.StartDayOfWeek)[index].name)
+    return mode == Mode::Calendar ? FromStore(WeekdayHeads(window.StartDayOfWeek)[index])
                                   : QLatin1String(DayTitles[index]);
 }
 

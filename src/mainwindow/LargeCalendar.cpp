@@ -33,9 +33,9 @@ void DrawCentred(PictureBox& surface, const UnitRect& box, const QString& text, 
 
 void PaintHeads(PictureBox& surface, const CalendarLayout& layout, std::string_view startDayOfWeek) {
     surface.FillRectangle(0, 0, surface.WidthInUnits(), CalendarHeadHeight, HeadBackColor);
-    const std::array<WeekdayHead, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);
+    const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);
     for (std::size_t column = 0; column < heads.size(); ++column) {
-        DrawCentred(surface, layout.head[column], FromStore(heads[column].name), HeadFont, HeadForeColor);
+        DrawCentred(surface, layout.head[column], FromStore(heads[column]), HeadFont, HeadForeColor);
     }
 }
 

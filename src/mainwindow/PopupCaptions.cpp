@@ -7,6 +7,7 @@
 #include "core/Values.h"
 #include "mainwindow/GridLayout.h"
 #include "planner/RowLook.h"
+#include "planner/SeriesRule.h"
 #include "platform/Formats.h"
 
 #include <array>
@@ -110,7 +111,7 @@ std::string EventCaption(int row) {
         caption += "(" + FormatTime(*time, "Medium Time").utf8 + ")  ";
     }
     caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
-    caption += MarkIf(store.recurrence.Item(index) != NoType, RecurrenceMark);
+    caption += MarkIf(IsSeries(index), RecurrenceMark);
     caption += OrElse(TypeAndDescription(EventRowType.Item(row), store.desc.Item(index)), "New Event");
     return caption;
 }

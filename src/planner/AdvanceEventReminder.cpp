@@ -15,12 +15,9 @@
 namespace {
 
 using std::chrono::days;
-using namespace std::chrono_literals;
-
-constexpr Date LastDate{9999y / 12 / 31};
 
 std::optional<Date> StepByWeekdays(const SeriesRule& rule, Date day) {
-    for (int step = 1; step <= DaysInWeek; ++step) {
+    for (int step = 1; step <= DaysPerWeek; ++step) {
         if (HasWeekday(rule.weekdays, WeekdayNumber(day + days{step}))) {
             return day + days{step};
         }
@@ -42,7 +39,7 @@ Date StepByRank(const SeriesRule& rule, Date day, int months) {
     if (!rule.countsDays) {
         return RankDay(MonthOf(later), rule.rank, rule.weekday);
     }
-    return rule.rank == Rank::Last ? LastDayOf(MonthOf(later)) : later;
+    return rule.rank == Rank::Last ? LastOfMonth(MonthOf(later)) : later;
 }
 
 std::optional<Date> StepUnbounded(const SeriesRule& rule, Date first, Date day) {
@@ -53,7 +50,7 @@ std::optional<Date> StepUnbounded(const SeriesRule& rule, Date first, Date day) 
     if (!repeats || (!rule.sameDate && rule.rank == Rank::Unlisted)) {
         return std::nullopt;
     }
-    const int months = rule.recurrence == Recurrence::Year ? MonthsInYear : 1;
+    const int months = rule.recurrence == Recurrence::Year ? MonthsPerYear : 1;
     return rule.sameDate ? StepBySameDate(first, day, months) : StepByRank(rule, day, months);
 }
 
@@ -73,10 +70,9 @@ struct SeriesReminder {
 
 SeriesReminder ReadSeriesReminder(int index) {
     const EventLists& events = Store.EventRecord;
-    const bool ends = IsTrue(events.end.Item(index));
     return {ReadSeriesRule(index),
             DateValue(events.date.Item(index)),
-            ends ? DateValue(events.end_date.Item(index)) : LastDate,
+            EndDate(index),
             TimeValue(events.time.Item(index)),
             LeadOf(events.reminder_time.Item(index)),
             events.exceptions.Item(index)};
@@ -100,7 +96,7 @@ Following WalkOn(const SeriesReminder& series, Date day, Moment now) {
         if (IsException(series.exceptions, day)) {
             continue;
         }
-        const Moment moment = WithinCalendar(Moment{day} + series.time - series.lead);
+        const Moment moment = RequireStorable(Moment{day} + series.time - series.lead);
         const Moment alarm = std::chrono::floor<std::chrono::minutes>(moment); // as it is written
         if (alarm > now) {
             following.next = {day, StoredMoment(alarm)};
@@ -159,5 +155,5 @@ void FollowNextOccurrence(int index) {
 
 std::optional<Date> StepSeries(const SeriesRule& rule, Date first, Date day) {
     const std::optional<Date> step = StepUnbounded(rule, first, day);
-    return step && *step <= LastDate ? step : std::nullopt;
+    return step && *step <= LastStoredDate ? step : std::nullopt;
 }

@@ -10,18 +10,12 @@
 namespace {
 
 constexpr std::string_view FallbackEstimate = "00 : 30";
-constexpr std::string_view ClockSeparator = " : ";
 constexpr std::size_t GreatestEstimateLength = 8;
 constexpr std::size_t GreatestPercentLength = 3;
 constexpr int GreatestHours = 99;
 constexpr int GreatestMinutes = 59;
 constexpr int FallbackMinutes = 30;
 constexpr std::size_t WordLimit = 10;
-
-// The minutes as the editors write a clock length: "01 : 45".
-std::string SpacedClock(int minutes) {
-    return MinutesToClock(minutes).replace(2, 1, ClockSeparator);
-}
 
 bool IsEstimateCharacter(char character) {
     return character == ' ' || (character >= '0' && character <= ':');

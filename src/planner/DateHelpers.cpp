@@ -13,6 +13,7 @@ using std::chrono::last;
 using std::chrono::month;
 using std::chrono::months;
 using std::chrono::year;
+using std::chrono::year_month;
 using std::chrono::year_month_day;
 using std::chrono::years;
 
@@ -20,17 +21,27 @@ Date Clamped(year_month_day date) {
     return date.ok() ? Date{date} : Date{date.year() / date.month() / last};
 }
 
-// The last two characters of the number behind a "0".
-std::string TwoDigits(int number) {
-    std::string digits = std::to_string(number);
-    return digits.size() < 2 ? "0" + digits : digits.erase(0, digits.size() - 2);
-}
-
 } // namespace
 
 int DaysInMonth(int y, int m) {
-    const auto wanted = year{y} / month{1} + months{m - 1};
-    return static_cast<int>(static_cast<unsigned>((wanted / last).day()));
+    return DaysInMonth(year{y} / month{1} + months{m - 1});
+}
+
+year_month MonthOf(Date date) {
+    const year_month_day parts{date};
+    return parts.year() / parts.month();
+}
+
+int DayOfMonth(Date date) {
+    return static_cast<int>(static_cast<unsigned>(year_month_day{date}.day()));
+}
+
+Date FirstOfMonth(year_month month) {
+    return Date{month / 1};
+}
+
+Date LastOfMonth(year_month month) {
+    return Date{month / last};
 }
 
 Date DateAddMulti(Date base, int addedYears, int addedMonths, int addedDays) {
@@ -51,8 +62,17 @@ int WeekdayNumber(Date date) {
     return static_cast<int>(std::chrono::weekday{date}.c_encoding()) + 1;
 }
 
+std::string TwoDigits(std::int64_t number) {
+    const std::string digits = "0" + std::to_string(number);
+    return digits.substr(digits.size() - 2);
+}
+
 std::string MinutesToClock(int minutes) {
     return TwoDigits(minutes / MinutesPerHour) + ":" + TwoDigits(minutes % MinutesPerHour);
+}
+
+std::string SpacedClock(int minutes) {
+    return MinutesToClock(minutes).replace(2, 1, " : ");
 }
 
 int ClockToMinutes(std::string_view clock) {

@@ -3,6 +3,8 @@
 
 #include "platform/Clock.h"
 
+#include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -11,10 +13,27 @@ inline constexpr Date AllDates{std::chrono::year{1953} / 8 / 12};
 
 inline constexpr int MinutesPerHour = 60;
 inline constexpr int MinutesPerDay = 24 * MinutesPerHour;
+inline constexpr int DaysPerWeek = 7;
+inline constexpr int MonthsPerYear = 12;
+
+// The days of the week by their numbers, Sunday 1 to Saturday 7, as the store and the screen name them.
+inline constexpr std::array<std::string_view, DaysPerWeek> WeekdayNames{
+    "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
 
 // Number of days of the month. The last day of a month is day 0 of the following one, so month 13 is allowed
 // and is January of the next year.
 int DaysInMonth(int year, int month);
+
+inline int DaysInMonth(std::chrono::year_month month) {
+    return static_cast<int>(static_cast<unsigned>((month / std::chrono::last).day()));
+}
+
+std::chrono::year_month MonthOf(Date date);
+int DayOfMonth(Date date);
+
+// The first and the last day of the month.
+Date FirstOfMonth(std::chrono::year_month month);
+Date LastOfMonth(std::chrono::year_month month);
 
 // Adds years, then months, then days. Each of the first two steps clamps to the last day of its target month,
 // so the order counts: 31 January of a leap year, 0 years, 1 month, 1 day is 1 March.
@@ -27,8 +46,14 @@ int DayDiff(Moment first, Moment second);
 // Sunday 1 to Saturday 7, whatever day the calendar starts its week with.
 int WeekdayNumber(Date date);
 
+// The last two digits of the number, "0" in front of a single one.
+std::string TwoDigits(std::int64_t number);
+
 // "HH:MM", each part as the last two digits: 6015 minutes read "00:15".
 std::string MinutesToClock(int minutes);
+
+// The same as the editors write it: "01 : 45".
+std::string SpacedClock(int minutes);
 
 // Minutes of a clock length, from its first two and its last two characters: takes "00 : 30" and "00:30".
 // Raises the run-time error where these are no numbers.

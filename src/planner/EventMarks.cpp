@@ -5,8 +5,8 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/ClassLink.h"
-
 #include "planner/EventOccursOn.h"
+#include "planner/SeriesRule.h"
 #include "planner/ViewFilter.h"
 
 #include <bit>
@@ -18,8 +18,7 @@ DayBits CellsOfEvent(std::span<const DayFacts> cells, int index) {
     if (events.desc.Item(index) == DeletedRecord) {
         return 0;
     }
-    const bool single = events.recurrence.Item(index) == "None";
-    return single ? DayOf(cells, DateValue(events.date.Item(index))) : OccurringDays(cells, index);
+    return IsSeries(index) ? OccurringDays(cells, index) : DayOf(cells, DateValue(events.date.Item(index)));
 }
 
 } // namespace

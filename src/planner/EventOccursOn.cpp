@@ -37,7 +37,7 @@ bool HoldsInMonth(const SeriesRule& rule, const DayFacts& first, const DayFacts&
         return day.number == wanted;
     }
     const int daysIntoRank = day.number - FirstDayOfRank(rule.rank, day.daysInMonth);
-    return day.weekday == first.weekday && daysIntoRank >= 0 && daysIntoRank < DaysInWeek;
+    return day.weekday == first.weekday && daysIntoRank >= 0 && daysIntoRank < DaysPerWeek;
 }
 
 // True when a series with that first date falls on a later day by its rule alone.
@@ -100,10 +100,9 @@ bool EventOccursOn(Date day, int index) {
 
 DayFacts FactsOf(Date date) {
     const std::chrono::year_month_day parts{date};
-    const std::chrono::year_month_day_last last{parts.year(), parts.month() / std::chrono::last};
     return {date, static_cast<int>(static_cast<unsigned>(parts.day())),
             static_cast<int>(static_cast<unsigned>(parts.month())), WeekdayNumber(date),
-            static_cast<int>(static_cast<unsigned>(last.day()))};
+            DaysInMonth(parts.year() / parts.month())};
 }
 
 std::vector<DayFacts> FactsOfDays(Date first, int count) {
@@ -131,12 +130,10 @@ DayBits OccurringDays(std::span<const DayFacts> row, int index) {
     const Date first = DateValue(events.date.Item(index));
     const DayBits onFirst = open & DayOf(row, first); // also where its rule says no
     open &= ~DaysThrough(row, first);
-    if (open == 0 || events.recurrence.Item(index) == "None") {
+    if (open == 0 || !IsSeries(index)) {
         return onFirst;
     }
-    if (IsTrue(events.end.Item(index))) {
-        open &= DaysThrough(row, DateValue(events.end_date.Item(index)));
-    }
+    open &= DaysThrough(row, EndDate(index));
     return open == 0 ? onFirst : onFirst | DaysOfRule(row, open, first, index);
 }
 

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <optional>
 
 namespace {
 
@@ -34,7 +33,7 @@ Date Candidate(const SeriesRule& rule, Date first, int addedMonths) {
         return DateAddMulti(first, 0, addedMonths, 0);
     }
     const year_month month = MonthOf(first) + months{addedMonths};
-    return lastOfMonth ? LastDayOf(month) : RankDay(month, rule.rank, rule.weekday);
+    return lastOfMonth ? LastOfMonth(month) : RankDay(month, rule.rank, rule.weekday);
 }
 
 // The candidates of each month or year, from that in which the span begins: earlier ones lie before it.
@@ -42,7 +41,7 @@ void WalkMonths(const SeriesRule& rule, Date first, Span span, std::vector<Date>
     if (!rule.sameDate && rule.rank == Rank::Unlisted) {
         return;
     }
-    const int step = rule.recurrence == Recurrence::Year ? MonthsInYear : 1;
+    const int step = rule.recurrence == Recurrence::Year ? MonthsPerYear : 1;
     const int monthsToSpan = static_cast<int>((MonthOf(span.first) - MonthOf(first)).count());
     int addedMonths = monthsToSpan / step * step;
     for (Date candidate = Candidate(rule, first, addedMonths); candidate <= span.last;
@@ -59,7 +58,7 @@ void WalkWeekdays(const SeriesRule& rule, Date first, Span span, std::vector<Dat
     if (first >= span.first && first <= span.last && !HasWeekday(rule.weekdays, WeekdayNumber(first))) {
         dates.push_back(first);
     }
-    for (int offset = 0; offset < DaysInWeek; ++offset) {
+    for (int offset = 0; offset < DaysPerWeek; ++offset) {
         const Date start = span.first + days{offset};
         if (!HasWeekday(rule.weekdays, WeekdayNumber(start))) {
             continue;
@@ -80,21 +79,9 @@ void WalkSeries(int index, Date first, Span span, std::vector<Date>& dates) {
     }
 }
 
-bool IsSingle(int index) {
-    return Store.EventRecord.recurrence.Item(index) == "None";
-}
-
-std::optional<Date> EndDate(int index) {
-    const EventLists& events = Store.EventRecord;
-    if (!IsTrue(events.end.Item(index))) {
-        return std::nullopt;
-    }
-    return DateValue(events.end_date.Item(index));
-}
-
 void WalkEvent(int index, Span range, std::vector<Date>& dates) {
     const Date first = DateValue(Store.EventRecord.date.Item(index));
-    if (IsSingle(index)) {
+    if (!IsSeries(index)) {
         if (first >= range.first && first <= range.last) {
             dates.push_back(first);
         }
@@ -103,11 +90,11 @@ void WalkEvent(int index, Span range, std::vector<Date>& dates) {
     if (first > range.last) {
         return;
     }
-    const std::optional<Date> end = EndDate(index);
-    if (end && *end < range.first) {
+    const Date end = EndDate(index);
+    if (end < range.first) {
         return;
     }
-    const Date last = std::min(end.value_or(range.last), range.last);
+    const Date last = std::min(end, range.last);
     WalkSeries(index, first, {std::max(first, range.first), last}, dates);
 }
 
@@ -117,17 +104,17 @@ void WalkReminders(int index, Date day, days lead, std::vector<Date>& dates) {
     if (day < first - lead) {
         return;
     }
-    if (IsSingle(index)) {
+    if (!IsSeries(index)) {
         if (day <= first) {
             dates.push_back(first);
         }
         return;
     }
-    const std::optional<Date> end = EndDate(index);
-    if (end && day > *end) {
+    const Date end = EndDate(index);
+    if (day > end) {
         return;
     }
-    const Date last = std::min(end.value_or(day + lead), day + lead);
+    const Date last = std::min(end, day + lead);
     WalkSeries(index, first, {std::max(first, day), last}, dates);
 }
 

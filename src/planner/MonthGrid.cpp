@@ -1,25 +1,12 @@
 // The six rows of seven days on which every calendar of the planner shows a month.
 #include "planner/MonthGrid.h"
 
-#include "planner/DateHelpers.h"
-
 #include <algorithm>
 
 namespace {
 
 using std::chrono::days;
 using std::chrono::year_month_day;
-
-// By weekday number, Sunday 1 to Saturday 7.
-constexpr std::array<WeekdayHead, DaysPerWeek> Weekdays{{
-    {"Sunday", "S"},
-    {"Monday", "M"},
-    {"Tuesday", "T"},
-    {"Wednesday", "W"},
-    {"Thursday", "T"},
-    {"Friday", "F"},
-    {"Saturday", "S"},
-}};
 
 constexpr int Sunday = 1;
 constexpr int Monday = 2;
@@ -32,19 +19,14 @@ int FirstWeekday(std::string_view startDayOfWeek) {
     return startDayOfWeek == "Monday" ? Monday : Saturday;
 }
 
-Date FirstOfMonth(Date date) {
-    const year_month_day parts{date};
-    return Date{parts.year() / parts.month() / 1};
-}
-
 } // namespace
 
 Date WithinCalendar(Date date) {
     return std::clamp(date, EarliestDate, LatestDate);
 }
 
-std::array<WeekdayHead, DaysPerWeek> WeekdayHeads(std::string_view startDayOfWeek) {
-    std::array<WeekdayHead, DaysPerWeek> heads = Weekdays;
+std::array<std::string_view, DaysPerWeek> WeekdayHeads(std::string_view startDayOfWeek) {
+    std::array<std::string_view, DaysPerWeek> heads = WeekdayNames;
     std::rotate(heads.begin(), heads.begin() + FirstWeekday(startDayOfWeek) - Sunday, heads.end());
     return heads;
 }
@@ -55,7 +37,7 @@ Date FirstOfWeek(Date date, std::string_view startDayOfWeek) {
 }
 
 Date FirstCellDate(Date shown, std::string_view startDayOfWeek) {
-    return FirstOfWeek(FirstOfMonth(shown) - days{1}, startDayOfWeek);
+    return FirstOfWeek(FirstOfMonth(MonthOf(shown)) - days{1}, startDayOfWeek);
 }
 
 std::array<MonthCell, MonthCells> CellsOfMonth(Date shown, Date today, std::string_view startDayOfWeek) {

@@ -1,12 +1,11 @@
 // The six rows of seven days on which every calendar of the planner shows a month.
 #pragma once
 
-#include "platform/Clock.h"
+#include "planner/DateHelpers.h"
 
 #include <array>
 #include <string_view>
 
-inline constexpr int DaysPerWeek = 7;
 inline constexpr int MonthCells = 42;
 
 // The calendars show no date outside these two.
@@ -16,17 +15,9 @@ inline constexpr Date LatestDate{std::chrono::year{3100} / 12 / 31};
 // The date itself, or the one of the two limits beyond which it lies.
 Date WithinCalendar(Date date);
 
-// A day of the week as the heads of the columns show it.
-struct WeekdayHead {
-    std::string_view name;
-    std::string_view initial;
-
-    friend bool operator==(const WeekdayHead&, const WeekdayHead&) = default;
-};
-
-// The heads of the seven columns. They begin with the day given, "Sunday" or "Monday", and at any other text
-// with Saturday.
-std::array<WeekdayHead, DaysPerWeek> WeekdayHeads(std::string_view startDayOfWeek);
+// The weekdays of the seven columns. They begin with the day given, "Sunday" or "Monday", and at any other
+// text with Saturday.
+std::array<std::string_view, DaysPerWeek> WeekdayHeads(std::string_view startDayOfWeek);
 
 // The last date not after the given one whose weekday is the first of the week.
 Date FirstOfWeek(Date date, std::string_view startDayOfWeek);

@@ -8,10 +8,6 @@
 
 namespace {
 
-int DayNumber(Date date) {
-    return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day{date}.day()));
-}
-
 ScreenText Caption(const std::string& day, const std::string& period) {
     return {"The " + day + " of every " + period};
 }
@@ -19,11 +15,11 @@ ScreenText Caption(const std::string& day, const std::string& period) {
 } // namespace
 
 RankOfDate RankOf(Date date) {
-    if (date == LastDayOf(MonthOf(date))) {
+    if (date == LastOfMonth(MonthOf(date))) {
         return {RankTexts.back(), DayOfMonthText};
     }
-    return {RankTexts.at(static_cast<std::size_t>((DayNumber(date) - 1) / DaysInWeek)),
-            WeekdayTexts.at(static_cast<std::size_t>(WeekdayNumber(date) - 1))};
+    return {RankTexts.at(static_cast<std::size_t>((DayOfMonth(date) - 1) / DaysPerWeek)),
+            WeekdayNames.at(static_cast<std::size_t>(WeekdayNumber(date) - 1))};
 }
 
 std::string_view OrdinalSuffix(int dayNumber) {
@@ -45,7 +41,7 @@ std::string_view OrdinalSuffix(int dayNumber) {
 
 RecurrenceCaptions CaptionsOf(Date date) {
     const std::string thisDate =
-        std::to_string(DayNumber(date)) + std::string(OrdinalSuffix(DayNumber(date)));
+        std::to_string(DayOfMonth(date)) + std::string(OrdinalSuffix(DayOfMonth(date)));
     const RankOfDate rank = RankOf(date);
     const std::string user = std::string(rank.number) + " " + std::string(rank.day);
     const std::string month = FormatDate(date, "MMMM").utf8;

@@ -45,7 +45,7 @@ void SnoozeEvent(int index, Moment alarm) {
 void RemoveEvent(int index) {
     EventLists& events = Store.EventRecord;
     events.reminder_list.Replace(index, BooleanText(false));
-    if (events.recurrence.Item(index) != "None") {
+    if (IsSeries(index)) {
         FollowNextOccurrence(index);
     }
 }
@@ -54,7 +54,7 @@ void RemoveEvent(int index) {
 
 void SnoozeReminder(std::string_view mode, std::string_view id, std::string_view interval, Moment now,
                     ReminderFlags& flags) {
-    const Moment alarm = WithinCalendar(now + SnoozeInterval(interval));
+    const Moment alarm = RequireStorable(now + SnoozeInterval(interval));
     const int position = ReminderPosition(mode, id);
     if (position == 0) {
         return;

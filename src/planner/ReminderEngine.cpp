@@ -157,10 +157,6 @@ void CheckHomework(Scan& scan) {
 
 // --- Events ------------------------------------------------------------------------------------------------
 
-bool IsSeries(int index) {
-    return Store.EventRecord.recurrence.Item(index) != "None";
-}
-
 // A snoozed occurrence comes back, unless the series has given it up since; then the next one follows.
 bool FireSnoozedOccurrence(int index) {
     EventLists& events = Store.EventRecord;
@@ -213,9 +209,7 @@ bool EventStands(int index, Scan& scan) {
 }
 
 Moment MomentOfEvent(int index) {
-    const EventLists& events = Store.EventRecord;
-    const TextList& days = IsSeries(index) ? events.reminder_currentday : events.date;
-    return Moment{DateValue(days.Item(index))} + TimeValue(events.time.Item(index));
+    return Moment{ReminderDayOf(index)} + TimeValue(Store.EventRecord.time.Item(index));
 }
 
 void CheckEvents(Scan& scan) {
@@ -235,6 +229,11 @@ void CheckEvents(Scan& scan) {
 }
 
 } // namespace
+
+Date ReminderDayOf(int index) {
+    const EventLists& events = Store.EventRecord;
+    return DateValue((IsSeries(index) ? events.reminder_currentday : events.date).Item(index));
+}
 
 void CheckReminders(Moment now, ReminderFlags& flags, ReminderListRows& rows) {
     rows = {};

@@ -15,6 +15,10 @@ struct ReminderFlags {
     int ReminderSelectedRow = 0; // 0 when none
 };
 
+// The day of the occurrence that the reminder of the event at the position is about: of a series its present
+// one. Raises the run-time error where that text is no date.
+Date ReminderDayOf(int index);
+
 // Fills the rows anew. What is due fires: its fields in the store change, the flag of its file is set, the
 // window is to come up and the selection is cleared. Deleted records and meetings of classes of other terms
 // are passed over and stay as they are. Raises the run-time error at a bad text among those that a reminder's

@@ -11,8 +11,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr TimeOfDay FallbackTime = 9h;
-constexpr Moment FirstMoment{Date{100y / 1 / 1}};
-constexpr Moment BeyondLastMoment{Date{9999y / 12 / 31} + std::chrono::days{1}};
+constexpr Moment FirstMoment{FirstStoredDate};
+constexpr Moment BeyondLastMoment{LastStoredDate + std::chrono::days{1}};
 
 } // namespace
 
@@ -26,11 +26,12 @@ std::string ItemReminderAlarm(Date date, std::string_view time) {
 
 EventReminderFields SetEventReminder(Date date, std::string_view time, std::string_view leadTime) {
     const std::string day = StoredDate(date);
-    const std::string alarm = StoredMoment(WithinCalendar(Moment{date} + TimeValue(time) - LeadOf(leadTime)));
+    const std::string alarm =
+        StoredMoment(RequireStorable(Moment{date} + TimeValue(time) - LeadOf(leadTime)));
     return {alarm, BooleanText(false), day, day, alarm};
 }
 
-Moment WithinCalendar(Moment moment) {
+Moment RequireStorable(Moment moment) {
     if (moment < FirstMoment || moment >= BeyondLastMoment) {
         throw RunTimeError("Overflow", std::to_string(moment.time_since_epoch().count()));
     }

@@ -27,6 +27,6 @@ struct EventReminderFields {
 // or the lead time has no number.
 EventReminderFields SetEventReminder(Date date, std::string_view time, std::string_view leadTime);
 
-// The moment as it is; raises the run-time error where it falls outside the years 100 to 9999, which no
-// stored text holds.
-Moment WithinCalendar(Moment moment);
+// The moment as it is; raises the run-time error where it falls outside the years that a stored
+// date can have.
+Moment RequireStorable(Moment moment);

@@ -5,14 +5,12 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "planner/DateHelpers.h"
+#include "planner/MonthGrid.h"
 #include "planner/RowLook.h"
 #include "planner/RowOrder.h"
+#include "planner/SeriesRule.h"
 
 namespace {
-
-// A date in place of that of a task that has none, behind all others in either direction.
-constexpr Date LatestDate{std::chrono::year{3100} / 12 / 31};
-constexpr Date EarliestDate{std::chrono::year{1600} / 1 / 1};
 
 // --- What a column's texts are for each row ---
 
@@ -181,7 +179,7 @@ RowOrder EventOrder(SortOrder order) {
                              [&](int row) { return MinuteOfDay(store.time.Item(EventRows.Item(row))); });
     case EventColumn::Recurrence: {
         const std::string_view sentinel = Sentinel(direction, "z", "a");
-        return OrderByText(rows, direction, Replacing("None", sentinel, field(store.recurrence)));
+        return OrderByText(rows, direction, Replacing(NoRecurrence, sentinel, field(store.recurrence)));
     }
     }
     return {};

@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
+#include "planner/SeriesRule.h"
 
 void AddEvent(const EventLists& values) {
     const std::string id = std::to_string(NextId(NextEventID));
@@ -28,7 +29,7 @@ void ReplaceEvent(int index, const EventLists& values, bool deleteExceptions) {
 
 void ReplaceOccurrence(int index, Date date, const EventLists& values) {
     EventLists child = values;
-    child.recurrence.Replace(1, "None");
+    child.recurrence.Replace(1, std::string(NoRecurrence));
     child.exceptions.Replace(1, {});
     child.parent_id.Replace(1, Store.EventRecord.id.Item(index));
     AddEvent(child); // first, since where the ids have run out the series stays as it is

@@ -1,6 +1,7 @@
 // The recurrence fields of an event, read once into plain values, and the days of a month that they name.
 #include "planner/SeriesRule.h"
 
+#include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/DateHelpers.h"
@@ -26,11 +27,11 @@ Rank RankIn(std::string_view text) {
 }
 
 int WeekdayIn(std::string_view text) {
-    return std::min(PlaceIn(WeekdayTexts, text) + 1, DaysInWeek);
+    return std::min(PlaceIn(WeekdayNames, text) + 1, DaysPerWeek);
 }
 
 unsigned WeekdaysIn(std::string_view pattern) {
-    constexpr std::array<int, DaysInWeek> weekdayOfLetter{2, 3, 4, 5, 6, 7, 1};
+    constexpr std::array<int, DaysPerWeek> weekdayOfLetter{2, 3, 4, 5, 6, 7, 1};
     unsigned weekdays = 0;
     for (std::size_t letter = 0; letter < std::min(pattern.size(), weekdayOfLetter.size()); ++letter) {
         if (pattern[letter] == 'T') {
@@ -42,6 +43,15 @@ unsigned WeekdaysIn(std::string_view pattern) {
 
 bool HasWeekday(unsigned weekdays, int weekdayNumber) {
     return (weekdays >> weekdayNumber & 1U) != 0;
+}
+
+bool IsSeries(int index) {
+    return Store.EventRecord.recurrence.Item(index) != NoRecurrence;
+}
+
+Date EndDate(int index) {
+    const EventLists& events = Store.EventRecord;
+    return IsTrue(events.end.Item(index)) ? DateValue(events.end_date.Item(index)) : LastStoredDate;
 }
 
 SeriesRule ReadSeriesRule(int index) {
@@ -65,23 +75,13 @@ SeriesRule ReadSeriesRule(int index) {
 }
 
 int FirstDayOfRank(Rank rank, int daysInMonth) {
-    const int past = rank == Rank::Last ? daysInMonth - DaysInWeek : static_cast<int>(rank) * DaysInWeek;
+    const int past = rank == Rank::Last ? daysInMonth - DaysPerWeek : static_cast<int>(rank) * DaysPerWeek;
     return past + 1;
 }
 
 Date RankDay(std::chrono::year_month month, Rank rank, int weekdayNumber) {
-    const Date first{month / 1};
-    const int daysInMonth = DayDiff(first, LastDayOf(month)) + 1;
-    const Date firstOfRank = first + std::chrono::days{FirstDayOfRank(rank, daysInMonth) - 1};
-    const int ahead = (weekdayNumber - WeekdayNumber(firstOfRank) + DaysInWeek) % DaysInWeek;
+    const int firstDay = FirstDayOfRank(rank, DaysInMonth(month));
+    const Date firstOfRank{month / firstDay};
+    const int ahead = (weekdayNumber - WeekdayNumber(firstOfRank) + DaysPerWeek) % DaysPerWeek;
     return firstOfRank + std::chrono::days{ahead};
-}
-
-Date LastDayOf(std::chrono::year_month month) {
-    return Date{month / std::chrono::last};
-}
-
-std::chrono::year_month MonthOf(Date date) {
-    const std::chrono::year_month_day parts{date};
-    return parts.year() / parts.month();
 }

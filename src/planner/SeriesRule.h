@@ -6,18 +6,14 @@
 #include <array>
 #include <string_view>
 
-inline constexpr int DaysInWeek = 7;
-inline constexpr int MonthsInYear = 12;
+// The text of `recurrence` of a single event.
+inline constexpr std::string_view NoRecurrence = "None";
 
 // The texts of `recurrence` and of `repeat_number`, in the order of the two enums below.
-inline constexpr std::array<std::string_view, 4> RecurrenceTexts{"None", "Day", "Month", "Year"};
+inline constexpr std::array<std::string_view, 4> RecurrenceTexts{NoRecurrence, "Day", "Month", "Year"};
 inline constexpr std::array<std::string_view, 5> RankTexts{"First", "Second", "Third", "Fourth", "Last"};
 
-// The texts of `repeat_day` that name a weekday; the first has the weekday number 1.
-inline constexpr std::array<std::string_view, DaysInWeek> WeekdayTexts{
-    "Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
-
-// The text of `repeat_day` where the days of the month are counted.
+// The text of `repeat_day` where the days of the month are counted; any other names a weekday.
 inline constexpr std::string_view DayOfMonthText = "Day";
 
 // What `recurrence` says. A weekly event is a Day with some of the days of the week set.
@@ -50,6 +46,13 @@ bool HasWeekday(unsigned weekdays, int weekdayNumber);
 // The weekday number that the text of `repeat_day` stands for: Sunday 1 to Friday 6, any other text 7.
 int WeekdayIn(std::string_view text);
 
+// True when the event at the position repeats; false when it is a single one.
+bool IsSeries(int index);
+
+// The last date on which the series at the position can happen: where it has no end, the last that a text can
+// hold. Raises the run-time error where `end` is no boolean, or `end_date` is read and no date.
+Date EndDate(int index);
+
 // Reads the fields that the event's recurrence looks at and no others; raises the run-time error where a
 // `same_date` among them is no boolean.
 SeriesRule ReadSeriesRule(int index);
@@ -60,7 +63,3 @@ int FirstDayOfRank(Rank rank, int daysInMonth);
 
 // The day of the rank that falls on the weekday. Not for Unlisted.
 Date RankDay(std::chrono::year_month month, Rank rank, int weekdayNumber);
-
-Date LastDayOf(std::chrono::year_month month);
-
-std::chrono::year_month MonthOf(Date date);

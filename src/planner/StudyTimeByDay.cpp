@@ -77,7 +77,7 @@ void SumUp(LaterStudy& later) {
         return;
     }
     for (std::size_t day = 0; day < AlertStudy.values.size(); ++day) {
-        later.weeklyChange[day] += day < DaysInWeek ? 0 : later.weeklyChange[day - DaysInWeek];
+        later.weeklyChange[day] += day < DaysPerWeek ? 0 : later.weeklyChange[day - DaysPerWeek];
         AddMinutes(day, later.weeklyChange[day]);
     }
     std::ranges::fill(later.weeklyChange, 0);
@@ -124,31 +124,29 @@ std::size_t FirstRegularDay(int index) {
 }
 
 // The last day on which the event can occur.
-std::size_t LastDayOf(int index) {
-    const EventLists& events = Store.EventRecord;
-    const Date last = AlertDays.values.back();
-    const Date end = IsTrue(events.end.Item(index)) ? DateValue(events.end_date.Item(index)) : last;
-    return static_cast<std::size_t>(DayDiff(AlertDays.values.front(), std::min(last, end)));
+std::size_t LastDayOfEvent(int index) {
+    const Date last = std::min(AlertDays.values.back(), EndDate(index));
+    return static_cast<std::size_t>(DayDiff(AlertDays.values.front(), last));
 }
 
 // Adds the study of the event on all days from the given one on, its weeks being alike.
 void AddWeeks(LaterStudy& later, int index, std::size_t first) {
-    DayBits occurring = OccurringDays(FactsFrom(later, first, DaysInWeek), index);
+    DayBits occurring = OccurringDays(FactsFrom(later, first, DaysPerWeek), index);
     if (occurring == 0) {
         return;
     }
     const double length = LengthOf(index);
-    const std::size_t last = LastDayOf(index);
+    const std::size_t last = LastDayOfEvent(index);
     for (; occurring != 0; occurring &= occurring - 1) {
         std::size_t day = first + static_cast<std::size_t>(std::countr_zero(occurring));
         if (IsWhole(length)) {
-            const std::size_t weeks = (last - day) / DaysInWeek + 1;
+            const std::size_t weeks = (last - day) / DaysPerWeek + 1;
             later.weeklyChange[day] += static_cast<int>(length);
-            later.weeklyChange[day + weeks * DaysInWeek] -= static_cast<int>(length);
+            later.weeklyChange[day + weeks * DaysPerWeek] -= static_cast<int>(length);
             later.summedUp = false;
             continue;
         }
-        for (SumUp(later); day <= last; day += DaysInWeek) {
+        for (SumUp(later); day <= last; day += DaysPerWeek) {
             AddMinutes(day, length);
         }
     }
@@ -184,7 +182,7 @@ void StudyTimeByDay(Date today) {
     }
     LaterStudy later;
     later.facts.reserve(AlertDays.values.size());
-    later.weeklyChange.resize(AlertDays.values.size() + DaysInWeek);
+    later.weeklyChange.resize(AlertDays.values.size() + DaysPerWeek);
     for (const int index : sessions) {
         AddStudyOfLaterDays(later, index);
     }

@@ -10,6 +10,7 @@
 #include "core/Values.h"
 #include "persistence/modIO.h"
 #include "planner/DateHelpers.h"
+#include "planner/SeriesRule.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
 #include "support/TemporaryDrive.h"
@@ -70,10 +71,6 @@ protected:
     std::filesystem::path laidOut = drive.root / "drive";
     PreferenceValues preferences;
 };
-
-inline bool IsSeries(int event) {
-    return Store.EventRecord.recurrence.Item(event) != "None";
-}
 
 // How many positions of a list hold for the question.
 template <class Question>

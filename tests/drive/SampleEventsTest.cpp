@@ -64,7 +64,7 @@ TEST_P(SampleEventsTest, EverySeriesBeginsOnADayOfItsPattern) {
         } else if (rule.recurrence != Recurrence::None && !rule.sameDate) {
             const year_month_day parts{first};
             const year_month month{parts.year(), parts.month()};
-            EXPECT_EQ(first, rule.countsDays ? LastDayOf(month) : RankDay(month, rule.rank, rule.weekday))
+            EXPECT_EQ(first, rule.countsDays ? LastOfMonth(month) : RankDay(month, rule.rank, rule.weekday))
                 << lists.desc.Item(i);
         }
         EXPECT_GE(DateValue(lists.end_date.Item(i)), IsSeries(i) ? first : Date{}) << lists.desc.Item(i);

@@ -19,7 +19,7 @@ CalendarMonth October(CalendarMonth month = {}, bool calendarMode = false) {
     return month;
 }
 
-CalendarMonth MonthOf(Date clicked, Date today = Date{2009y / 10 / 14}) {
+CalendarMonth CalendarOf(Date clicked, Date today = Date{2009y / 10 / 14}) {
     CalendarMonth month;
     ComputeMonthCells(month, clicked, today, "Sunday", false);
     return month;
@@ -132,13 +132,13 @@ TEST(MonthCells, InOtherModesTheCountersDoNotColor) {
 TEST(MonthCells, TodayIsFlaggedInItsMonthAlone) {
     EXPECT_TRUE(October().CellToday[Cell14]);
     EXPECT_EQ(CountTrue(October().CellToday), 1);
-    EXPECT_EQ(CountTrue(MonthOf(Date{2009y / 11 / 1}, Date{2009y / 10 / 31}).CellToday),
+    EXPECT_EQ(CountTrue(CalendarOf(Date{2009y / 11 / 1}, Date{2009y / 10 / 31}).CellToday),
               0); // a grey cell of November
-    EXPECT_EQ(CountTrue(MonthOf(Date{2009y / 9 / 1}, Date{2009y / 10 / 1}).CellToday), 0);
+    EXPECT_EQ(CountTrue(CalendarOf(Date{2009y / 9 / 1}, Date{2009y / 10 / 1}).CellToday), 0);
 }
 
 TEST(MonthCells, NoGreyCellIsSelected) {
-    const CalendarMonth month = MonthOf(Date{2009y / 10 / 29});
+    const CalendarMonth month = CalendarOf(Date{2009y / 10 / 29});
     EXPECT_EQ(month.CellText[2], "29"); // of September
     EXPECT_FALSE(month.CellSelected[2]);
     EXPECT_EQ(CountTrue(month.CellSelected), 1);
@@ -155,7 +155,7 @@ TEST(MonthCells, AnotherClickMovesTheSelection) {
 }
 
 TEST(MonthCells, TheTargetsOfTheControlsStandBehindTheCells) {
-    const CalendarMonth month = MonthOf(Date{2009y / 12 / 31}, Date{2009y / 10 / 14});
+    const CalendarMonth month = CalendarOf(Date{2009y / 12 / 31}, Date{2009y / 10 / 14});
     EXPECT_EQ(month.CellDate[42], Date{2009y / 10 / 14}); // today
     EXPECT_EQ(month.CellDate[43], Date{2009y / 11 / 30}); // one month back
     EXPECT_EQ(month.CellDate[44], Date{2010y / 1 / 31});  // one month on
@@ -165,9 +165,9 @@ TEST(MonthCells, TheTargetsOfTheControlsStandBehindTheCells) {
 }
 
 TEST(MonthCells, OneMonthOnFrom31JanuaryIsTheLastOfFebruary) {
-    EXPECT_EQ(MonthOf(Date{2009y / 1 / 31}).CellDate[MonthOnEntry], Date{2009y / 2 / 28});
-    EXPECT_EQ(MonthOf(Date{2012y / 1 / 31}).CellDate[MonthOnEntry], Date{2012y / 2 / 29});
-    EXPECT_EQ(MonthOf(Date{2009y / 3 / 31}).CellDate[MonthBackEntry], Date{2009y / 2 / 28});
+    EXPECT_EQ(CalendarOf(Date{2009y / 1 / 31}).CellDate[MonthOnEntry], Date{2009y / 2 / 28});
+    EXPECT_EQ(CalendarOf(Date{2012y / 1 / 31}).CellDate[MonthOnEntry], Date{2012y / 2 / 29});
+    EXPECT_EQ(CalendarOf(Date{2009y / 3 / 31}).CellDate[MonthBackEntry], Date{2009y / 2 / 28});
 }
 
 TEST(MonthCells, TheWeekOfTheClickedDayIsKept) {
@@ -182,6 +182,6 @@ TEST(MonthCells, TheWeekOfTheClickedDayIsKept) {
 }
 
 TEST(MonthCells, TheLimitsOfTheCalendarHaveWholeGrids) {
-    EXPECT_EQ(MonthOf(EarliestDate).CellDate[0], Date{1599y / 12 / 26});
-    EXPECT_EQ(MonthOf(LatestDate).CellText[41], "5"); // 5 January 3101
+    EXPECT_EQ(CalendarOf(EarliestDate).CellDate[0], Date{1599y / 12 / 26});
+    EXPECT_EQ(CalendarOf(LatestDate).CellText[41], "5"); // 5 January 3101
 }

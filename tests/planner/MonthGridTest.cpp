@@ -31,8 +31,8 @@ int TableOffset(int weekdayNumber, std::string_view startDayOfWeek) {
 
 std::string Initials(std::string_view startDayOfWeek) {
     std::string initials;
-    for (const WeekdayHead& head : WeekdayHeads(startDayOfWeek)) {
-        initials += head.initial;
+    for (const std::string_view head : WeekdayHeads(startDayOfWeek)) {
+        initials += head.front();
     }
     return initials;
 }
@@ -147,9 +147,9 @@ TEST(MonthGrid, HeadsRunFromTheStartDay) {
     EXPECT_EQ(Initials("Sunday"), "SMTWTFS");
     EXPECT_EQ(Initials("Monday"), "MTWTFSS");
     EXPECT_EQ(Initials("Saturday"), "SSMTWTF");
-    EXPECT_EQ(WeekdayHeads("Monday")[0].name, "Monday");
-    EXPECT_EQ(WeekdayHeads("Monday")[6].name, "Sunday");
-    EXPECT_EQ(WeekdayHeads("Saturday")[1].name, "Sunday");
+    EXPECT_EQ(WeekdayHeads("Monday")[0], "Monday");
+    EXPECT_EQ(WeekdayHeads("Monday")[6], "Sunday");
+    EXPECT_EQ(WeekdayHeads("Saturday")[1], "Sunday");
 }
 
 TEST(MonthGrid, HeadsNameTheWeekdaysOfTheirColumns) {
@@ -159,7 +159,7 @@ TEST(MonthGrid, HeadsNameTheWeekdaysOfTheirColumns) {
         const auto cells = CellsOfMonth(Date{2009y / 10 / 14}, Date{2009y / 10 / 14}, start);
         for (std::size_t column = 0; column < 7; ++column) {
             const auto weekday = static_cast<std::size_t>(WeekdayNumber(cells[column].date) - 1);
-            EXPECT_EQ(WeekdayHeads(start)[column].name, Names[weekday]);
+            EXPECT_EQ(WeekdayHeads(start)[column], Names[weekday]);
         }
     }
 }

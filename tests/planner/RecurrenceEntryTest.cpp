@@ -1,5 +1,6 @@
 // The rank of a date in its month, and the captions made of it.
 #include "planner/RecurrenceEntry.h"
+#include "planner/DateHelpers.h"
 #include "planner/SeriesRule.h"
 
 #include <gtest/gtest.h>
@@ -87,7 +88,7 @@ TEST(RanksOfDates, LeadBackToTheirDate) {
         const std::chrono::year_month_day parts{date};
         const std::chrono::year_month month = parts.year() / parts.month();
         if (rank.day == "Day") {
-            ASSERT_EQ(LastDayOf(month), date);
+            ASSERT_EQ(LastOfMonth(month), date);
         } else {
             ASSERT_EQ(RankDay(month, RankIn(rank.number), WeekdayIn(rank.day)), date);
         }

@@ -2,6 +2,7 @@
 #include "support/ReminderStudent.h"
 
 #include "core/DateText.h"
+#include "planner/DateHelpers.h"
 #include "planner/DurationEntry.h"
 #include "planner/EventOccursOn.h"
 #include "planner/RecurrenceEntry.h"
@@ -31,7 +32,7 @@ EventTexts RandomEvent(Simulation& simulation) {
     const Moment moment = simulation.Soon();
     Date first = floor<days>(moment);
     if (simulation.Chance(40)) {
-        first = LastDayOf(MonthOf(first));
+        first = LastOfMonth(MonthOf(first));
     }
     EventTexts event{.date = StoredDate(first), .time = TimeText(moment)};
     event.recurrence = simulation.OneOf({"None", "Day", "Day", "Month", "Month", "Year"});

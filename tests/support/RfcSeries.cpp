@@ -13,7 +13,6 @@ using std::chrono::days;
 using std::chrono::year_month_day;
 
 constexpr int GreatestDayNumber = 28;
-constexpr int DaysInWeek = 7;
 constexpr std::array<const char*, 5> Ranks{"First", "Second", "Third", "Fourth", "Last"};
 
 // By weekday number, Sunday 1.
@@ -55,7 +54,7 @@ int LengthOfMonth(Date date) {
 void MakeWeekly(std::mt19937& random, RfcSeries& series) {
     std::string codes;
     series.event.recurrence = "Day";
-    for (int offset = 0; offset < DaysInWeek; ++offset) {
+    for (int offset = 0; offset < DaysPerWeek; ++offset) {
         const WeekdayWords& weekday = WeekdayOf(series.first + days{offset});
         if (offset == 0 || Heads(random)) {
             series.event.repeat_daily[weekday.letter] = 'T';
@@ -86,9 +85,9 @@ std::string MakeDayOfMonth(std::mt19937& random, RfcSeries& series) {
 
 std::string MakeRankedWeekday(std::mt19937& random, RfcSeries& series) {
     const int number = Number(series.first);
-    const bool isAmongLast = number > LengthOfMonth(series.first) - DaysInWeek;
+    const bool isAmongLast = number > LengthOfMonth(series.first) - DaysPerWeek;
     const bool last = number > GreatestDayNumber || (isAmongLast && Heads(random));
-    const int rank = last ? 5 : (number - 1) / DaysInWeek + 1;
+    const int rank = last ? 5 : (number - 1) / DaysPerWeek + 1;
     series.event.repeat_number = Ranks[static_cast<std::size_t>(rank) - 1];
     series.event.repeat_day = WeekdayOf(series.first).name;
     return "BYDAY=" + std::to_string(last ? -1 : rank) + WeekdayOf(series.first).code;
