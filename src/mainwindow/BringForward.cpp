@@ -1,22 +1,12 @@
 // The ways in which the main window appears and goes: at the start, for a second instance, from the tray, and
 // by the close box, which only hides it.
-#include "core/DateText.h"
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
+#include "planner/ReminderEngine.h"
+#include "planner/ReminderItems.h"
 #include "platform/Modal.h"
 
 #include <QCloseEvent>
-
-namespace {
-
-// The day of the occurrence whose reminder was shown.
-Date ReminderDayOfEvent(int position) {
-    const EventLists& events = Store.EventRecord;
-    const bool single = events.recurrence.Item(position) == "None";
-    return DateValue((single ? events.date : events.reminder_currentday).Item(position));
-}
-
-} // namespace
 
 void frmMain::ShowAtStart(const std::string& commandLine) {
     if (commandLine != "Startup Folder") {
@@ -60,14 +50,14 @@ void frmMain::OpenFromReminders() {
         return;
     }
     CalledFromReminders = false;
-    if (ReminderOpenMode == "Task") {
+    if (ReminderOpenMode == TaskMode) {
         ChooseMode(Mode::Tasks);
         EditTask(ReminderIndex);
-    } else if (ReminderOpenMode == "Homework") {
+    } else if (ReminderOpenMode == HomeworkMode) {
         ChooseMode(Mode::Homework);
         EditAssignment(ReminderIndex);
-    } else if (ReminderOpenMode == "Event") {
-        ClickedDate = ReminderDayOfEvent(ReminderIndex);
+    } else if (ReminderOpenMode == EventMode) {
+        ClickedDate = ReminderDayOf(ReminderIndex);
         SelectedDate = ClickedDate; // which the mode entry takes the clicked day from
         ShowEventMode();
         EditEvent(ReminderIndex);

@@ -3,6 +3,7 @@
 #include "mainwindow/DayLayout.h"
 #include "mainwindow/GridAccessible.h"
 #include "mainwindow/frmMain.h"
+#include "planner/ReminderItems.h"
 
 namespace {
 
@@ -88,9 +89,9 @@ void ClickList(frmMain& window, bool right) {
 void EditReminder(frmMain& window, int row) {
     const std::string& kind = ReminderRowKind.Item(row);
     const int index = ReminderRows.Item(row);
-    if (kind == "Homework") {
+    if (kind == HomeworkMode) {
         window.EditAssignment(index);
-    } else if (kind == "Task") {
+    } else if (kind == TaskMode) {
         window.EditTask(index);
     } else {
         window.ClickedDate = ReminderRowDate.Item(row);

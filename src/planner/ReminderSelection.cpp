@@ -9,6 +9,7 @@
 #include "planner/Colors.h"
 #include "planner/DateHelpers.h"
 #include "planner/EventWalk.h"
+#include "planner/ReminderItems.h"
 #include "planner/RowLook.h"
 
 namespace {
@@ -71,7 +72,7 @@ void SelectTaskReminders(Date day, bool taken) {
         ++ReminderTaskCount;
         if (taken) {
             const RowLook look = TaskTypeLook(tasks.type.Item(position));
-            AddRow({position, "Task", "", look.name, OrElse(tasks.desc.Item(position), NewTaskText), date},
+            AddRow({position, TaskMode, "", look.name, OrElse(tasks.desc.Item(position), NewTaskText), date},
                    look, day);
         }
     }
@@ -91,7 +92,7 @@ void SelectHomeworkReminders(Date day, bool taken) {
         ++ReminderHomeworkCount;
         if (taken) {
             const RowLook look = ClassLook(ClassPositionOf(classes, assignments.class_.Item(position)));
-            AddRow({position, "Homework", look.name, assignments.type.Item(position),
+            AddRow({position, HomeworkMode, look.name, assignments.type.Item(position),
                     OrElse(assignments.desc.Item(position), NewAssignmentText), date},
                    look, day);
         }
@@ -102,7 +103,7 @@ void AddEventReminderToList(const EventReminder& reminder, Date day) {
     const EventLists& events = Store.EventRecord;
     const std::string& type = events.type.Item(reminder.position);
     const RowLook look = EventTypeLook(type);
-    AddRow({reminder.position, "Event", IsClassMeeting(type) ? look.name : "", look.name,
+    AddRow({reminder.position, EventMode, IsClassMeeting(type) ? look.name : "", look.name,
             OrElse(events.desc.Item(reminder.position), NewEventText(type)), reminder.date},
            look, day);
 }
