@@ -20,12 +20,12 @@ void PutIntoTray(frmMain& window) {
                      [&window] {
                          window.ShowTrayMenu();
                          std::vector<std::string> captions;
-                         for (const PopupItem& item : window.mnuPopupItems) {
+                         for (const PopupItem& item : window.TrayItems) {
                              captions.push_back(item.caption);
                          }
                          return captions;
                      },
-                 .itemChosen = [&window](int index) { window.RunPopupCommand(index); }});
+                 .itemChosen = [&window](int index) { window.RunTrayCommand(index); }});
 }
 
 // A planner on a drive neither starts with the desktop session nor shows its folder. Both commands stay.

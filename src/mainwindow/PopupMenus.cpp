@@ -96,8 +96,21 @@ void OpenRowOf(frmMain& window, const std::string& subject, int row) {
     }
 }
 
+// A verb that is none does nothing.
+void RunTag(frmMain& window, const std::string& tag) {
+    const auto* const known = std::ranges::find(TagCommands, tag, &TagCommand::tag);
+    if (known != TagCommands.end()) {
+        return RunCommand(window, known->command);
+    }
+    const std::size_t blank = std::min(tag.find(' '), tag.size());
+    if (const auto row = IdIn(tag.substr(blank))) {
+        OpenRowOf(window, tag.substr(0, blank), *row);
+    }
+}
+
 // Shows the items where the last click or key wants them, and runs the one that is chosen.
 void ShowPopup(frmMain& window, const PopupItems& items) {
+    window.mnuPopupItems = items;
     QMenu& menu = *window.mnuPopup;
     menu.clear();
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -109,7 +122,6 @@ void ShowPopup(frmMain& window, const PopupItems& items) {
     }
     const QAction* chosen = menu.exec(window.PopupPoint);
     if (chosen != nullptr && !ShuttingDown) {
-        window.mnuPopupItems = items; // the tray may have built its own meanwhile
         window.RunPopupCommand(chosen->data().toInt());
     }
 }
@@ -165,17 +177,15 @@ void frmMain::ShowDayMenu(CalendarIcon icon) {
 }
 
 void frmMain::ShowTrayMenu() {
-    mnuPopupItems = ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(isVisible() && !isMinimized());
+    TrayItems = ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(isVisible() && !isMinimized());
 }
 
 void frmMain::RunPopupCommand(int index) {
-    const std::string tag = mnuPopupItems.at(static_cast<std::size_t>(index)).tag;
-    const auto* const known = std::ranges::find(TagCommands, tag, &TagCommand::tag);
-    if (known != TagCommands.end()) {
-        return RunCommand(*this, known->command);
-    }
-    const std::size_t blank = std::min(tag.find(' '), tag.size());
-    if (const auto row = IdIn(tag.substr(blank))) {
-        OpenRowOf(*this, tag.substr(0, blank), *row);
+    RunTag(*this, mnuPopupItems.at(static_cast<std::size_t>(index)).tag);
+}
+
+void frmMain::RunTrayCommand(int index) {
+    if (!ModalDialogIsOpen()) {
+        RunTag(*this, TrayItems.at(static_cast<std::size_t>(index)).tag);
     }
 }

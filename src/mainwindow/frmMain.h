@@ -310,6 +310,7 @@ public:
     // --- PopupMenus.cpp ---
     QMenu* mnuPopup = nullptr;
     PopupItems mnuPopupItems;
+    PopupItems TrayItems; // apart from those of the windows' menus, which come and go meanwhile
     void ShowCalendarMenu();
     void ShowHomeworkDayMenu();
     void ShowHomeworkListMenu();
@@ -319,11 +320,15 @@ public:
     void ShowEventDayMenu();
     void ShowDayMenu(CalendarIcon icon);
 
-    // Fills the popup items with the tray menu; with none while a modal dialog is open.
-    void ShowTrayMenu();
-
     // Runs the command of the popup item at the index, counted from 0.
     void RunPopupCommand(int index);
+
+    // Fills the tray's items; with none while a modal dialog is open.
+    void ShowTrayMenu();
+
+    // Runs the command of the tray's item at the index. A tray may show the menu that it was given last
+    // without asking again, also while a modal dialog is open: then nothing is run.
+    void RunTrayCommand(int index);
 
     // --- StatusBar.cpp, Alerts.cpp, StudyTimer.cpp ---
     void PaintStatusBar();

@@ -193,6 +193,18 @@ TEST_F(PopupMenus, TheTrayMayBuildItsMenuWhileAnotherIsOpen) {
     EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
 }
 
+// A tray may show a menu that it was given long ago.
+TEST_F(PopupMenus, TheTraysItemsKeepTheirCommandsWhateverMenuCameLater) {
+    window->ShowHomeworkMode();
+    window->HideWindows();
+    ASSERT_EQ(Script.trayEvents.menuWanted().at(2), "Open Planovarium...");
+    window->show();
+    MenuOfClick(Somewhere, Qt::RightButton, "See the Calendar...");
+    window->HideWindows();
+    Script.trayEvents.itemChosen(2);
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(PopupMenus, AVerbThatIsNoneDoesNothing) {
     window->ShowHomeworkMode();
     for (const char* tag : {"homework", "homework ", "homework dance", "task see", "", "lecture 1"}) {

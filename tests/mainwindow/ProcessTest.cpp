@@ -202,6 +202,15 @@ TEST_F(Process, TrayMenuIsEmptyWhileADialogIsOpen) {
     EXPECT_EQ(TrayMenu().size(), 3U);
 }
 
+TEST_F(Process, TrayItemsOfAnEarlierMenuDoNothingWhileADialogIsOpen) {
+    LoadWindow();
+    TrayMenu();
+    WhileEditorIsOpen([] {
+        Script.trayEvents.itemChosen(2);
+        EXPECT_FALSE(ShuttingDown);
+    });
+}
+
 TEST_F(Process, TrayMenuShutsThePlannerDown) {
     LoadWindow();
     TrayMenu();
