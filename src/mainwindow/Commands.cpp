@@ -1,7 +1,6 @@
 // The commands of the menu bar, the mode bar and the buttons, bound to their procedures.
 #include "core/Module1.h"
 #include "mainwindow/ModeTables.h"
-#include "mainwindow/MorningTime.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Process.h"
 
@@ -36,19 +35,15 @@ void BindModeChoices(frmMain& window) {
 
 void frmMain::BindCommands() {
     BindModeChoices(*this);
-    const auto newEvent = [this] {
-        EventClickedStartTime = MorningTime;
-        NewEvent();
-    };
     connect(MenuNewAssignment, &QAction::triggered, this, &frmMain::NewAssignment);
     connect(MenuNewTask, &QAction::triggered, this, &frmMain::NewTask);
-    connect(MenuNewEvent, &QAction::triggered, this, newEvent);
+    connect(MenuNewEvent, &QAction::triggered, this, &frmMain::NewMorningEvent);
     connect(ButtonNewAssignmentSmall, &QToolButton::clicked, this, &frmMain::NewAssignment);
     connect(ButtonNewTaskSmall, &QToolButton::clicked, this, &frmMain::NewTask);
-    connect(ButtonNewEventSmall, &QToolButton::clicked, this, newEvent);
+    connect(ButtonNewEventSmall, &QToolButton::clicked, this, &frmMain::NewMorningEvent);
     connect(ButtonNewAssignment, &QPushButton::clicked, this, &frmMain::NewAssignment);
     connect(ButtonNewTask, &QPushButton::clicked, this, &frmMain::NewTask);
-    connect(ButtonNewEvent, &QPushButton::clicked, this, newEvent);
+    connect(ButtonNewEvent, &QPushButton::clicked, this, &frmMain::NewMorningEvent);
     connect(MenuClassSchedule, &QAction::triggered, this, &frmMain::ClassSchedule);
     connect(ButtonSelectTerm, &QPushButton::clicked, this, [this] {
         ClassSchedule();

@@ -4,5 +4,10 @@
 void frmMain::NewEvent() {
 }
 
+void frmMain::NewMorningEvent() {
+    EventClickedStartTime = "9:00 AM";
+    NewEvent();
+}
+
 void frmMain::EditEvent(int /*index*/) {
 }

@@ -2,7 +2,6 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
-#include "mainwindow/MorningTime.h"
 #include "mainwindow/frmMain.h"
 #include "planner/EventSelection.h"
 #include "planner/HomeworkSelection.h"
@@ -79,8 +78,7 @@ void RunCommand(frmMain& window, PopupCommand command) {
     case PopupCommand::SeeTasks:
         return window.ShowTaskMode();
     case PopupCommand::NewEvent:
-        window.EventClickedStartTime = MorningTime;
-        return window.NewEvent();
+        return window.NewMorningEvent();
     case PopupCommand::SeeEvents:
         return window.ShowEventMode();
     }

@@ -343,6 +343,7 @@ public:
     void NewTask();
     void EditTask(int index);
     void NewEvent();
+    void NewMorningEvent(); // at nine o'clock, where no time was clicked
     void EditEvent(int index);
     void ClassSchedule();
 
