@@ -3,11 +3,10 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/frmAssignment.h"
-#include "mainwindow/FirstOpen.h"
+#include "mainwindow/RecordFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
 #include "platform/MessageBoxes.h"
-#include "platform/Modal.h"
 
 #include <QCoreApplication>
 
@@ -17,13 +16,9 @@ constexpr std::string_view NoTermQuestion = "There is no Term selected. Do you w
 constexpr std::string_view NoClassesQuestion =
     "This Term has no classes. Do you want to edit the Class Schedule?";
 
-struct EnteredField {
-    TextList AssignmentLists::*list;
-    std::string text;
-};
-
 // What the closed dialog has for each field of the record but its id.
-std::array<EnteredField, AssignmentFields.size() - 1> EnteredFields(const frmAssignment& dialog) {
+std::array<EnteredField<AssignmentLists>, AssignmentFields.size() - 1>
+EnteredFields(const frmAssignment& dialog) {
     return {{
         {&AssignmentLists::class_,
          dialog.tempAssignmentClassLinkArray.Item(dialog.ComboClassNameList->currentIndex() + 1)},
@@ -48,12 +43,7 @@ std::array<EnteredField, AssignmentFields.size() - 1> EnteredFields(const frmAss
 }
 
 // The dialog's fields that an assignment's record gives.
-struct FilledField {
-    std::string frmAssignment::*field;
-    TextList AssignmentLists::*list;
-};
-
-constexpr std::array<FilledField, AssignmentFields.size() - 2> FilledFields{{
+constexpr std::array<FilledField<frmAssignment, AssignmentLists>, AssignmentFields.size() - 2> FilledFields{{
     {&frmAssignment::tempAssignmentDate, &AssignmentLists::date},
     {&frmAssignment::tempAssignmentType, &AssignmentLists::type},
     {&frmAssignment::tempAssignmentPriority, &AssignmentLists::priority},
@@ -87,26 +77,6 @@ void GiveTerm(frmAssignment& dialog, std::string_view classId) {
     dialog.tempTermEndDate = ActiveTermEnd;
 }
 
-void ShowDialog(frmAssignment& dialog) {
-    dialog.Fill();
-    PlaceAtFirstOpen(dialog, AssignmentDBFirstOpen);
-    RunModally(dialog);
-}
-
-void AppendRecord(const frmAssignment& dialog) {
-    const auto fields = EnteredFields(dialog);
-    Store.Assignment.id.Add(std::to_string(NextId(NextAssignmentID)));
-    for (const EnteredField& field : fields) {
-        (Store.Assignment.*field.list).Add(field.text);
-    }
-}
-
-void ReplaceRecord(const frmAssignment& dialog, int index) {
-    for (const EnteredField& field : EnteredFields(dialog)) {
-        (Store.Assignment.*field.list).Replace(index, field.text);
-    }
-}
-
 } // namespace
 
 void frmMain::NewAssignment() {
@@ -122,11 +92,11 @@ void frmMain::NewAssignment() {
     frmAssignment& dialog = *AssignmentDialog;
     dialog.EditMode = "New";
     GiveTerm(dialog, {});
-    ShowDialog(dialog);
+    ShowDialog(dialog, AssignmentDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
-    AppendRecord(dialog);
+    AppendRecord(Store.Assignment, EnteredFields(dialog), NextAssignmentID);
     WriteAssignments();
     RefreshFor(ReasonNewRecord);
 }
@@ -135,10 +105,8 @@ void frmMain::EditAssignment(int index) {
     frmAssignment& dialog = *AssignmentDialog;
     dialog.EditMode = "Edit";
     GiveTerm(dialog, Store.Assignment.class_.Item(index));
-    for (const FilledField& filled : FilledFields) {
-        dialog.*filled.field = (Store.Assignment.*filled.list).Item(index);
-    }
-    ShowDialog(dialog);
+    GiveRecord(dialog, FilledFields, Store.Assignment, index);
+    ShowDialog(dialog, AssignmentDBFirstOpen);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
@@ -146,7 +114,7 @@ void frmMain::EditAssignment(int index) {
     if (dialog.DeleteFlag) {
         RemoveRecord(Store.Assignment, AssignmentFields, index);
     } else {
-        ReplaceRecord(dialog, index);
+        ReplaceRecord(Store.Assignment, EnteredFields(dialog), index);
     }
     WriteAssignments();
     RefreshFor(ReasonNewRecord);

@@ -3,21 +3,15 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/FrmTask.h"
-#include "mainwindow/FirstOpen.h"
+#include "mainwindow/RecordFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
-#include "platform/Modal.h"
 
 namespace {
 
-struct EnteredField {
-    TextList TaskLists::*list;
-    std::string text;
-};
-
 // What the closed dialog has for each field of the record but its id. A task without a deadline has the date
 // of the day on which it was last saved, and this is meant.
-std::array<EnteredField, TaskFields.size() - 1> EnteredFields(const FrmTask& dialog) {
+std::array<EnteredField<TaskLists>, TaskFields.size() - 1> EnteredFields(const FrmTask& dialog) {
     const bool deadline = dialog.CheckBoxDeadline->isChecked();
     return {{
         {&TaskLists::date, StoredDate(deadline ? DateValue(dialog.tempTaskDate) : Today())},
@@ -37,12 +31,7 @@ std::array<EnteredField, TaskFields.size() - 1> EnteredFields(const FrmTask& dia
 }
 
 // The dialog's fields that a task's record gives.
-struct FilledField {
-    std::string FrmTask::*field;
-    TextList TaskLists::*list;
-};
-
-constexpr std::array<FilledField, TaskFields.size() - 1> FilledFields{{
+constexpr std::array<FilledField<FrmTask, TaskLists>, TaskFields.size() - 1> FilledFields{{
     {&FrmTask::tempTaskDescription, &TaskLists::desc},
     {&FrmTask::tempTaskDateExists, &TaskLists::date_exists},
     {&FrmTask::tempTaskDate, &TaskLists::date},
@@ -58,36 +47,16 @@ constexpr std::array<FilledField, TaskFields.size() - 1> FilledFields{{
     {&FrmTask::tempTaskReminderList, &TaskLists::reminder_list},
 }};
 
-void ShowDialog(FrmTask& dialog) {
-    dialog.Fill();
-    PlaceAtFirstOpen(dialog, TaskDBFirstOpen);
-    RunModally(dialog);
-}
-
-void AppendRecord(const FrmTask& dialog) {
-    const auto fields = EnteredFields(dialog);
-    Store.TaskRecord.id.Add(std::to_string(NextId(NextTaskID)));
-    for (const EnteredField& field : fields) {
-        (Store.TaskRecord.*field.list).Add(field.text);
-    }
-}
-
-void ReplaceRecord(const FrmTask& dialog, int index) {
-    for (const EnteredField& field : EnteredFields(dialog)) {
-        (Store.TaskRecord.*field.list).Replace(index, field.text);
-    }
-}
-
 } // namespace
 
 void frmMain::NewTask() {
     FrmTask& dialog = *TaskDialog;
     dialog.EditMode = "New";
-    ShowDialog(dialog);
+    ShowDialog(dialog, TaskDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
-    AppendRecord(dialog);
+    AppendRecord(Store.TaskRecord, EnteredFields(dialog), NextTaskID);
     WriteTasks();
     RefreshFor(ReasonNewRecord);
 }
@@ -95,17 +64,15 @@ void frmMain::NewTask() {
 void frmMain::EditTask(int index) {
     FrmTask& dialog = *TaskDialog;
     dialog.EditMode = "Edit";
-    for (const FilledField& filled : FilledFields) {
-        dialog.*filled.field = (Store.TaskRecord.*filled.list).Item(index);
-    }
-    ShowDialog(dialog);
+    GiveRecord(dialog, FilledFields, Store.TaskRecord, index);
+    ShowDialog(dialog, TaskDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
     if (dialog.DeleteFlag) {
         RemoveRecord(Store.TaskRecord, TaskFields, index);
     } else {
-        ReplaceRecord(dialog, index);
+        ReplaceRecord(Store.TaskRecord, EnteredFields(dialog), index);
     }
     WriteTasks();
     RefreshFor(ReasonNewRecord);
