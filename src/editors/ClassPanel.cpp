@@ -165,23 +165,29 @@ void frmCourseSchedule::ValidateClassPanel() {
 
 // The term that the class belongs to is set as the whole term is saved.
 void frmCourseSchedule::SaveClass() {
-    const std::string name = TextOf(TextBoxClassName);
-    const std::string credits = TextOf(TextBoxCredits);
-    const std::string notes = TextOf(TextBoxNotes);
-    if (ClassEditMode == "Add") {
+    struct Entry {
+        TextList& list;
+        std::string text;
+    };
+
+    const std::array<Entry, ClassDialogFields.size() - 1> entries{{
+        {tempClassNameArray, TextOf(TextBoxClassName)},
+        {tempClassCreditsArray, TextOf(TextBoxCredits)},
+        {tempClassNotesArray, TextOf(TextBoxNotes)},
+        {tempClassForeColorArray, classForeColor},
+        {tempClassBackColorArray, classBackColor},
+    }};
+    const bool added = ClassEditMode == "Add";
+    if (added) {
         tempClassIDArray.Add(std::to_string(NextId(NextClassID)));
-        tempClassNameArray.Add(name);
-        tempClassCreditsArray.Add(credits);
-        tempClassNotesArray.Add(notes);
-        tempClassForeColorArray.Add(classForeColor);
-        tempClassBackColorArray.Add(classBackColor);
-        return;
     }
-    tempClassNameArray.Replace(SelectedClassIndex, name);
-    tempClassCreditsArray.Replace(SelectedClassIndex, credits);
-    tempClassNotesArray.Replace(SelectedClassIndex, notes);
-    tempClassForeColorArray.Replace(SelectedClassIndex, classForeColor);
-    tempClassBackColorArray.Replace(SelectedClassIndex, classBackColor);
+    for (const Entry& entry : entries) {
+        if (added) {
+            entry.list.Add(entry.text);
+        } else {
+            entry.list.Replace(SelectedClassIndex, entry.text);
+        }
+    }
 }
 
 bool frmCourseSchedule::DeleteConfirmed() const {
@@ -202,9 +208,8 @@ void frmCourseSchedule::DeleteClass() {
     if (OriginalClassName.empty() || !DeleteConfirmed()) {
         return;
     }
-    for (TextList* list : {&tempClassIDArray, &tempClassNameArray, &tempClassCreditsArray,
-                           &tempClassNotesArray, &tempClassForeColorArray, &tempClassBackColorArray}) {
-        list->Remove(SelectedClassIndex);
+    for (const ClassField& field : ClassDialogFields) {
+        (this->*field.list).Remove(SelectedClassIndex);
     }
     ResetClassPanel();
     ChangeFlag = true;

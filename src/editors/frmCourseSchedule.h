@@ -3,7 +3,7 @@
 // records.
 #pragma once
 
-#include "core/TextList.h"
+#include "core/Records.h"
 #include "editors/DatePicker.h"
 #include "editors/EditorParts.h"
 
@@ -73,6 +73,22 @@ private:
     // The colours of the class being edited, as the store has them.
     std::string classForeColor, classBackColor;
 };
+
+// A list of the dialog's classes and that of the records' field in it.
+struct ClassField {
+    TextList frmCourseSchedule::*list;
+    TextList ClassLists::*record;
+};
+
+// All fields but the class's term, which is known only as the whole term is saved.
+inline constexpr std::array<ClassField, ClassFields.size() - 1> ClassDialogFields{{
+    {&frmCourseSchedule::tempClassIDArray, &ClassLists::id},
+    {&frmCourseSchedule::tempClassNameArray, &ClassLists::name},
+    {&frmCourseSchedule::tempClassCreditsArray, &ClassLists::credits},
+    {&frmCourseSchedule::tempClassForeColorArray, &ClassLists::forecolor},
+    {&frmCourseSchedule::tempClassBackColorArray, &ClassLists::backcolor},
+    {&frmCourseSchedule::tempClassNotesArray, &ClassLists::notes},
+}};
 
 // The one dialog, from the load of the main window on, which owns it.
 extern frmCourseSchedule* TermDialog;

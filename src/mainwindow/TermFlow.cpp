@@ -47,23 +47,17 @@ bool ShowChooser() {
 }
 
 void CopyClass(frmCourseSchedule& dialog, int position) {
-    const ClassLists& classes = Store.ClassRecord;
-    dialog.tempClassIDArray.Add(classes.id.Item(position));
-    dialog.tempClassTermLinkArray.Add(classes.term.Item(position));
-    dialog.tempClassNameArray.Add(classes.name.Item(position));
-    dialog.tempClassCreditsArray.Add(classes.credits.Item(position));
-    dialog.tempClassForeColorArray.Add(classes.forecolor.Item(position));
-    dialog.tempClassBackColorArray.Add(classes.backcolor.Item(position));
-    dialog.tempClassNotesArray.Add(classes.notes.Item(position));
+    dialog.tempClassTermLinkArray.Add(Store.ClassRecord.term.Item(position));
+    for (const ClassField& field : ClassDialogFields) {
+        (dialog.*field.list).Add((Store.ClassRecord.*field.record).Item(position));
+    }
 }
 
 // Gives the dialog the term and its classes; an id without a record gives an empty term of today.
 void PrepareTermEditor(frmCourseSchedule& dialog, int id) {
-    for (TextList* list :
-         {&dialog.tempClassIDArray, &dialog.tempClassTermLinkArray, &dialog.tempClassNameArray,
-          &dialog.tempClassCreditsArray, &dialog.tempClassForeColorArray, &dialog.tempClassBackColorArray,
-          &dialog.tempClassNotesArray}) {
-        list->Clear();
+    dialog.tempClassTermLinkArray.Clear();
+    for (const ClassField& field : ClassDialogFields) {
+        (dialog.*field.list).Clear();
     }
     dialog.tempTermID = std::to_string(id);
     dialog.tempTermName.clear();
@@ -109,15 +103,11 @@ void AddTermRecords(const frmCourseSchedule& dialog, int id) {
     Store.Term.name.Add(RightTrimmed(TextOf(dialog.TextBoxTermName)));
     Store.Term.start.Add(StoredDate(DateValue(RightTrim(dialog.tempTermStart))));
     Store.Term.end.Add(StoredDate(DateValue(RightTrim(dialog.tempTermEnd))));
-    ClassLists& classes = Store.ClassRecord;
     for (int row = 1; row <= dialog.tempClassIDArray.Count(); ++row) {
-        classes.id.Add(RightTrimmed(dialog.tempClassIDArray.Item(row)));
-        classes.term.Add(std::to_string(id));
-        classes.name.Add(RightTrimmed(dialog.tempClassNameArray.Item(row)));
-        classes.credits.Add(RightTrimmed(dialog.tempClassCreditsArray.Item(row)));
-        classes.forecolor.Add(RightTrimmed(dialog.tempClassForeColorArray.Item(row)));
-        classes.backcolor.Add(RightTrimmed(dialog.tempClassBackColorArray.Item(row)));
-        classes.notes.Add(RightTrimmed(dialog.tempClassNotesArray.Item(row)));
+        Store.ClassRecord.term.Add(std::to_string(id));
+        for (const ClassField& field : ClassDialogFields) {
+            (Store.ClassRecord.*field.record).Add(RightTrimmed((dialog.*field.list).Item(row)));
+        }
     }
 }
 
