@@ -4,6 +4,8 @@
 
 #include "platform/InstanceLink.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PictureBox.h"
+#include "platform/WindowColors.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -16,9 +18,8 @@ constexpr QSize SplashSize{420, 220};
 constexpr QRect IconPlace{40, 60, 96, 96};
 constexpr QRect NamePlace{160, 70, 240, 44};
 constexpr QRect TitlePlace{160, 116, 240, 30};
-constexpr QColor Ground{0x39, 0x42, 0x5A};
-constexpr QColor Name{0xFF, 0xFF, 0xFF};
-constexpr QColor Subtitle{0xC6, 0xD2, 0xE4};
+constexpr int NameColor = 0xFFFFFF;  // 0xBBGGRR
+constexpr int TitleColor = 0xE4D2C6; // 0xBBGGRR
 
 QFont SplashFont(double points, bool bold) {
     QFont font(QStringLiteral("Verdana"));
@@ -54,12 +55,12 @@ void frmSplash::HandOver() {
 
 void frmSplash::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), Ground);
+    painter.fillRect(rect(), ToQColor(BarColor));
     QIcon(QStringLiteral(":/icons/planovarium.svg")).paint(&painter, IconPlace);
-    painter.setPen(Name);
+    painter.setPen(ToQColor(NameColor));
     painter.setFont(SplashFont(20, true));
     painter.drawText(NamePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Planovarium"));
-    painter.setPen(Subtitle);
+    painter.setPen(ToQColor(TitleColor));
     painter.setFont(SplashFont(11, false));
     painter.drawText(TitlePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Homework System"));
 }

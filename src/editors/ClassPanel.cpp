@@ -117,10 +117,8 @@ void frmCourseSchedule::EditClass() {
 
 // The name stands in the colours in which the class is shown everywhere.
 void frmCourseSchedule::ShowClassColors() {
-    QPalette colors = TextBoxClassName->palette();
-    colors.setColor(QPalette::Base, ToQColor(ToColor(classBackColor)));
-    colors.setColor(QPalette::Text, ToQColor(ToColor(classForeColor)));
-    TextBoxClassName->setPalette(colors);
+    SetColor(TextBoxClassName, QPalette::Base, ToColor(classBackColor));
+    SetColor(TextBoxClassName, QPalette::Text, ToColor(classForeColor));
 }
 
 // A field that still has the focus is validated first, as it would be in losing it.

@@ -1,6 +1,6 @@
 // How the panel of the date picker is put together.
 #include "editors/DatePicker.h"
-#include "mainwindow/WindowStyle.h"
+#include "platform/WindowColors.h"
 
 #include <QGridLayout>
 
@@ -13,19 +13,10 @@ constexpr QSize DayButtonSize{80, 22};
 constexpr int RepeatMilliseconds = 300;
 constexpr int GuardMilliseconds = 100;
 
-void SetGround(QWidget* widget, const QColor& ground, const QColor& edge) {
-    QPalette colors = widget->palette();
-    colors.setColor(QPalette::Window, ground);
-    colors.setColor(QPalette::WindowText, edge);
-    widget->setPalette(colors);
+void SetGround(QWidget* widget, int ground, int edge) {
+    SetColor(widget, QPalette::Window, ground);
+    SetColor(widget, QPalette::WindowText, edge);
     widget->setAutoFillBackground(true);
-}
-
-// The panel's own text colour is that of its edge.
-void SetTextColor(QWidget* label, const QColor& color) {
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, color);
-    label->setPalette(colors);
 }
 
 } // namespace
@@ -46,7 +37,7 @@ void DatePicker::SetupCalendar() {
     grid->addWidget(LabelCalDayBG, 1, 0, 1, DaysPerWeek);
     BuildDayLabels(grid, 1, LabelCalDay, LabelCalDate);
     for (ClickLabel* head : LabelCalDay) {
-        SetTextColor(head, TextColor);
+        SetLabelForeColor(head, TextColor); // the panel's own is that of its edge
     }
     LabelCalTileBorder = new TileBorder(this);
     auto* buttons = new QHBoxLayout;
@@ -72,7 +63,7 @@ QWidget* DatePicker::BuildMonthName() {
     picCalMonthDown = BuildMonthButton(LabelCalMonthDown, false);
     picCalMonthUp = BuildMonthButton(LabelCalMonthUp, true);
     LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
-    SetTextColor(LabelMonth, TextColor);
+    SetLabelForeColor(LabelMonth, TextColor);
     row->addWidget(picCalMonthDown);
     row->addWidget(LabelMonth, 1);
     row->addWidget(picCalMonthUp);

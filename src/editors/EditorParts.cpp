@@ -90,12 +90,6 @@ QString LinesOf(const QPlainTextEdit* box) {
     return text;
 }
 
-void SetRoleColor(QWidget* widget, QPalette::ColorRole role, int color) {
-    QPalette colors = widget->palette();
-    colors.setColor(role, ToQColor(color));
-    widget->setPalette(colors);
-}
-
 } // namespace
 
 void LimitToSet(QLineEdit* box) {
@@ -198,13 +192,5 @@ void SetHelpTopics(std::initializer_list<HelpNumber> numbers) {
 
 void SetBackColor(QWidget* widget, int color) {
     widget->setAutoFillBackground(true);
-    SetRoleColor(widget, widget->backgroundRole(), color); // that of a check box is not that of a panel
-}
-
-void SetTextColor(QWidget* widget, int color) {
-    SetRoleColor(widget, QPalette::WindowText, color);
-}
-
-void SetBoxColor(QLineEdit* box, int backcolor) {
-    SetRoleColor(box, QPalette::Base, backcolor);
+    SetColor(widget, widget->backgroundRole(), color); // that of a check box is not that of a panel
 }

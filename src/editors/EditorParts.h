@@ -86,11 +86,8 @@ struct HelpNumber {
 
 void SetHelpTopics(std::initializer_list<HelpNumber> numbers);
 
-// --- Colours, 0xBBGGRR -------------------------------------------------------------------------------------
-
-void SetBackColor(QWidget* widget, int color);   // behind a label, a check box or a panel
-void SetTextColor(QWidget* widget, int color);   // of a label or a check box
-void SetBoxColor(QLineEdit* box, int backcolor); // of a text box
+// Gives a label, a check box or a panel its ground, 0xBBGGRR.
+void SetBackColor(QWidget* widget, int color);
 
 // --- The done box and the percent --------------------------------------------------------------------------
 

@@ -8,6 +8,8 @@
 #include "planner/ComboRows.h"
 #include "planner/ReminderEntry.h"
 #include "platform/MessageBoxes.h"
+#include "platform/PictureBox.h"
+#include "platform/WindowColors.h"
 
 #include <QCloseEvent>
 
@@ -16,7 +18,6 @@ namespace {
 // 0xBBGGRR
 constexpr int ColorBoxNotDone = 0x2D52A0;
 constexpr int ColorBoxDone = 0x008000;
-constexpr int ColorReminderStrip = 0x5A4239; // that of the mode bar
 constexpr int ColorReminderOff = 0xC0C0C0;
 constexpr int ColorReminderOn = 0xFFFFFF;
 
@@ -35,7 +36,7 @@ void SetDone(const DoneControls& controls, bool done) {
     for (QWidget* colored : {static_cast<QWidget*>(controls.box), controls.ground}) {
         SetBackColor(colored, done ? ColorBoxDone : ColorBoxNotDone);
     }
-    SetTextColor(controls.box, ColorWhite);
+    SetColor(controls.box, QPalette::WindowText, ColorWhite);
 }
 
 void PercentFollowsDone(const DoneControls& controls) {
@@ -50,8 +51,8 @@ void ValidatePercentEntry(const DoneControls& controls) {
 }
 
 void SetupReminder(const ReminderControls& controls) {
-    SetBackColor(controls.strip, ColorReminderStrip);
-    SetTextColor(controls.box, ColorWhite);
+    SetBackColor(controls.strip, BarColor);
+    SetColor(controls.box, QPalette::WindowText, ColorWhite);
     SetupTypedCombo(controls.time);
     AddRows(controls.time, TimeOfDayRows());
     SetupDateButton(controls.button);
@@ -60,8 +61,8 @@ void SetupReminder(const ReminderControls& controls) {
 void PaintReminder(const ReminderControls& controls) {
     const bool on = controls.box->isChecked();
     const int color = on ? ColorReminderOn : ColorReminderOff;
-    SetTextColor(controls.dateLabel, color);
-    SetTextColor(controls.timeLabel, color);
+    SetColor(controls.dateLabel, QPalette::WindowText, color);
+    SetColor(controls.timeLabel, QPalette::WindowText, color);
     SetBackColor(controls.ground, color);
     for (QWidget* input : {static_cast<QWidget*>(controls.date), static_cast<QWidget*>(controls.button),
                            static_cast<QWidget*>(controls.time)}) {

@@ -190,7 +190,7 @@ void frmAssignment::FillDates(Date date, Date reminderDate) {
 // Work is finished by the done box or the percent, also where the time left says otherwise.
 void frmAssignment::ShowTimeLeft(std::string_view text) {
     const bool finished = CheckBoxDone->isChecked() || IsComplete(Done());
-    SetBoxColor(TextBoxTimeLeft, finished ? ColorFinished : ColorWorkLeft);
+    SetColor(TextBoxTimeLeft, QPalette::Base, finished ? ColorFinished : ColorWorkLeft);
     ShowText(TextBoxTimeLeft, text);
 }
 
@@ -204,8 +204,8 @@ void frmAssignment::UpdateGrade() {
     ShowText(TextBoxPercentage, grade.percentage);
     ShowText(TextBoxGrade, grade.letter);
     const int color = grade.letter.empty() ? ColorNoGrade : ColorBlack;
-    SetTextColor(LabelPercent, color);
-    SetTextColor(LabelGrade, color);
+    SetColor(LabelPercent, QPalette::WindowText, color);
+    SetColor(LabelGrade, QPalette::WindowText, color);
 }
 
 void frmAssignment::PercentClicked() {

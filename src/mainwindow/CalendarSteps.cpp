@@ -1,9 +1,9 @@
 // The controls of the small calendar: days, steppers held down, today and tomorrow, the first day of the
 // week. In Reminders mode none of them reacts.
-#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
 #include "platform/Text.h"
+#include "platform/WindowColors.h"
 
 #include <QActionGroup>
 
@@ -45,9 +45,7 @@ void PaintHead(ClickLabel* head, std::string_view day, bool reacts) {
     QFont font = head->font();
     font.setUnderline(reacts);
     head->setFont(font);
-    QPalette colors = head->palette();
-    colors.setColor(QPalette::WindowText, reacts ? AccentColor : TextColor);
-    head->setPalette(colors);
+    SetColor(head, QPalette::WindowText, reacts ? AccentColor : TextColor);
 }
 
 void ShowStepper(const frmMain& window, const Stepper& stepper, const char* state) {

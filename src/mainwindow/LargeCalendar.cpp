@@ -4,6 +4,7 @@
 #include "mainwindow/frmMain.h"
 #include "planner/DateTitles.h"
 #include "platform/Text.h"
+#include "platform/WindowColors.h"
 
 namespace {
 
@@ -11,7 +12,6 @@ constexpr int HeadBackColor = 0xDCF5F5;
 constexpr int HeadForeColor = 0x5C5C5C;
 constexpr int GridLineColor = 0x808080;
 constexpr int OutOfMonthColor = 0xF5F5F5;
-constexpr int TodayColor = 0x5A4239;
 constexpr int TextLeft = 270; // of a line's text behind the left of its picture
 
 constexpr SurfaceFont HeadFont{Face::List, 9, true};
@@ -75,7 +75,7 @@ void PaintTab(PictureBox& surface, const UnitRect& tab, const CalendarMonth& mon
 void PaintTodayFrame(PictureBox& surface, const UnitRect& area) {
     for (int inset = 0; inset < TodayFrameWidth; inset += UnitsPerPixel) {
         surface.DrawFrame(area.left + inset, area.top + inset, area.width - 2 * inset,
-                          area.height - 2 * inset, TodayColor);
+                          area.height - 2 * inset, BarColor);
     }
 }
 

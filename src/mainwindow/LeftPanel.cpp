@@ -6,6 +6,7 @@
 #include "planner/Colors.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Text.h"
+#include "platform/WindowColors.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -42,9 +43,7 @@ QFrame* Panel() {
     auto* panel = new QFrame;
     panel->setFrameShape(QFrame::NoFrame);
     panel->setAutoFillBackground(true);
-    QPalette colors = panel->palette();
-    colors.setColor(QPalette::Window, PanelColor);
-    panel->setPalette(colors);
+    SetColor(panel, QPalette::Window, PanelColor);
     return panel;
 }
 
@@ -101,7 +100,8 @@ QString AlertButtonStyle() {
                           " border: 1px solid %3; border-radius: 4px; }"
                           "QPushButton:hover, QPushButton:pressed { background: %3; }"
                           "QPushButton:focus { border: 1px solid %4; }")
-        .arg(AlertColor.name(), AlertGroundColor.name(), AlertEdgeColor.name(), AccentColor.name());
+        .arg(ToQColor(AlertColor).name(), ToQColor(AlertGroundColor).name(), ToQColor(AlertEdgeColor).name(),
+             ToQColor(AccentColor).name());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "mainwindow/GridLayout.h"
 #include "platform/PictureBox.h"
+#include "platform/WindowColors.h"
 
 #include <QString>
 
@@ -10,8 +11,8 @@ class frmMain;
 
 // The font of the rows.
 inline constexpr SurfaceFont ListFont{Face::List, 9, false};
-inline constexpr int EdgeLineColor = 0x808080; // over and left of the data area
-inline constexpr int CurrentColor = 0xB26F2F;  // the frame of what the keys stand on
+inline constexpr int EdgeLineColor = 0x808080;   // over and left of the data area
+inline constexpr int CurrentColor = AccentColor; // the frame of what the keys stand on
 
 // Places the titles of the list and the scroll bar and leaves an empty grid of its lines.
 void LayoutList(frmMain& window, ListKind kind);

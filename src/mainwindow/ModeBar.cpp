@@ -1,6 +1,6 @@
 // The dark bar of the modes under the menu bar: a picture and a word for each.
-#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
+#include "platform/WindowColors.h"
 
 #include <QHBoxLayout>
 
@@ -52,9 +52,7 @@ QWidget* frmMain::BuildModeBar() {
     auto* bar = new QWidget;
     bar->setFixedHeight(BarHeight);
     bar->setAutoFillBackground(true);
-    QPalette colors = bar->palette();
-    colors.setColor(QPalette::Window, BarColor);
-    bar->setPalette(colors);
+    SetColor(bar, QPalette::Window, BarColor);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(BarMargin, 0, BarMargin, 0);
     const std::array<std::pair<PictureBox*, ClickLabel*>, 5> modes{{

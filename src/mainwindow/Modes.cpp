@@ -1,9 +1,9 @@
 // The mode entries: what each mode checks, shows and hides.
 #include "mainwindow/ModeTables.h"
-#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/HelpTopics.h"
 #include "platform/Text.h"
+#include "platform/WindowColors.h"
 
 namespace {
 

@@ -8,7 +8,5 @@
 
 void ShowBox(QLineEdit* box, const BoxText& shown) {
     box->setText(FromStore(shown.text));
-    QPalette colors = box->palette();
-    colors.setColor(QPalette::Base, ToQColor(shown.backcolor));
-    box->setPalette(colors);
+    SetColor(box, QPalette::Base, shown.backcolor);
 }

@@ -61,9 +61,7 @@ void frmMain::RestoreViewMenus() {
 
 void frmMain::PaintViewMenus() {
     if (const auto color = ViewMenuColor(ToStore(ComboList->currentText()))) {
-        QPalette colors = PictureBoxViewMenus->palette();
-        colors.setColor(QPalette::Window, ToQColor(*color));
-        PictureBoxViewMenus->setPalette(colors);
+        SetColor(PictureBoxViewMenus, QPalette::Window, *color);
     }
 }
 

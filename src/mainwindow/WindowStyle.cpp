@@ -2,27 +2,27 @@
 #include "mainwindow/WindowStyle.h"
 
 #include "platform/PictureBox.h"
+#include "platform/WindowColors.h"
 
 #include <QApplication>
 
 namespace {
 
 constexpr double WindowPoints = 9;
-constexpr QColor ButtonColor{0xFB, 0xFC, 0xFD};
 
 QPalette ProgramPalette() {
-    QPalette colors(ButtonColor, SurfaceColor);
+    QPalette colors(ToQColor(ButtonColor), ToQColor(SurfaceColor));
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        colors.setColor(role, TextColor);
-        colors.setColor(QPalette::Disabled, role, FaintTextColor);
+        colors.setColor(role, ToQColor(TextColor));
+        colors.setColor(QPalette::Disabled, role, ToQColor(FaintTextColor));
     }
     colors.setColor(QPalette::Base, Qt::white);
-    colors.setColor(QPalette::AlternateBase, PanelColor);
+    colors.setColor(QPalette::AlternateBase, ToQColor(PanelColor));
     colors.setColor(QPalette::ToolTipBase, Qt::white);
-    colors.setColor(QPalette::Highlight, AccentColor);
+    colors.setColor(QPalette::Highlight, ToQColor(AccentColor));
     colors.setColor(QPalette::HighlightedText, Qt::white);
-    colors.setColor(QPalette::Link, AccentColor);
+    colors.setColor(QPalette::Link, ToQColor(AccentColor));
     return colors;
 }
 

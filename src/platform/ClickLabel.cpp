@@ -21,15 +21,11 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SetLabelColors(QLabel* label, int forecolor, int backcolor) {
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, ToQColor(forecolor));
-    colors.setColor(QPalette::Window, ToQColor(backcolor));
+    SetLabelForeColor(label, forecolor);
+    SetColor(label, QPalette::Window, backcolor);
     label->setAutoFillBackground(true);
-    label->setPalette(colors);
 }
 
 void SetLabelForeColor(QLabel* label, int forecolor) {
-    QPalette colors = label->palette();
-    colors.setColor(QPalette::WindowText, ToQColor(forecolor));
-    label->setPalette(colors);
+    SetColor(label, QPalette::WindowText, forecolor);
 }

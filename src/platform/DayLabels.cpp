@@ -1,6 +1,8 @@
 // The labels of a small month: heads, days, the frame around today, the buttons for today and tomorrow.
 #include "platform/DayLabels.h"
 
+#include "platform/WindowColors.h"
+
 #include <QEvent>
 #include <QGridLayout>
 
@@ -10,7 +12,6 @@ constexpr int DaysInRow = 7;
 constexpr int HeadHeight = 16;
 constexpr int DayHeight = 18;
 constexpr int MarkedDayColor = 0x0000C0;
-constexpr int TileBorderColor = 0x5A4239;
 
 void SetLabelBold(QLabel* label, bool bold) {
     QFont font = label->font();
@@ -70,9 +71,7 @@ void PaintDayButton(PictureBox* button, ClickLabel* label, const QString& pictur
 TileBorder::TileBorder(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::Box);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, ToQColor(TileBorderColor));
-    setPalette(colors);
+    SetColor(this, QPalette::WindowText, BarColor);
     hide();
 }
 

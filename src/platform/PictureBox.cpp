@@ -107,6 +107,12 @@ QColor ToQColor(int bgr) {
     return {bgr & 0xFF, (bgr >> 8) & 0xFF, (bgr >> 16) & 0xFF};
 }
 
+void SetColor(QWidget* widget, QPalette::ColorRole role, int bgr) {
+    QPalette colors = widget->palette();
+    colors.setColor(role, ToQColor(bgr));
+    widget->setPalette(colors);
+}
+
 QFont ToQFont(const SurfaceFont& font) {
     return MakeFont(font);
 }

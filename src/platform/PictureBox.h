@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QString>
 #include <QWidget>
 
@@ -13,6 +14,9 @@
 
 // A colour 0xBBGGRR as the store and the program's constants have it.
 QColor ToQColor(int bgr);
+
+// Gives the widget such a colour for the role, in whatever state it is.
+void SetColor(QWidget* widget, QPalette::ColorRole role, int bgr);
 
 enum class Face {
     List,  // the proportional list face, Arial
@@ -83,8 +87,6 @@ public:
 
     // What was drawn since the last clearing, in order.
     const std::vector<DrawnItem>& Drawn() const { return drawn; }
-
-    int BackColor() const { return backColor; }
 
 signals:
     // A button went down or up at a point in units.
