@@ -20,13 +20,8 @@ constexpr QRect NamePlace{160, 70, 240, 44};
 constexpr QRect TitlePlace{160, 116, 240, 30};
 constexpr int NameColor = 0xFFFFFF;  // 0xBBGGRR
 constexpr int TitleColor = 0xE4D2C6; // 0xBBGGRR
-
-QFont SplashFont(double points, bool bold) {
-    QFont font(QStringLiteral("Verdana"));
-    font.setPointSizeF(points);
-    font.setBold(bold);
-    return font;
-}
+constexpr SurfaceFont NameFont{Face::Title, 20, true};
+constexpr SurfaceFont TitleFont{Face::Title, 11, false};
 
 } // namespace
 
@@ -58,9 +53,9 @@ void frmSplash::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), ToQColor(BarColor));
     QIcon(QStringLiteral(":/icons/planovarium.svg")).paint(&painter, IconPlace);
     painter.setPen(ToQColor(NameColor));
-    painter.setFont(SplashFont(20, true));
+    painter.setFont(ToQFont(NameFont));
     painter.drawText(NamePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Planovarium"));
     painter.setPen(ToQColor(TitleColor));
-    painter.setFont(SplashFont(11, false));
+    painter.setFont(ToQFont(TitleFont));
     painter.drawText(TitlePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Homework System"));
 }

@@ -16,20 +16,17 @@ namespace {
 
 struct FaceFamily {
     const char* family;
+    const char* substitute; // where the family is missing
     QFont::StyleHint hint;
 };
 
 // In the order of Face.
 constexpr std::array<FaceFamily, 4> FaceFamilies{{
-    {"Arial", QFont::SansSerif},
-    {"Verdana", QFont::SansSerif},
-    {"Courier", QFont::TypeWriter},
-    {"MS Sans Serif", QFont::SansSerif},
+    {"Arial", "Liberation Sans", QFont::SansSerif},
+    {"Verdana", "DejaVu Sans", QFont::SansSerif},
+    {"Courier", "Liberation Mono", QFont::TypeWriter},
+    {"MS Sans Serif", "Liberation Sans", QFont::SansSerif},
 }};
-
-// What stands for a face where it is missing, in the order of Face.
-constexpr std::array<const char*, 4> Substitutes{"Liberation Sans", "DejaVu Sans", "Liberation Mono",
-                                                 "Liberation Sans"};
 
 double Pixels(int units) {
     return static_cast<double>(units) / UnitsPerPixel;
@@ -41,17 +38,6 @@ int Units(double pixels) {
 
 QRectF PixelRect(const DrawnItem& item) {
     return {Pixels(item.left), Pixels(item.top), Pixels(item.width), Pixels(item.height)};
-}
-
-QFont MakeFont(const SurfaceFont& font) {
-    const auto index = static_cast<std::size_t>(font.face);
-    QFont result;
-    result.setFamilies(
-        {QString::fromLatin1(FaceFamilies[index].family), QString::fromLatin1(Substitutes[index])});
-    result.setStyleHint(FaceFamilies[index].hint);
-    result.setPointSizeF(font.points);
-    result.setBold(font.bold);
-    return result;
 }
 
 // A line of one pixel, whichever way it runs.
@@ -114,7 +100,13 @@ void SetColor(QWidget* widget, QPalette::ColorRole role, int bgr) {
 }
 
 QFont ToQFont(const SurfaceFont& font) {
-    return MakeFont(font);
+    const FaceFamily& face = FaceFamilies[static_cast<std::size_t>(font.face)];
+    QFont result;
+    result.setFamilies({QString::fromLatin1(face.family), QString::fromLatin1(face.substitute)});
+    result.setStyleHint(face.hint);
+    result.setPointSizeF(font.points);
+    result.setBold(font.bold);
+    return result;
 }
 
 int TextWidth(const QString& text, const SurfaceFont& font) {
