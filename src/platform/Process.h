@@ -1,5 +1,5 @@
-// What the program needs of the operating system beyond files: its own number, other processes, the
-// environment, special folders, and word that it has to end.
+// What the program needs of the operating system: its own number, other processes, the environment, special
+// folders, word that it has to end, and what the standard library lacks for writing files safely.
 #pragma once
 
 #include <cstdio>
