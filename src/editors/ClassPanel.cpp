@@ -153,7 +153,7 @@ void frmCourseSchedule::ValidateClassPanel() {
         FillQuietly(TextBoxClassName, OriginalClassName);
         break;
     case ClassCheck::RenameAsked:
-        ClassError = MsgBox(ClassMessage(check, entry), Buttons::YesNo, Icon::Information) != Answer::Yes;
+        ClassError = !IsYes(ClassMessage(check, entry));
         if (ClassError) {
             FillQuietly(TextBoxClassName, OriginalClassName);
         }
@@ -189,16 +189,14 @@ void frmCourseSchedule::SaveClass() {
 }
 
 bool frmCourseSchedule::DeleteConfirmed() const {
-    if (MsgBox("Delete this class?", Buttons::YesNo, Icon::Information) != Answer::Yes) {
+    if (!IsYes("Delete this class?")) {
         return false;
     }
     if (EditMode != "Edit") {
         return true;
     }
-    return MsgBox("Are you sure you want to Delete '" + OriginalClassName +
-                      "'? If you have assignments for '" + OriginalClassName +
-                      "', they will also be Deleted.",
-                  Buttons::YesNo, Icon::Information) == Answer::Yes;
+    return IsYes("Are you sure you want to Delete '" + OriginalClassName +
+                 "'? If you have assignments for '" + OriginalClassName + "', they will also be Deleted.");
 }
 
 // The class's assignments go only when the whole term is saved.
@@ -230,10 +228,5 @@ bool frmCourseSchedule::eventFilter(QObject* watched, QEvent* event) {
     if (watched != TextBoxCredits || CloseOK || ShuttingDown || !EntryEnds(event)) {
         return QDialog::eventFilter(watched, event);
     }
-    const bool quiet = IsPressOn(ButtonCancelClass, event);
-    const bool asked = !ValidateCredits(quiet) && !quiet;
-    if (asked) {
-        DropPress(event);
-    }
-    return asked || event->type() == QEvent::KeyPress; // Enter does not press OK as well
+    return EndEntry(event, ButtonCancelClass, [this](bool quiet) { return ValidateCredits(quiet); });
 }

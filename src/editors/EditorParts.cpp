@@ -152,14 +152,15 @@ bool EntryEnds(const QEvent* event) {
            reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason;
 }
 
-bool IsPressOn(const QWidget* widget, const QEvent* event) {
-    return ReasonOf(event) == Qt::MouseFocusReason && QApplication::focusWidget() == widget;
-}
-
-void DropPress(const QEvent* event) {
-    if (ReasonOf(event) == Qt::MouseFocusReason) {
+bool EndEntry(const QEvent* event, const QWidget* cancelButton,
+              const std::function<bool(bool quiet)>& validate) {
+    const bool pressed = ReasonOf(event) == Qt::MouseFocusReason;
+    const bool quiet = pressed && QApplication::focusWidget() == cancelButton;
+    const bool asked = !validate(quiet) && !quiet;
+    if (asked && pressed) {
         new PressTaker; // goes with the event that is being handled
     }
+    return asked || event->type() == QEvent::KeyPress; // Enter does not press OK as well
 }
 
 void AskForEntry(QWidget* field, std::string_view message) {
@@ -171,7 +172,8 @@ std::string ShortDateText(Date date) {
     return FormatDate(date, "Short Date").utf8;
 }
 
-void ShowDate(QLineEdit* box, Date date) {
+void ShowDateField(std::string& field, QLineEdit* box, Date date) {
+    field = ShortDateText(date);
     ShowText(box, FromScreen(FormatDate(date, "Long Date")));
 }
 

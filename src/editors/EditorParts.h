@@ -13,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QToolButton>
 
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -55,12 +56,11 @@ void ShowComboText(QComboBox* combo, std::string_view text);
 // True for a field that loses the focus, unless to another window, a popup or a menu, and for Enter in it.
 bool EntryEnds(const QEvent* event);
 
-// True for a field that loses the focus to a press on the widget.
-bool IsPressOn(const QWidget* widget, const QEvent* event);
-
-// The press that has taken the focus from the field does nothing more: a message has come between. To be
-// called as the field loses the focus.
-void DropPress(const QEvent* event);
+// Validates a field whose entry ends with the event, quietly where it ends with a press on the cancel button.
+// The validation gives false when the field is to be entered again; then a press that took the focus from it
+// does nothing more, as a message has come between. Gives whether the event is done with.
+bool EndEntry(const QEvent* event, const QWidget* cancelButton,
+              const std::function<bool(bool quiet)>& validate);
 
 // Gives the field the focus again and shows the message.
 void AskForEntry(QWidget* field, std::string_view message);
@@ -70,8 +70,8 @@ void AskForEntry(QWidget* field, std::string_view message);
 // The text of a date as a dialog's field holds it, which reads back as the same day.
 std::string ShortDateText(Date date);
 
-// Shows the date in its long form.
-void ShowDate(QLineEdit* box, Date date);
+// Gives a dialog's field the date, and the field's box its long form.
+void ShowDateField(std::string& field, QLineEdit* box, Date date);
 
 // Gives the small button of a date box its picture.
 void SetupDateButton(QToolButton* button);
@@ -97,6 +97,12 @@ struct DoneControls {
     QComboBox* percent;
 };
 
+// These controls have the same names in every dialog of an assignment or a task.
+template <class Dialog>
+DoneControls DoneOf(const Dialog& dialog) {
+    return {dialog.CheckBoxDone, dialog.LabelDoneBG, dialog.ComboPercentComplete};
+}
+
 // True when the percent reads "100%", chosen or typed.
 bool IsComplete(const DoneControls& controls);
 
@@ -121,6 +127,17 @@ struct ReminderControls {
     QComboBox* time;
 };
 
+// These controls have the same names in every dialog of an assignment or a task.
+template <class Dialog>
+ReminderControls ReminderOf(const Dialog& dialog) {
+    return {dialog.CheckboxReminder,      dialog.LabelRemDate,
+            dialog.LabelRemTime,          dialog.LabelRemBG,
+            dialog.LabelRemBG2,           dialog.TextboxReminderDate,
+            dialog.PicButtonReminderDate, dialog.ComboReminderTime};
+}
+
+inline constexpr std::string_view NewReminderTime = "9:00 AM";
+
 // Gives the strip its colours and the time its rows.
 void SetupReminder(const ReminderControls& controls);
 
@@ -141,18 +158,24 @@ struct EditorState {
     std::string EditMode;       // "New" or "Edit"
 };
 
+// Asks the student; true for Yes.
+bool IsYes(std::string_view question);
+
 // Clears the four flags, as the last step of filling an editor.
 void ClearFlags(EditorState& state);
 
 // Hides the dialog with OK as the answer.
 void AcceptEditor(QDialog& dialog, EditorState& state);
 
-// Hides the dialog with Cancel as the answer, after a question if something has changed. The item is what the
-// dialog edits, as the question has it.
-void CancelEditor(QDialog& dialog, EditorState& state, std::string_view item);
+// The question before what was changed in an item is given up. The item is what the dialog edits, as the
+// question has it.
+std::string CancelQuestion(const EditorState& state, std::string_view item);
 
-// Hides the dialog with Delete as the answer, after a question.
+// Hides the dialog with Cancel as the answer, after the question if something has changed.
+void CancelEditor(QDialog& dialog, EditorState& state, std::string_view question);
+
+// Hides the dialog with Delete as the answer, after a question that names the item.
 void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item);
 
 // The close box counts as Cancel; a close that is not the student's passes.
-void CloseEditor(QDialog& dialog, EditorState& state, std::string_view item, QCloseEvent& event);
+void CloseEditor(QDialog& dialog, EditorState& state, std::string_view question, QCloseEvent& event);

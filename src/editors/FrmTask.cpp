@@ -14,7 +14,6 @@
 namespace {
 
 constexpr std::string_view ItemName = "Task";
-constexpr std::string_view NewReminderTime = "9:00 AM";
 constexpr int ColorNoDeadline = 0x808080;     // 0xBBGGRR
 constexpr int ColorNoDeadlineText = 0xC0C0C0; // 0xBBGGRR
 
@@ -27,7 +26,6 @@ FrmTask::FrmTask(QWidget* parent) : QDialog(parent) {
     SetupControls();
     SetTopics();
     BindControls();
-    UpdateEstimateFlag = false;
 }
 
 void FrmTask::SetupControls() {
@@ -37,7 +35,7 @@ void FrmTask::SetupControls() {
     AddRows(ComboPriority, PriorityRows);
     SetupTypedCombo(ComboPercentComplete);
     AddRows(ComboPercentComplete, PercentRows);
-    SetupReminder(Reminder());
+    SetupReminder(ReminderOf(*this));
     SetupDateButton(picButtonTaskDate);
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
@@ -71,7 +69,7 @@ void FrmTask::BindControls() {
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
     connect(ComboType, &QComboBox::activated, this, changed);
     connect(ComboPriority, &QComboBox::activated, this, changed);
-    connect(ComboPercentComplete, &QComboBox::activated, this, &FrmTask::PercentClicked);
+    connect(ComboPercentComplete, &QComboBox::activated, this, &FrmTask::TakePercent);
     connect(CheckBoxDone, &QCheckBox::toggled, this, &FrmTask::DoneClicked);
     connect(CheckboxReminder, &QCheckBox::clicked, this, &FrmTask::ReminderClicked);
     connect(CheckBoxDeadline, &QCheckBox::clicked, this, [this] {
@@ -79,26 +77,13 @@ void FrmTask::BindControls() {
         ChangeFlag = true;
     });
     connect(LabelDeadline, &ClickLabel::Clicked, CheckBoxDeadline, &QCheckBox::click);
-    connect(TextboxReminderDate, &QLineEdit::textChanged, this, [this] {
-        SetAlarm();
-        ChangeFlag = true;
-    });
     connect(Picker, &DatePicker::DatePicked, this, &FrmTask::TakeDate);
     for (QComboBox* combo : {ComboPriority, ComboPercentComplete, ComboReminderTime}) {
         combo->installEventFilter(this);
     }
     connect(ButtonOK, &QPushButton::clicked, this, &FrmTask::accept);
-    connect(ButtonCancel, &QPushButton::clicked, this, [this] { CancelEditor(*this, *this, ItemName); });
+    connect(ButtonCancel, &QPushButton::clicked, this, &FrmTask::reject);
     connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
-}
-
-DoneControls FrmTask::Done() const {
-    return {CheckBoxDone, LabelDoneBG, ComboPercentComplete};
-}
-
-ReminderControls FrmTask::Reminder() const {
-    return {CheckboxReminder, LabelRemDate,        LabelRemTime,          LabelRemBG,
-            LabelRemBG2,      TextboxReminderDate, PicButtonReminderDate, ComboReminderTime};
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
@@ -114,7 +99,7 @@ void FrmTask::Fill() {
     }
     UpdateEstimateFlag = false;
     PaintDeadline();
-    PaintReminder(Reminder());
+    PaintReminder(ReminderOf(*this));
     Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
     TextBoxDescription->setFocus();
     ClearFlags(*this);
@@ -124,7 +109,7 @@ void FrmTask::FillNew() {
     setWindowTitle(QStringLiteral("Planovarium - New Task"));
     TextBoxDescription->clear();
     TextBoxNotes->clear();
-    SetDone(Done(), false);
+    SetDone(DoneOf(*this), false);
     ButtonDelete->setEnabled(false);
     ShowComboText(ComboPriority, PriorityRows.front());
     ShowComboText(ComboType, NoType);
@@ -140,7 +125,7 @@ void FrmTask::FillEdit() {
     setWindowTitle(QStringLiteral("Planovarium - Edit Task"));
     ShowText(TextBoxDescription, tempTaskDescription);
     TextBoxNotes->setPlainText(FromStore(tempTaskNotes));
-    SetDone(Done(), IsTrue(tempTaskDone));
+    SetDone(DoneOf(*this), IsTrue(tempTaskDone));
     ButtonDelete->setEnabled(true);
     ShowComboText(ComboPriority, tempTaskPriority);
     ShowComboText(ComboType, ShownTaskType(tempTaskType));
@@ -151,12 +136,9 @@ void FrmTask::FillEdit() {
     FillDates(DateValue(tempTaskDate), DateValue(tempTaskReminderDate));
 }
 
-// The alarm follows the reminder date also where its text stays the same.
 void FrmTask::FillDates(Date date, Date reminderDate) {
-    tempTaskDate = ShortDateText(date);
-    ShowDate(TextboxTaskDate, date);
-    tempTaskReminderDate = ShortDateText(reminderDate);
-    ShowDate(TextboxReminderDate, reminderDate);
+    ShowDateField(tempTaskDate, TextboxTaskDate, date);
+    ShowDateField(tempTaskReminderDate, TextboxReminderDate, reminderDate);
     SetAlarm();
 }
 
@@ -167,12 +149,10 @@ void FrmTask::PaintDeadline() {
     SetLabelColors(LabelDeadline, on ? ColorWhite : ColorNoDeadlineText, on ? ColorBlack : ColorNoDeadline);
 }
 
-void FrmTask::PercentClicked() {
-    if (UpdateEstimateFlag) {
-        return;
-    }
+// A percent was chosen or typed.
+void FrmTask::TakePercent() {
     UpdateEstimateFlag = true;
-    SetDone(Done(), IsComplete(Done()));
+    ValidatePercentEntry(DoneOf(*this));
     UpdateEstimateFlag = false;
     ChangeFlag = true;
 }
@@ -181,14 +161,12 @@ void FrmTask::DoneClicked() {
     if (UpdateEstimateFlag) {
         return;
     }
-    UpdateEstimateFlag = true;
-    PercentFollowsDone(Done());
-    UpdateEstimateFlag = false;
+    PercentFollowsDone(DoneOf(*this));
     ChangeFlag = true;
 }
 
 void FrmTask::ReminderClicked() {
-    PaintReminder(Reminder());
+    PaintReminder(ReminderOf(*this));
     if (CheckboxReminder->isChecked()) {
         SetAlarm();
     }
@@ -201,23 +179,19 @@ void FrmTask::SetAlarm() {
 
 void FrmTask::TakeDate(Date date) {
     if (Picker->DateTarget) {
-        tempTaskDate = ShortDateText(date);
-        ShowDate(TextboxTaskDate, date);
+        ShowDateField(tempTaskDate, TextboxTaskDate, date);
         CheckBoxDeadline->setChecked(true);
         PaintDeadline();
     } else {
-        tempTaskReminderDate = ShortDateText(date);
-        ShowDate(TextboxReminderDate, date);
+        ShowDateField(tempTaskReminderDate, TextboxReminderDate, date);
+        SetAlarm();
     }
     ChangeFlag = true;
 }
 
 void FrmTask::ValidateField(const QObject* field) {
     if (field == ComboPercentComplete) {
-        UpdateEstimateFlag = true;
-        ValidatePercentEntry(Done());
-        UpdateEstimateFlag = false;
-        ChangeFlag = true;
+        TakePercent();
     } else if (field == ComboPriority) {
         ShowComboText(ComboPriority, CutToLimit(TextOf(ComboPriority)));
     } else if (field == ComboReminderTime) {
@@ -249,9 +223,9 @@ void FrmTask::accept() {
 }
 
 void FrmTask::reject() {
-    CancelEditor(*this, *this, ItemName);
+    CancelEditor(*this, *this, CancelQuestion(*this, ItemName));
 }
 
 void FrmTask::closeEvent(QCloseEvent* event) {
-    CloseEditor(*this, *this, ItemName, *event);
+    CloseEditor(*this, *this, CancelQuestion(*this, ItemName), *event);
 }

@@ -50,17 +50,14 @@ private:
     void FillEdit();
     void FillDates(Date date, Date reminderDate);
     void PaintDeadline();
-    void PercentClicked();
+    void TakePercent();
     void DoneClicked();
     void ReminderClicked();
     void SetAlarm();
     void TakeDate(Date date);
     void ValidateField(const QObject* field);
 
-    DoneControls Done() const;
-    ReminderControls Reminder() const;
-
-    bool UpdateEstimateFlag = true; // the program changes the percent and the done box
+    bool UpdateEstimateFlag = false; // the program sets the done box, which is no click
 };
 
 // The one dialog, from the load of the main window on, which owns it.

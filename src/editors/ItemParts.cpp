@@ -21,10 +21,6 @@ constexpr int ColorBoxDone = 0x008000;
 constexpr int ColorReminderOff = 0xC0C0C0;
 constexpr int ColorReminderOn = 0xFFFFFF;
 
-bool IsYes(std::string_view question) {
-    return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
-}
-
 } // namespace
 
 bool IsComplete(const DoneControls& controls) {
@@ -74,6 +70,10 @@ std::string AlarmOf(const std::string& date, const QComboBox* time) {
     return ItemReminderAlarm(DateValue(date), ValidateTime(TextOf(time)));
 }
 
+bool IsYes(std::string_view question) {
+    return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
+}
+
 void ClearFlags(EditorState& state) {
     state.ChangeFlag = false;
     state.CancelledFlag = false;
@@ -88,9 +88,13 @@ void AcceptEditor(QDialog& dialog, EditorState& state) {
     dialog.hide();
 }
 
-void CancelEditor(QDialog& dialog, EditorState& state, std::string_view item) {
-    const std::string_view what = state.EditMode == "New" ? "Cancel this " : "Cancel all changes to this ";
-    if (state.ChangeFlag && !IsYes(std::string(what) + std::string(item) + "?")) {
+std::string CancelQuestion(const EditorState& state, std::string_view item) {
+    const std::string what = state.EditMode == "New" ? "Cancel this " : "Cancel all changes to this ";
+    return what + std::string(item) + "?";
+}
+
+void CancelEditor(QDialog& dialog, EditorState& state, std::string_view question) {
+    if (state.ChangeFlag && !IsYes(question)) {
         return;
     }
     state.CancelledFlag = true;
@@ -106,10 +110,10 @@ void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item) 
     }
 }
 
-void CloseEditor(QDialog& dialog, EditorState& state, std::string_view item, QCloseEvent& event) {
+void CloseEditor(QDialog& dialog, EditorState& state, std::string_view question, QCloseEvent& event) {
     if (event.spontaneous()) {
         event.ignore();
-        CancelEditor(dialog, state, item);
+        CancelEditor(dialog, state, question);
     } else {
         state.CancelledFlag = true;
         event.accept();

@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::string_view ItemName = "assignment";
 constexpr std::string_view NewEstimate = "00 : 30";
-constexpr std::string_view NewReminderTime = "9:00 AM";
 constexpr std::string_view ScoreWanted = "Enter the number score that you received on this ";
 constexpr std::string_view TotalWanted = "Enter the total number of points possible for this ";
 
@@ -35,7 +34,6 @@ frmAssignment::frmAssignment(QWidget* parent) : QDialog(parent) {
     SetTopics();
     BindControls();
     BindCombos();
-    UpdateEstimateFlag = false;
 }
 
 void frmAssignment::SetupControls() {
@@ -49,7 +47,7 @@ void frmAssignment::SetupControls() {
     AddRows(ComboTypeList, AssignmentTypeRows);
     AddRows(ComboPercentComplete, PercentRows);
     AddRows(ComboEstTime, EstimateRows());
-    SetupReminder(Reminder());
+    SetupReminder(ReminderOf(*this));
     SetupDateButton(picButtonDateDue);
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
@@ -70,19 +68,15 @@ void frmAssignment::SetTopics() {
 
 void frmAssignment::BindControls() {
     const auto changed = [this] { ChangeFlag = true; };
-    for (QLineEdit* box : {TextBoxDescription, TextboxDateDue, TextBoxScore, TextBoxTotal}) {
+    for (QLineEdit* box : {TextBoxDescription, TextBoxScore, TextBoxTotal}) {
         connect(box, &QLineEdit::textChanged, this, changed);
     }
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
-    connect(TextboxReminderDate, &QLineEdit::textChanged, this, [this] {
-        SetAlarm();
-        ChangeFlag = true;
-    });
     connect(CheckBoxDone, &QCheckBox::toggled, this, &frmAssignment::DoneClicked);
     connect(CheckboxReminder, &QCheckBox::clicked, this, &frmAssignment::ReminderClicked);
     connect(Picker, &DatePicker::DatePicked, this, &frmAssignment::TakeDate);
     connect(ButtonOK, &QPushButton::clicked, this, &frmAssignment::accept);
-    connect(ButtonCancel, &QPushButton::clicked, this, [this] { CancelEditor(*this, *this, ItemName); });
+    connect(ButtonCancel, &QPushButton::clicked, this, &frmAssignment::reject);
     connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
 }
 
@@ -90,7 +84,7 @@ void frmAssignment::BindCombos() {
     const auto changed = [this] { ChangeFlag = true; };
     connect(ComboTypeList, &QComboBox::activated, this, changed);
     connect(ComboClassNameList, &QComboBox::activated, this, changed);
-    connect(ComboPercentComplete, &QComboBox::activated, this, &frmAssignment::PercentClicked);
+    connect(ComboPercentComplete, &QComboBox::activated, this, &frmAssignment::TakePercent);
     connect(ComboEstTime, &QComboBox::activated, this, [this] {
         UpdateTimeLeft();
         ChangeFlag = true;
@@ -99,15 +93,6 @@ void frmAssignment::BindCombos() {
                                                           ComboReminderTime, TextBoxScore, TextBoxTotal}) {
         field->installEventFilter(this);
     }
-}
-
-DoneControls frmAssignment::Done() const {
-    return {CheckBoxDone, LabelDoneBG, ComboPercentComplete};
-}
-
-ReminderControls frmAssignment::Reminder() const {
-    return {CheckboxReminder, LabelRemDate,        LabelRemTime,          LabelRemBG,
-            LabelRemBG2,      TextboxReminderDate, PicButtonReminderDate, ComboReminderTime};
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
@@ -121,7 +106,7 @@ void frmAssignment::Fill() {
         FillEdit();
     }
     UpdateEstimateFlag = false;
-    PaintReminder(Reminder());
+    PaintReminder(ReminderOf(*this));
     Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
     ComboClassNameList->setFocus();
     ClearFlags(*this);
@@ -143,7 +128,7 @@ void frmAssignment::FillNew() {
     }
     TextBoxNotes->clear();
     UpdateGrade();
-    SetDone(Done(), false);
+    SetDone(DoneOf(*this), false);
     ButtonDelete->setEnabled(false);
     ShowComboText(ComboTypeList, AssignmentTypeRows.front());
     CheckBoxPriority->setChecked(false);
@@ -167,7 +152,7 @@ void frmAssignment::FillEdit() {
     ShowComboText(ComboTypeList, tempAssignmentType);
     CheckBoxPriority->setChecked(IsTrue(tempAssignmentPriority));
     ShowComboText(ComboEstTime, tempAssignmentEstTime);
-    SetDone(Done(), IsTrue(tempAssignmentDone));
+    SetDone(DoneOf(*this), IsTrue(tempAssignmentDone));
     ShowComboText(ComboPercentComplete, tempAssignmentPercentComplete);
     ShowTimeLeft(tempAssignmentTimeLeft);
     ShowComboText(ComboClassNameList, tempAssignmentClassName);
@@ -176,12 +161,9 @@ void frmAssignment::FillEdit() {
     FillDates(DateValue(tempAssignmentDate), DateValue(tempAssignmentReminderDate));
 }
 
-// The alarm follows the reminder date also where its text stays the same.
 void frmAssignment::FillDates(Date date, Date reminderDate) {
-    tempAssignmentDate = ShortDateText(date);
-    ShowDate(TextboxDateDue, date);
-    tempAssignmentReminderDate = ShortDateText(reminderDate);
-    ShowDate(TextboxReminderDate, reminderDate);
+    ShowDateField(tempAssignmentDate, TextboxDateDue, date);
+    ShowDateField(tempAssignmentReminderDate, TextboxReminderDate, reminderDate);
     SetAlarm();
 }
 
@@ -189,13 +171,13 @@ void frmAssignment::FillDates(Date date, Date reminderDate) {
 
 // Work is finished by the done box or the percent, also where the time left says otherwise.
 void frmAssignment::ShowTimeLeft(std::string_view text) {
-    const bool finished = CheckBoxDone->isChecked() || IsComplete(Done());
+    const bool finished = CheckBoxDone->isChecked() || IsComplete(DoneOf(*this));
     SetColor(TextBoxTimeLeft, QPalette::Base, finished ? ColorFinished : ColorWorkLeft);
     ShowText(TextBoxTimeLeft, text);
 }
 
 void frmAssignment::UpdateTimeLeft() {
-    const bool finished = CheckBoxDone->isChecked() || IsComplete(Done());
+    const bool finished = CheckBoxDone->isChecked() || IsComplete(DoneOf(*this));
     ShowTimeLeft(::UpdateTimeLeft(finished, TextOf(ComboEstTime), TextOf(ComboPercentComplete)));
 }
 
@@ -208,14 +190,12 @@ void frmAssignment::UpdateGrade() {
     SetColor(LabelGrade, QPalette::WindowText, color);
 }
 
-void frmAssignment::PercentClicked() {
-    if (UpdateEstimateFlag) {
-        return;
-    }
+// A percent was chosen or typed.
+void frmAssignment::TakePercent() {
     UpdateEstimateFlag = true;
-    SetDone(Done(), IsComplete(Done()));
-    UpdateTimeLeft();
+    ValidatePercentEntry(DoneOf(*this));
     UpdateEstimateFlag = false;
+    UpdateTimeLeft();
     ChangeFlag = true;
 }
 
@@ -223,15 +203,13 @@ void frmAssignment::DoneClicked() {
     if (UpdateEstimateFlag) {
         return;
     }
-    UpdateEstimateFlag = true;
-    PercentFollowsDone(Done());
+    PercentFollowsDone(DoneOf(*this));
     UpdateTimeLeft();
-    UpdateEstimateFlag = false;
     ChangeFlag = true;
 }
 
 void frmAssignment::ReminderClicked() {
-    PaintReminder(Reminder());
+    PaintReminder(ReminderOf(*this));
     if (CheckboxReminder->isChecked()) {
         SetAlarm();
     }
@@ -243,9 +221,12 @@ void frmAssignment::SetAlarm() {
 }
 
 void frmAssignment::TakeDate(Date date) {
-    const bool due = Picker->DateTarget;
-    (due ? tempAssignmentDate : tempAssignmentReminderDate) = ShortDateText(date);
-    ShowDate(due ? TextboxDateDue : TextboxReminderDate, date);
+    if (Picker->DateTarget) {
+        ShowDateField(tempAssignmentDate, TextboxDateDue, date);
+    } else {
+        ShowDateField(tempAssignmentReminderDate, TextboxReminderDate, date);
+        SetAlarm();
+    }
     ChangeFlag = true;
 }
 
@@ -264,26 +245,16 @@ bool frmAssignment::ValidateField(const QObject* field, bool quiet) {
     } else if (field == ComboReminderTime) {
         ValidateReminderTime();
     } else if (field == ComboPercentComplete) {
-        ValidatePercent();
+        TakePercent();
     } else if (field == ComboEstTime) {
         ValidateEstimate();
     }
     return true;
 }
 
-void frmAssignment::ValidatePercent() {
-    UpdateEstimateFlag = true;
-    ValidatePercentEntry(Done());
-    UpdateTimeLeft();
-    UpdateEstimateFlag = false;
-    ChangeFlag = true;
-}
-
 void frmAssignment::ValidateEstimate() {
-    UpdateEstimateFlag = true;
     ShowComboText(ComboEstTime, ::ValidateEstimate(TextOf(ComboEstTime)));
     UpdateTimeLeft();
-    UpdateEstimateFlag = false;
     ChangeFlag = true;
 }
 
@@ -308,12 +279,8 @@ bool frmAssignment::eventFilter(QObject* watched, QEvent* event) {
     if (CloseOK || ShuttingDown || !EntryEnds(event)) {
         return QDialog::eventFilter(watched, event);
     }
-    const bool quiet = IsPressOn(ButtonCancel, event);
-    const bool asked = !ValidateField(watched, quiet) && !quiet;
-    if (asked) {
-        DropPress(event);
-    }
-    return asked || event->type() == QEvent::KeyPress; // Enter does not press OK as well
+    return EndEntry(event, ButtonCancel,
+                    [this, watched](bool quiet) { return ValidateField(watched, quiet); });
 }
 
 // --- Closing -----------------------------------------------------------------------------------------------
@@ -335,9 +302,9 @@ void frmAssignment::accept() {
 }
 
 void frmAssignment::reject() {
-    CancelEditor(*this, *this, ItemName);
+    CancelEditor(*this, *this, CancelQuestion(*this, ItemName));
 }
 
 void frmAssignment::closeEvent(QCloseEvent* event) {
-    CloseEditor(*this, *this, ItemName, *event);
+    CloseEditor(*this, *this, CancelQuestion(*this, ItemName), *event);
 }

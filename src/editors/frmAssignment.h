@@ -63,21 +63,17 @@ private:
     void ShowTimeLeft(std::string_view text);
     void UpdateTimeLeft();
     void UpdateGrade();
-    void PercentClicked();
+    void TakePercent();
     void DoneClicked();
     void ReminderClicked();
     void SetAlarm();
     void TakeDate(Date date);
     bool ValidateField(const QObject* field, bool quiet);
-    void ValidatePercent();
     void ValidateEstimate();
     void ValidateReminderTime();
     bool ValidateNumber(QLineEdit* box, std::string_view wanted, bool quiet);
 
-    DoneControls Done() const;
-    ReminderControls Reminder() const;
-
-    bool UpdateEstimateFlag = true; // the program changes the percent and the done box
+    bool UpdateEstimateFlag = false; // the program sets the done box, which is no click
 };
 
 // The one dialog, from the load of the main window on, which owns it.

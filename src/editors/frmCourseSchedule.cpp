@@ -2,20 +2,14 @@
 #include "editors/frmCourseSchedule.h"
 
 #include "core/DateText.h"
-#include "core/Module1.h"
 #include "mainwindow/frmMain.h"
 #include "planner/TermEntry.h"
 #include "platform/MessageBoxes.h"
 
-#include <QCloseEvent>
-
 namespace {
 
 constexpr std::chrono::days NewTermLength{70};
-
-bool IsYes(std::string_view question) {
-    return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
-}
+constexpr std::string_view CancelTermQuestion = "Cancel changes to this Term's Class Schedule?";
 
 } // namespace
 
@@ -75,9 +69,9 @@ void frmCourseSchedule::BindControls() {
     connect(ButtonOKClass, &QPushButton::clicked, this, &frmCourseSchedule::AcceptClass);
     connect(ButtonCancelClass, &QPushButton::clicked, this, &frmCourseSchedule::ResetClassPanel);
     connect(ButtonDeleteClass, &QPushButton::clicked, this, &frmCourseSchedule::DeleteClass);
-    connect(ButtonOK, &QPushButton::clicked, this, &frmCourseSchedule::Accept);
-    connect(ButtonCancel, &QPushButton::clicked, this, &frmCourseSchedule::Cancel);
-    connect(ButtonDelete, &QPushButton::clicked, this, &frmCourseSchedule::Delete);
+    connect(ButtonOK, &QPushButton::clicked, this, &frmCourseSchedule::AcceptTerm);
+    connect(ButtonCancel, &QPushButton::clicked, this, &frmCourseSchedule::CancelTerm);
+    connect(ButtonDelete, &QPushButton::clicked, this, &frmCourseSchedule::DeleteTerm);
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
@@ -92,7 +86,8 @@ void frmCourseSchedule::Fill() {
         tempTermEnd = ShortDateText(Today() + NewTermLength);
     }
     ShowText(TextBoxTermName, tempTermName);
-    ShowDates();
+    ShowDateField(tempTermStart, TextboxTermStart, DateValue(tempTermStart));
+    ShowDateField(tempTermEnd, TextboxTermEnd, DateValue(tempTermEnd));
     TextBoxTermName->setFocus();
     ClassEditMode.clear();
     ResetClassPanel();
@@ -103,20 +98,18 @@ void frmCourseSchedule::Fill() {
     CloseOK = false;
 }
 
-void frmCourseSchedule::ShowDates() {
-    ShowDate(TextboxTermStart, DateValue(tempTermStart));
-    ShowDate(TextboxTermEnd, DateValue(tempTermEnd));
-}
-
 void frmCourseSchedule::TakeDate(Date date) {
-    (Picker->DateTarget ? tempTermStart : tempTermEnd) = ShortDateText(date);
-    ShowDates();
+    if (Picker->DateTarget) {
+        ShowDateField(tempTermStart, TextboxTermStart, date);
+    } else {
+        ShowDateField(tempTermEnd, TextboxTermEnd, date);
+    }
     ChangeFlag = true;
 }
 
 // --- Closing -----------------------------------------------------------------------------------------------
 
-void frmCourseSchedule::Accept() {
+void frmCourseSchedule::AcceptTerm() {
     const std::string name = TextOf(TextBoxTermName);
     const TermEntry entry{DateValue(tempTermStart), DateValue(tempTermEnd), name,
                           EditMode == "Edit" ? std::string_view(ThisTermsPreviousName) : std::string_view()};
@@ -129,16 +122,11 @@ void frmCourseSchedule::Accept() {
     AcceptEditor(*this, *this);
 }
 
-// The answer has been Cancel since the opening.
-void frmCourseSchedule::Cancel() {
-    if (ChangeFlag && !IsYes("Cancel changes to this Term's Class Schedule?")) {
-        return;
-    }
-    CloseOK = true;
-    hide();
+void frmCourseSchedule::CancelTerm() {
+    CancelEditor(*this, *this, CancelTermQuestion);
 }
 
-void frmCourseSchedule::Delete() {
+void frmCourseSchedule::DeleteTerm() {
     if (!IsYes(
             "Delete this Term? All assignments for classes in this Class Schedule will also be deleted.") ||
         !IsYes("Are you sure? This action cannot be undone!")) {
@@ -152,18 +140,12 @@ void frmCourseSchedule::Delete() {
 
 void frmCourseSchedule::reject() {
     if (ClassEditMode.empty()) {
-        Cancel();
+        CancelTerm();
     } else {
         ResetClassPanel();
     }
 }
 
-// The close box counts as Cancel; a close that is not the student's passes.
 void frmCourseSchedule::closeEvent(QCloseEvent* event) {
-    if (event->spontaneous()) {
-        event->ignore();
-        Cancel();
-    } else {
-        event->accept();
-    }
+    CloseEditor(*this, *this, CancelTermQuestion, *event);
 }

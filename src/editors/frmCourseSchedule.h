@@ -49,7 +49,6 @@ private:
     void SetupControls();
     void SetTopics();
     void BindControls();
-    void ShowDates();
     void TakeDate(Date date);
 
     // ClassPanel.cpp: the panel of one class.
@@ -66,9 +65,9 @@ private:
     bool DeleteConfirmed() const;
     bool ValidateCredits(bool quiet);
 
-    void Accept();
-    void Cancel();
-    void Delete();
+    void AcceptTerm();
+    void CancelTerm();
+    void DeleteTerm();
 
     // The colours of the class being edited, as the store has them.
     std::string classForeColor, classBackColor;
