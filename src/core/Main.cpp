@@ -18,9 +18,9 @@
 
 namespace {
 
-// What the smart drive's launcher sets; without any of them there is no drive to work on.
-constexpr std::array<const char*, 4> DriveVariables{"U3_HOST_EXEC_PATH", "U3_DEVICE_PATH",
-                                                    "U3_DEVICE_DOCUMENT_PATH", "U3_DEVICE_EXEC_PATH"};
+// All that the smart drive's launcher sets; without any of them there is no drive to work on.
+constexpr std::array<const char*, 4> DriveVariables{HostFolderVariable, DriveFolderVariable,
+                                                    DocumentFolderVariable, ProgramFolderVariable};
 
 bool StartedFromDrive() {
     return std::ranges::none_of(DriveVariables,
@@ -29,7 +29,7 @@ bool StartedFromDrive() {
 
 // The toolkit's dialogs keep their own settings in the host's scratch folder, not in the user's.
 void RedirectToolkitSettings() {
-    const QString scratch = QString::fromStdString(EnvironmentValue("U3_HOST_EXEC_PATH"));
+    const QString scratch = QString::fromStdString(EnvironmentValue(HostFolderVariable));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, scratch);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, scratch);
 }

@@ -5,9 +5,9 @@
 #include "core/Module1.h"
 #include "core/TextFiles.h"
 #include "core/Values.h"
+#include "platform/Units.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 namespace {
@@ -16,7 +16,6 @@ constexpr const char* FileName = "Prefs.ini";
 
 // The window's place is kept in units of 15 to the pixel, in 16 bits, so this is the greatest that can be
 // read.
-constexpr int UnitsPerPixel = 15;
 constexpr int GreatestPlace = GreatestInt16 / UnitsPerPixel;
 
 struct PlaceKey {
@@ -38,9 +37,6 @@ constexpr std::string_view StartDayKey = "StartDayofWeek=";
 constexpr std::string_view TipsKey = "ShowTipsAtStartup=";
 constexpr std::string_view AutoStartKey = "AutoStart=";
 constexpr std::string_view TipKey = "CurrentTip=";
-
-constexpr std::array<std::string_view, 3> StartDays{"Sunday", "Monday", "Saturday"};
-constexpr std::array<std::string_view, 4> StartModes{"Full", "Min", "Tray", "No"};
 
 struct TypeSection {
     std::string_view title;

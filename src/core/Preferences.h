@@ -5,8 +5,14 @@
 
 #include "platform/Screen.h"
 
+#include <array>
 #include <optional>
 #include <string>
+#include <string_view>
+
+// The days with which a week can begin, and the ways in which the planner starts with the desktop session.
+inline constexpr std::array<std::string_view, 3> StartDays{"Sunday", "Monday", "Saturday"};
+inline constexpr std::array<std::string_view, 4> StartModes{"Full", "Min", "Tray", "No"};
 
 enum class WindowState { Normal = 0, Minimized = 1, Maximized = 2 };
 
@@ -21,9 +27,9 @@ struct PreferenceValues {
     std::optional<int> FormMainLocationX{}, FormMainLocationY{}, FormMainSizeX{}, FormMainSizeY{};
 
     std::string ActiveTerm{};
-    std::string StartDayofWeek = "Sunday"; // or "Monday", "Saturday"
+    std::string StartDayofWeek = "Sunday"; // one of StartDays
     std::string ShowTipsAtStartup = "Yes"; // or "No"
-    std::string AutoStart = "Tray";        // or "Full", "Min", "No"
+    std::string AutoStart = "Tray";        // one of StartModes
     bool AutoStartChecked = true; // false after a bad value: then no item of the start menu is checked
     int CurrentTip = 0;
 };

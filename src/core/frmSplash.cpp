@@ -43,7 +43,7 @@ bool frmSplash::LoadSplash() {
 }
 
 void frmSplash::HandOver() {
-    if (SendLinkCommand("Planovarium", "Transfer Control", "Take Control") == LinkResult::Failed) {
+    if (SendLinkCommand(LinkApplication, LinkTopic, LinkCommand) == LinkResult::Failed) {
         MsgBox("Planovarium is already running.", Buttons::Ok, Icon::None, "Planovarium");
     }
 }

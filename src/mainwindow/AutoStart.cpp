@@ -1,28 +1,21 @@
 // The items that say whether and how the planner starts with the desktop session.
+#include "core/Preferences.h"
 #include "mainwindow/StartupShortcut.h"
 #include "mainwindow/frmMain.h"
 
 namespace {
 
-struct StartItem {
-    QAction* item;
-    const char* word;
-};
-
-std::array<StartItem, 4> StartItems(const frmMain& window) {
-    return {{
-        {window.MenuStartFull, "Full"},
-        {window.MenuStartMin, "Min"},
-        {window.MenuStartTray, "Tray"},
-        {window.MenuStartNo, "No"},
-    }};
+// In the order of StartModes.
+std::array<QAction*, StartModes.size()> StartItems(const frmMain& window) {
+    return {window.MenuStartFull, window.MenuStartMin, window.MenuStartTray, window.MenuStartNo};
 }
 
 } // namespace
 
 void frmMain::CheckAutoStartItem(const std::string& word) {
-    for (const StartItem& start : StartItems(*this)) {
-        start.item->setChecked(word == start.word);
+    const std::array items = StartItems(*this);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        items[i]->setChecked(word == StartModes[i]);
     }
 }
 
@@ -37,12 +30,13 @@ void frmMain::ChooseAutoStart(const std::string& word) {
 }
 
 void frmMain::BindAutoStart() {
-    for (const StartItem& start : StartItems(*this)) {
-        connect(start.item, &QAction::triggered, this, [this, start](bool nowChecked) {
+    const std::array items = StartItems(*this);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        connect(items[i], &QAction::triggered, this, [this, item = items[i], i](bool nowChecked) {
             if (nowChecked) {
-                ChooseAutoStart(start.word);
+                ChooseAutoStart(std::string(StartModes[i]));
             } else {
-                start.item->setChecked(true); // it was chosen already
+                item->setChecked(true); // it was chosen already
             }
         });
     }

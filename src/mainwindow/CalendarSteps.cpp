@@ -1,5 +1,6 @@
 // The controls of the small calendar: days, steppers held down, today and tomorrow, the first day of the
 // week. In Reminders mode none of them reacts.
+#include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
 #include "platform/Text.h"
@@ -13,9 +14,6 @@ namespace {
 
 constexpr int RepeatMilliseconds = 300;
 constexpr const char* HeadTag = "tag"; // property of a head: the full name of its day
-
-// The days with which a week can begin.
-constexpr std::array<std::string_view, 3> StartDays{"Sunday", "Monday", "Saturday"};
 
 struct Stepper {
     PictureBox* frmMain::*box;

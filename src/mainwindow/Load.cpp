@@ -50,7 +50,7 @@ void LoadDialogs(frmMain& window) {
 bool frmMain::LoadPlanner() {
     PutIntoTray(*this);
     OnTermination([this] { Unload(); });
-    ReceiveLinkCommands("Planovarium", "Transfer Control",
+    ReceiveLinkCommands(LinkApplication, LinkTopic,
                         [this](const std::string& /*any command is accepted*/) { return LinkExecute(); });
     FileWrittenFlags = {};
     ClickedDate = Today();

@@ -14,7 +14,7 @@ constexpr const char* ShortcutName = "Planovarium Startup Shortcut.lnk";
 // The planner works without its shortcut, so a folder that is missing or read-only is passed over.
 void PutStartupShortcut() {
     RemoveStartupShortcut();
-    const std::filesystem::path programFolder = EnvironmentValue("U3_DEVICE_EXEC_PATH");
+    const std::filesystem::path programFolder = EnvironmentValue(ProgramFolderVariable);
     std::error_code ignored;
     std::filesystem::copy_file(programFolder / ShortcutName, StartupFolder() / ShortcutName, ignored);
 }

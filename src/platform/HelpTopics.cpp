@@ -49,7 +49,7 @@ void ReadTopics(const std::filesystem::path& folder) {
 } // namespace
 
 void SetHelpTopic(QWidget* control, int topic) {
-    const std::filesystem::path folder = EnvironmentValue("U3_DEVICE_EXEC_PATH");
+    const std::filesystem::path folder = EnvironmentValue(ProgramFolderVariable);
     if (topics.folder != folder) {
         ReadTopics(folder);
     }

@@ -6,6 +6,11 @@
 #include <string>
 #include <string_view>
 
+// What both ends of the link have to say.
+inline constexpr std::string_view LinkApplication = "Planovarium";
+inline constexpr std::string_view LinkTopic = "Transfer Control";
+inline constexpr std::string_view LinkCommand = "Take Control";
+
 // True when this process is the first instance, and stays so until its end. What a dead process left is taken
 // over.
 bool ClaimFirstInstance();

@@ -8,6 +8,12 @@
 #include <string>
 #include <string_view>
 
+// The variables of the environment in which the smart drive's launcher names its folders.
+inline constexpr const char* HostFolderVariable = "U3_HOST_EXEC_PATH"; // scratch, on the computer's own disk
+inline constexpr const char* DriveFolderVariable = "U3_DEVICE_PATH";
+inline constexpr const char* DocumentFolderVariable = "U3_DEVICE_DOCUMENT_PATH";
+inline constexpr const char* ProgramFolderVariable = "U3_DEVICE_EXEC_PATH";
+
 // The number of this process.
 long ProcessNumber();
 
@@ -30,5 +36,6 @@ void OnTermination(const std::function<void()>& end);
 // process.
 void IgnoreFileSizeSignal();
 
-// Hands what was written to the file to the device; false when that failed.
+// Hands all that was written to the file, also what is still in its buffer, to the device; false when that
+// failed.
 bool SyncToDevice(std::FILE* file);
