@@ -26,13 +26,13 @@ void RenameWhereFree(const fs::path& from, const fs::path& to) {
 
 // Errors are ignored throughout: each step takes what the ones before it left.
 void RotateFile(const std::string& name) {
-    const fs::path present = BackupFolder / (name + ".xml");
-    const auto generation = [&name](int number) {
-        return BackupFolder / (name + "_backup" + std::to_string(number) + ".xml");
+    const fs::path present = BackupFolder / name;
+    const auto generation = [stem = present.stem().string()](int number) {
+        return BackupFolder / (stem + "_backup" + std::to_string(number) + ".xml");
     };
     std::error_code ignored;
     fs::remove(present, ignored);
-    CopyFile(DataFolder / (name + ".xml"), present);
+    CopyFile(DataFolder / name, present);
     fs::remove(generation(3), ignored);
     RenameWhereFree(generation(2), generation(3));
     RenameWhereFree(generation(1), generation(2));
@@ -44,11 +44,9 @@ void RotateFile(const std::string& name) {
 void RotateBackups() {
     std::error_code ignored;
     fs::current_path(BackupFolder, ignored);
-    const std::string assignments = "assignments_" + std::to_string(ActiveTermID);
-    for (const std::string& name : {std::string("terms"), std::string("classes"), assignments,
-                                    std::string("tasks"), std::string("events")}) {
-        if (*WrittenFlag(name)) {
-            RotateFile(name);
+    for (const RecordFile& file : RecordFiles()) {
+        if (FileWrittenFlags.*file.written) {
+            RotateFile(file.name);
         }
     }
 }

@@ -1,8 +1,6 @@
 // The five record files: their names, tags and lists, and the procedures that read and write each kind.
 #include "persistence/modIO.h"
 
-#include <array>
-
 namespace {
 
 template <class Lists, std::size_t Count>
@@ -18,28 +16,62 @@ std::vector<RecordField> FieldsOf(Lists& lists, const std::array<Field<Lists>, C
 } // namespace
 
 RecordFile TermFile() {
-    return {"terms.xml",      "term_data", "term", FieldsOf(Store.Term, TermFields),
-            &Store.Term.name, &NextTermID};
+    return {.name = "terms.xml",
+            .kind = "terms",
+            .written = &FileFlags::terms,
+            .root = "term_data",
+            .record = "term",
+            .fields = FieldsOf(Store.Term, TermFields),
+            .counted = &Store.Term.name,
+            .nextId = &NextTermID};
 }
 
 RecordFile ClassFile() {
-    return {"classes.xml",           "class_data", "class", FieldsOf(Store.ClassRecord, ClassFields),
-            &Store.ClassRecord.name, &NextClassID};
+    return {.name = "classes.xml",
+            .kind = "classes",
+            .written = &FileFlags::classes,
+            .root = "class_data",
+            .record = "class",
+            .fields = FieldsOf(Store.ClassRecord, ClassFields),
+            .counted = &Store.ClassRecord.name,
+            .nextId = &NextClassID};
 }
 
 RecordFile AssignmentFile() {
-    return {"assignments_" + std::to_string(ActiveTermID) + ".xml", "assignment_data",    "assignment",
-            FieldsOf(Store.Assignment, AssignmentFields),           &Store.Assignment.id, &NextAssignmentID};
+    return {.name = "assignments_" + std::to_string(ActiveTermID) + ".xml",
+            .kind = "assignments",
+            .written = &FileFlags::assignments,
+            .root = "assignment_data",
+            .record = "assignment",
+            .fields = FieldsOf(Store.Assignment, AssignmentFields),
+            .counted = &Store.Assignment.id,
+            .nextId = &NextAssignmentID};
 }
 
 RecordFile TaskFile() {
-    return {"tasks.xml",          "task_data", "task", FieldsOf(Store.TaskRecord, TaskFields),
-            &Store.TaskRecord.id, &NextTaskID};
+    return {.name = "tasks.xml",
+            .kind = "tasks",
+            .written = &FileFlags::tasks,
+            .root = "task_data",
+            .record = "task",
+            .fields = FieldsOf(Store.TaskRecord, TaskFields),
+            .counted = &Store.TaskRecord.id,
+            .nextId = &NextTaskID};
 }
 
 RecordFile EventFile() {
-    return {"events.xml",          "event_data", "event", FieldsOf(Store.EventRecord, EventFields),
-            &Store.EventRecord.id, &NextEventID};
+    return {.name = "events.xml",
+            .kind = "events",
+            .written = &FileFlags::events,
+            .root = "event_data",
+            .record = "event",
+            .fields = FieldsOf(Store.EventRecord, EventFields),
+            .counted = &Store.EventRecord.id,
+            .nextId = &NextEventID};
+}
+
+std::array<RecordFile, 5> RecordFiles() {
+    return {TermFile(), ClassFile(), AssignmentFile(), TaskFile(), EventFile()};
 }
 
 void ReadTermsAndClasses() {

@@ -19,7 +19,7 @@ bool SaveRecordFile(const RecordFile& file) {
         ShowFileError(temporary, "writing");
         return false;
     }
-    *WrittenFlag(file.name) = true;
+    FileWrittenFlags.*file.written = true;
     // Errors ignored: whatever happens here, the records are whole in one of the two files.
     std::error_code ignored;
     std::filesystem::remove(file.name, ignored);

@@ -1,6 +1,6 @@
 target_sources(planovarium_logic PRIVATE
   persistence/Backups.cpp
-  persistence/FileDialogs.cpp
+  persistence/FileMessages.cpp
   persistence/Folders.cpp
   persistence/RecordFileText.cpp
   persistence/RecordFiles.cpp

@@ -6,6 +6,7 @@
 
 #include "core/Module1.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,15 +24,12 @@ bool EnterDataFolder();
 
 // --- Messages ----------------------------------------------------------------------------------------------
 
-// Tells that reading or writing a file failed (the action is "reading" or "writing"), and clears the file's
-// written flag, so that its backups stay as they are.
+// Tells that reading or writing a file failed (the action is "reading" or "writing"), and clears the written
+// flag of the record file whose name begins alike, so that its backups stay as they are.
 void ShowFileError(std::string_view fileName, std::string_view action);
 
 // Tells that the data folder could not be entered.
 void ShowDirectoryError();
-
-// The written flag of a record file, told by how its name begins; null for any other file.
-bool* WrittenFlag(std::string_view fileName);
 
 // --- Record files ------------------------------------------------------------------------------------------
 
@@ -45,6 +43,8 @@ struct RecordField {
 
 struct RecordFile {
     std::string name;                // the bare file name
+    std::string_view kind;           // what the name begins with
+    bool FileFlags::*written;        // the file's flag
     std::string root;                // the tag around all records
     std::string record;              // the tag around each
     std::vector<RecordField> fields; // in the order in which they are written
@@ -57,6 +57,9 @@ RecordFile ClassFile();
 RecordFile AssignmentFile(); // of the active term
 RecordFile TaskFile();
 RecordFile EventFile();
+
+// All five, in this order.
+std::array<RecordFile, 5> RecordFiles();
 
 // Reads the file's records behind those that its lists hold, and sets the id counter from this file alone. A
 // missing file is created without records. False after the reading or the directory message; what was read
