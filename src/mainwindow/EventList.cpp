@@ -1,6 +1,5 @@
 // The list of events. Events mode shows the schedule of a day instead; the list is part of the design all the
 // same.
-#include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "mainwindow/ListGrid.h"
@@ -10,15 +9,6 @@
 #include "planner/RowLook.h"
 #include "planner/RowSorts.h"
 #include "platform/Text.h"
-
-namespace {
-
-GridCell TimeCell(const std::string& time) {
-    const auto clock = TimeIn(time);
-    return clock ? GridCell{FromScreen(FormatTime(*clock, "Medium Time"))} : GridCell{};
-}
-
-} // namespace
 
 GridRow EventGridRow(int row) {
     const EventLists& store = Store.EventRecord;

@@ -118,10 +118,9 @@ QString DayText(const CalendarMonth& month, std::size_t cell) {
 QString EventText(int eventRow, int column) {
     const EventLists& store = Store.EventRecord;
     const int index = EventRows.Item(eventRow);
-    const auto time = TimeIn(store.time.Item(index));
     switch (column) {
     case TimeColumn:
-        return time ? FromScreen(FormatTime(*time, "Medium Time")) : QString();
+        return TimeCell(store.time.Item(index)).text;
     case LengthColumn:
         return FromStore(store.duration.Item(index));
     default:

@@ -55,6 +55,11 @@ GridCell ClockCell(std::string_view clock) {
     return TextCell(ShownClock(clock));
 }
 
+GridCell TimeCell(std::string_view time) {
+    const std::optional<TimeOfDay> clock = TimeIn(time);
+    return clock ? TextCell(StoredTime(*clock)) : GridCell{};
+}
+
 GridCell DateCell(Date date) {
     return {FromScreen(FormatDate(date, "Medium Date"))};
 }

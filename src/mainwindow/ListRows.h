@@ -48,6 +48,9 @@ GridCell NameCell(std::string_view text, std::string_view instead = " ");
 // A clock length without its blanks.
 GridCell ClockCell(std::string_view clock);
 
+// The time of day in the stored form; nothing for a text that is no time.
+GridCell TimeCell(std::string_view time);
+
 // The date of a stored moment in the form "Medium Date".
 GridCell DateCell(std::string_view date);
 GridCell DateCell(Date date);

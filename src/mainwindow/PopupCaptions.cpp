@@ -8,7 +8,6 @@
 #include "mainwindow/GridLayout.h"
 #include "planner/RowLook.h"
 #include "planner/SeriesRule.h"
-#include "platform/Formats.h"
 
 #include <array>
 #include <span>
@@ -108,7 +107,7 @@ std::string EventCaption(int row) {
     const int index = EventRows.Item(row);
     std::string caption;
     if (const auto time = TimeIn(store.time.Item(index))) {
-        caption += "(" + FormatTime(*time, "Medium Time").utf8 + ")  ";
+        caption += "(" + StoredTime(*time) + ")  ";
     }
     caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
     caption += MarkIf(IsSeries(index), RecurrenceMark);

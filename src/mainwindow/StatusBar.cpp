@@ -1,4 +1,5 @@
 // The status bar and its clock.
+#include "core/DateText.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Formats.h"
 #include "platform/Text.h"
@@ -17,7 +18,7 @@ QString ClockText() {
     const Moment now = Now();
     const Date today = std::chrono::floor<std::chrono::days>(now);
     return FromScreen(FormatDate(today, "Long Date")) + QStringLiteral("      ") +
-           FromScreen(FormatTime(now - today, "Medium Time"));
+           FromStore(StoredTime(now - today));
 }
 
 } // namespace

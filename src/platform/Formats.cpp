@@ -1,11 +1,10 @@
-// The user's forms of dates and times, from the locale of the desktop session.
+// The user's forms of dates, from the locale of the desktop session.
 #include "platform/Formats.h"
 
 #include <QDate>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QStringList>
-#include <QTime>
 
 #include <array>
 
@@ -88,10 +87,4 @@ ScreenText FormatDate(Date date, std::string_view form) {
         }
     }
     return {};
-}
-
-// The same in every language, so that a time that an editor has rewritten reads back as a time.
-ScreenText FormatTime(TimeOfDay time, std::string_view) {
-    const QTime clock = QTime::fromMSecsSinceStartOfDay(static_cast<int>(time.count()) * 1000);
-    return {QLocale::c().toString(clock, QStringLiteral("hh:mm AP")).toStdString()};
 }

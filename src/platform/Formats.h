@@ -1,4 +1,4 @@
-// The user's forms of dates and times: what the screen shows, and the order in which a short date is read.
+// The user's forms of dates: what the screen shows, and the order in which a short date is read.
 // The C locale counts as US English.
 #pragma once
 
@@ -25,6 +25,3 @@ DateOrder LocaleDateOrder();
 // order, four of them the year, so that it reads back as the same day), "dddd, mmm d", "dddd, MMMM d"
 // and "MMMM".
 ScreenText FormatDate(Date date, std::string_view form);
-
-// A time in the form "Medium Time" (09:00 AM).
-ScreenText FormatTime(TimeOfDay time, std::string_view form);

@@ -81,14 +81,6 @@ ScreenText FormatDate(Date date, std::string_view form) {
     return {};
 }
 
-ScreenText FormatTime(TimeOfDay time, std::string_view) {
-    const std::chrono::hh_mm_ss parts{time};
-    const int hour = static_cast<int>(parts.hours().count());
-    const int shown = hour % 12 == 0 ? 12 : hour % 12;
-    return {Padded(shown) + ":" + Padded(static_cast<int>(parts.minutes().count())) +
-            (hour < 12 ? " AM" : " PM")};
-}
-
 Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) {
     Script.boxes.push_back({std::string(title), std::string(text), buttons, icon});
     if (Script.whileBoxIsOpen) {
