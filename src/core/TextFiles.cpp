@@ -3,11 +3,11 @@
 
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "platform/CharacterSet.h"
 #include "platform/Process.h"
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <system_error>
 
 namespace {
@@ -20,7 +20,15 @@ void ChangeToDataFolder() {
     std::error_code error;
     std::filesystem::current_path(DataFolder, error);
     if (error) {
-        throw RunTimeError("Folder cannot be entered", DataFolder.string());
+        throw RunTimeError("Folder cannot be entered", PathText(DataFolder));
+    }
+}
+
+std::string PathText(const std::filesystem::path& path) {
+    try {
+        return StoreText(path.u16string());
+    } catch (const std::filesystem::filesystem_error&) {
+        return path.string(); // its bytes are no UTF-8
     }
 }
 
@@ -76,7 +84,7 @@ void WriteBytes(OutputFile& file, std::string_view bytes) {
 }
 
 void SyncAndClose(OutputFile file) {
-    const bool synced = std::fflush(file.get()) == 0 && SyncToDevice(file.get());
+    const bool synced = SyncToDevice(file.get());
     const bool closed = std::fclose(file.release()) == 0;
     if (!synced || !closed) {
         throw RunTimeError(WritingFailed);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,6 +13,9 @@ inline constexpr std::string_view LineEnd = "\r\n";
 // Makes the data folder the current one; from then on its files go by their bare names. Raises the run-time
 // error when the folder cannot be entered.
 void ChangeToDataFolder();
+
+// The path in the store's character set, as messages show it.
+std::string PathText(const std::filesystem::path& path);
 
 // All bytes of the file; raises the run-time error when it cannot be opened or read.
 std::string FileBytes(const std::string& name);

@@ -2,15 +2,17 @@
 #include "mainwindow/ProcessMarker.h"
 
 #include "core/RunTimeError.h"
+#include "core/TextFiles.h"
 #include "platform/Process.h"
 
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 
 namespace {
 
 std::filesystem::path MarkerPath() {
-    const std::filesystem::path folder = EnvironmentValue("U3_HOST_EXEC_PATH");
+    const std::filesystem::path folder = EnvironmentValue(HostFolderVariable);
     return folder / (std::to_string(ProcessNumber()) + ".PID");
 }
 
@@ -20,10 +22,15 @@ void MakeProcessMarker() {
     const std::filesystem::path path = MarkerPath();
     std::ofstream marker(path);
     if (!marker) {
-        throw RunTimeError("Cannot write the file", path.string());
+        throw RunTimeError("Cannot write the file", PathText(path));
     }
 }
 
 void DeleteProcessMarker() {
-    std::filesystem::remove(MarkerPath());
+    const std::filesystem::path path = MarkerPath();
+    std::error_code error;
+    std::filesystem::remove(path, error);
+    if (error) {
+        throw RunTimeError("Cannot delete the file", PathText(path));
+    }
 }

@@ -4,5 +4,5 @@
 // Makes the marker; raises the run-time error when it cannot.
 void MakeProcessMarker();
 
-// Deletes the marker where it exists.
+// Deletes the marker where it exists; raises the run-time error when it cannot.
 void DeleteProcessMarker();

@@ -9,8 +9,6 @@
 
 #include <QApplication>
 
-#include <filesystem>
-
 namespace {
 
 // An error leaves the rest of the steps undone, and the process goes on ending.
@@ -26,8 +24,6 @@ void RunShutdownSteps(const frmMain& window) {
         RotateBackups();
         RemoveTrayIcon();
     } catch (const RunTimeError&) {
-        return;
-    } catch (const std::filesystem::filesystem_error&) {
         return;
     }
 }

@@ -16,7 +16,7 @@ void CreateWhereMissing(const std::filesystem::path& folder) {
     }
     std::filesystem::create_directory(folder, error);
     if (error) {
-        throw RunTimeError("Folder cannot be created", folder.string());
+        throw RunTimeError("Folder cannot be created", PathText(folder));
     }
 }
 
@@ -33,8 +33,8 @@ bool DataFolderEntered() {
 } // namespace
 
 bool SetupFolders() {
-    HelpFile = std::filesystem::path(EnvironmentValue("U3_DEVICE_EXEC_PATH")) / "PlanovariumHelp.chm";
-    DocumentFolder = std::filesystem::path(EnvironmentValue("U3_DEVICE_DOCUMENT_PATH")) / "Planovarium";
+    HelpFile = std::filesystem::path(EnvironmentValue(ProgramFolderVariable)) / "PlanovariumHelp.chm";
+    DocumentFolder = std::filesystem::path(EnvironmentValue(DocumentFolderVariable)) / "Planovarium";
     DataFolder = DocumentFolder / "Data";
     BackupFolder = DataFolder / "Backup";
     for (const std::filesystem::path& folder : {DocumentFolder, DataFolder, BackupFolder}) {

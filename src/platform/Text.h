@@ -1,7 +1,4 @@
 // The one place where the store's bytes become text of the screen and back.
-// The store holds one byte a character, read as a page labelled ISO-8859-1 is read: 0x80 to 0x9F are the
-// letters of windows-1252, and its five unused bytes the control characters of the same number, as the
-// Encoding Standard of the WHATWG has it.
 #pragma once
 
 #include "platform/Formats.h"

@@ -1,6 +1,7 @@
 // The load, the tray menu and the shutdown, as the main window runs them.
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "mainwindow/ProcessMarker.h"
 #include "support/WindowTest.h"
 
 #include <QtTest/qtestspontaneevent.h>
@@ -319,6 +320,17 @@ TEST_F(Process, ShutdownWithoutTheMarkerGoesOn) {
     window->Unload();
     EXPECT_TRUE(DataExists("Prefs.ini"));
     EXPECT_EQ(Script.trayTip, "");
+}
+
+TEST_F(Process, AMarkerThatCannotBeDeletedIsARunTimeErrorAndEndsTheShutdownsSteps) {
+    LoadWindow();
+    const std::filesystem::path marker = drive / "Host" / MarkerName();
+    std::filesystem::remove(marker);
+    std::filesystem::create_directories(marker / "not empty");
+    EXPECT_THROW(DeleteProcessMarker(), RunTimeError);
+    window->Unload();
+    EXPECT_FALSE(DataExists("Prefs.ini"));
+    EXPECT_FALSE(window->isVisible()) << "the process goes on ending";
 }
 
 TEST_F(Process, ShutdownRotatesOnlyWhatWasWrittenInThisRun) {

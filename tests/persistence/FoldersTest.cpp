@@ -78,6 +78,26 @@ TEST_F(Folders, ThatCannotBeCreatedAreAProgramError) {
     EXPECT_EQ(Script.boxes, Boxes{});
 }
 
+TEST_F(Folders, ThatCannotBeCreatedAreToldInTheCharactersOfTheStore) {
+    ::setenv("U3_DEVICE_DOCUMENT_PATH", "/J\xC3\xBCrgen \xE2\x82\xAC \xE2\x88\x9E", 1);
+    try {
+        SetupFolders();
+        FAIL() << "no folder can be created there";
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "Folder cannot be created: \"/J\xFCrgen \x80 ?/Planovarium\"");
+    }
+}
+
+TEST_F(Folders, WhoseNamesAreNoTextAreToldByteForByte) {
+    ::setenv("U3_DEVICE_DOCUMENT_PATH", "/J\xFCrgen", 1);
+    try {
+        SetupFolders();
+        FAIL() << "no folder can be created there";
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "Folder cannot be created: \"/J\xFCrgen/Planovarium\"");
+    }
+}
+
 // Anything of the folder's name counts as the folder; what then fails is the creation of the one below it.
 TEST_F(Folders, InWhosePlaceAFileLiesAreTakenAsExisting) {
     fs::create_directory(documents / "Planovarium");
