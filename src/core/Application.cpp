@@ -1,7 +1,6 @@
 // The application object: the one place that a run-time error reaches which nothing has handled.
 #include "core/Application.h"
 
-#include "core/RunTimeError.h"
 #include "platform/MessageBoxes.h"
 
 #include <cstdlib>

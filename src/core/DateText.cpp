@@ -20,10 +20,6 @@ using std::chrono::year_month_day;
 constexpr int FirstTwoDigitYearOf1900 = 30;
 constexpr std::string_view DateSeparators = "/-.";
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 // One to four digits; nothing for any other text.
 std::optional<int> Digits(std::string_view text) {
     if (text.empty() || text.size() > 4 || !std::ranges::all_of(text, IsDigit)) {

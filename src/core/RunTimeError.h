@@ -7,11 +7,9 @@
 #include <string_view>
 
 struct RunTimeError : std::runtime_error {
+    // The text tells the value at fault where there is one.
     explicit RunTimeError(std::string_view text, std::string_view offendingValue = {})
         : std::runtime_error(offendingValue.empty()
                                  ? std::string(text)
-                                 : std::string(text) + ": \"" + std::string(offendingValue) + "\""),
-          value(offendingValue) {}
-
-    std::string value; // the text or number at fault, empty when there is none
+                                 : std::string(text) + ": \"" + std::string(offendingValue) + "\"") {}
 };

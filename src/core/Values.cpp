@@ -14,10 +14,6 @@ namespace {
 constexpr int GreatestColor = 0xFFFFFF;
 constexpr std::size_t GreatestBareLength = 9;
 
-bool IsDigit(char character) {
-    return character >= '0' && character <= '9';
-}
-
 // Letters beyond ASCII whose lower-case form is another byte: 0xC0 to 0xDE but for the multiplication sign
 // are 32 apart, and the letters of windows-1252 stand singly.
 unsigned char FoldLatin(unsigned char byte) {
@@ -74,7 +70,8 @@ int WholeBetween(int least, int greatest, double number) {
     return static_cast<int>(rounded);
 }
 
-bool EqualsAscii(std::string_view text, std::string_view lowerCase) {
+// What CompareFolded tells too, in half the time: the flags of every record are asked.
+bool EqualsFolded(std::string_view text, std::string_view lowerCase) {
     return std::ranges::equal(text, lowerCase, [](char a, char b) {
         return Folded[static_cast<unsigned char>(a)] == static_cast<unsigned char>(b);
     });
@@ -156,10 +153,10 @@ int ToColor(std::string_view text) {
 }
 
 bool IsTrue(std::string_view text) {
-    if (EqualsAscii(text, "true")) {
+    if (EqualsFolded(text, "true")) {
         return true;
     }
-    if (EqualsAscii(text, "false")) {
+    if (EqualsFolded(text, "false")) {
         return false;
     }
     throw RunTimeError("Neither True nor False", text);

@@ -12,6 +12,11 @@ inline constexpr int LeastInt16 = -32768;
 // The text that makes every reader of the store skip a record.
 inline constexpr std::string_view DeletedRecord = "DELETED RECORD";
 
+// True for "0" to "9".
+constexpr bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
+}
+
 // The text without the blanks (0x20 alone) at its ends, at its left end, at its right end.
 std::string_view Trim(std::string_view text);
 std::string_view LeftTrim(std::string_view text);

@@ -2,7 +2,6 @@
 #include "mainwindow/GridMoves.h"
 
 #include "planner/DateHelpers.h"
-#include "planner/MonthGrid.h"
 
 #include <algorithm>
 

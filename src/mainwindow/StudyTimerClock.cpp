@@ -1,6 +1,8 @@
 // The study timer's arithmetic: the time run so far, split and written out.
 #include "mainwindow/StudyTimerClock.h"
 
+#include "planner/DateHelpers.h"
+
 #include <cmath>
 
 namespace {
@@ -12,9 +14,8 @@ double SecondsBetween(Moment start, Moment end) {
     return static_cast<double>((end - start).count());
 }
 
-std::string TwoDigits(double value) {
-    const std::string digits = "0" + std::to_string(static_cast<long long>(value));
-    return digits.substr(digits.size() - 2);
+std::string WholePart(double value) {
+    return TwoDigits(static_cast<std::int64_t>(value));
 }
 
 } // namespace
@@ -40,10 +41,10 @@ void ResetTimer(StudyTimerClock& timer) {
 }
 
 std::string TimerText(const StudyTimerClock& timer) {
-    const std::string hours = TwoDigits(timer.TimerHours);
-    const std::string minutes = TwoDigits(timer.TimerMinutes);
+    const std::string hours = WholePart(timer.TimerHours);
+    const std::string minutes = WholePart(timer.TimerMinutes);
     if (timer.ShowSeconds) {
-        return hours + ":" + minutes + ":" + TwoDigits(timer.TimerSeconds);
+        return hours + ":" + minutes + ":" + WholePart(timer.TimerSeconds);
     }
     const bool odd = std::fmod(timer.TimerSeconds, 2) != 0;
     return hours + (odd ? " " : ":") + minutes;

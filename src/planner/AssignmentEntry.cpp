@@ -18,7 +18,7 @@ constexpr int FallbackMinutes = 30;
 constexpr std::size_t WordLimit = 10;
 
 bool IsEstimateCharacter(char character) {
-    return character == ' ' || (character >= '0' && character <= ':');
+    return character == ' ' || character == ':' || IsDigit(character);
 }
 
 } // namespace
@@ -26,8 +26,7 @@ bool IsEstimateCharacter(char character) {
 std::string ValidatePercent(std::string_view text) {
     std::string digits(text);
     std::erase(digits, '%');
-    const bool allDigits = std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
-    if (digits.empty() || digits.size() > GreatestPercentLength || !allDigits) {
+    if (digits.empty() || digits.size() > GreatestPercentLength || !std::ranges::all_of(digits, IsDigit)) {
         return "0%";
     }
     const int percent = ToInt16(digits);

@@ -89,7 +89,7 @@ std::optional<Decimal> DecimalIn(std::string_view text) {
     const std::size_t point = number.find('.');
     const int scale = point == std::string_view::npos ? 0 : static_cast<int>(number.size() - point - 1);
     std::string figures;
-    std::ranges::copy_if(number, std::back_inserter(figures), [](char c) { return c >= '0' && c <= '9'; });
+    std::ranges::copy_if(number, std::back_inserter(figures), IsDigit);
     return Signed(WithoutZerosInFront(std::move(figures)), scale, number.starts_with('-'));
 }
 

@@ -42,8 +42,7 @@ bool IsComparableMoment(std::string_view text) {
         return false;
     }
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool digit = text[i] >= '0' && text[i] <= '9';
-        if (StoredMomentForm[i] == 'd' ? !digit : text[i] != StoredMomentForm[i]) {
+        if (StoredMomentForm[i] == 'd' ? !IsDigit(text[i]) : text[i] != StoredMomentForm[i]) {
             return false;
         }
     }

@@ -55,6 +55,24 @@ TEST(AllDatesConstant, IsDayNumber19583) {
     EXPECT_EQ(DayDiff(Date{1899y / 12 / 30}, AllDates), 19583);
 }
 
+TEST(ClockTexts, AreSpacedInTheEditors) {
+    EXPECT_EQ(SpacedClock(0), "00 : 00");
+    EXPECT_EQ(SpacedClock(105), "01 : 45");
+    EXPECT_EQ(ClockToMinutes(SpacedClock(5999)), 5999);
+}
+
+TEST(Months, RunFromTheirFirstDayToTheirLastWithoutAGap) {
+    for (std::chrono::year_month month{2000y / 1}; month < 2400y / 1; month += std::chrono::months{1}) {
+        const Date first = FirstOfMonth(month);
+        const Date last = LastOfMonth(month);
+        ASSERT_EQ(MonthOf(first), month);
+        ASSERT_EQ(MonthOf(last), month);
+        ASSERT_EQ(DayOfMonth(first), 1);
+        ASSERT_EQ(DayOfMonth(last), DaysInMonth(month));
+        ASSERT_EQ(last + std::chrono::days{1}, FirstOfMonth(month + std::chrono::months{1}));
+    }
+}
+
 TEST(ClockTexts, KeepTheLastTwoDigits) {
     EXPECT_EQ(MinutesToClock(0), "00:00");
     EXPECT_EQ(MinutesToClock(59), "00:59");

@@ -34,6 +34,7 @@ target_sources(logic_tests PRIVATE
   planner/RowSortsPropertyTest.cpp
   planner/RowSortsTest.cpp
   planner/SeriesEditsTest.cpp
+  planner/SeriesRuleTest.cpp
   planner/SortedRows.cpp
   planner/StudyBalanceTest.cpp
   planner/StudyTimeAlertTest.cpp
