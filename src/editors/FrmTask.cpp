@@ -71,8 +71,8 @@ void FrmTask::BindControls() {
     connect(ComboPriority, &QComboBox::activated, this, changed);
     connect(ComboPercentComplete, &QComboBox::activated, this, &FrmTask::TakePercent);
     connect(CheckBoxDone, &QCheckBox::toggled, this, &FrmTask::DoneClicked);
-    connect(CheckboxReminder, &QCheckBox::clicked, this, &FrmTask::ReminderClicked);
-    connect(CheckBoxDeadline, &QCheckBox::clicked, this, [this] {
+    connect(CheckboxReminder, &QCheckBox::toggled, this, &FrmTask::ReminderClicked);
+    connect(CheckBoxDeadline, &QCheckBox::toggled, this, [this] {
         PaintDeadline();
         ChangeFlag = true;
     });
@@ -181,7 +181,6 @@ void FrmTask::TakeDate(Date date) {
     if (Picker->DateTarget) {
         ShowDateField(tempTaskDate, TextboxTaskDate, date);
         CheckBoxDeadline->setChecked(true);
-        PaintDeadline();
     } else {
         ShowDateField(tempTaskReminderDate, TextboxReminderDate, date);
         SetAlarm();

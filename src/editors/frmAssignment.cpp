@@ -73,7 +73,7 @@ void frmAssignment::BindControls() {
     }
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
     connect(CheckBoxDone, &QCheckBox::toggled, this, &frmAssignment::DoneClicked);
-    connect(CheckboxReminder, &QCheckBox::clicked, this, &frmAssignment::ReminderClicked);
+    connect(CheckboxReminder, &QCheckBox::toggled, this, &frmAssignment::ReminderClicked);
     connect(Picker, &DatePicker::DatePicked, this, &frmAssignment::TakeDate);
     connect(ButtonOK, &QPushButton::clicked, this, &frmAssignment::accept);
     connect(ButtonCancel, &QPushButton::clicked, this, &frmAssignment::reject);

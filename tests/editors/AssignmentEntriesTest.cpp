@@ -234,6 +234,16 @@ TEST_F(AssignmentEntries, ReminderClickEnablesColoursAndSetsTheAlarm) {
     EXPECT_TRUE(dialog->ChangeFlag);
 }
 
+TEST_F(AssignmentEntries, BoxesTakeTheScreenReadersToggleAsAClick) {
+    dialog->tempAssignmentReminderAlarm.clear();
+    ToggleByScreenReader(dialog->CheckboxReminder);
+    ExpectReminder(*dialog, true);
+    EXPECT_EQ(dialog->tempAssignmentReminderAlarm, "2009/10/20 09:00:00");
+    EXPECT_TRUE(dialog->ChangeFlag);
+    ToggleByScreenReader(dialog->CheckBoxDone);
+    EXPECT_EQ(dialog->ComboPercentComplete->currentText(), "100%");
+}
+
 TEST_F(AssignmentEntries, ReminderTimeIsRewrittenAndSetsTheAlarm) {
     struct Case {
         const char *typed, *time, *alarm;

@@ -5,6 +5,7 @@
 #include "core/DateText.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
 
@@ -100,6 +101,11 @@ void EditorTest::ExpectTopics(const QDialog& dialog,
         ASSERT_NE(control, nullptr) << name;
         EXPECT_EQ(control->property("helpTopic").toInt(), number) << name;
     }
+}
+
+void EditorTest::ToggleByScreenReader(QCheckBox* box) {
+    QAccessible::queryAccessibleInterface(box)->actionInterface()->doAction(
+        QAccessibleActionInterface::toggleAction());
 }
 
 ShownBox EditorTest::Message(const std::string& text) {

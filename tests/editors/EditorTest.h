@@ -47,6 +47,9 @@ protected:
 
     static void Click(QWidget* widget);
 
+    // Ticks the box or not, as a screen reader does.
+    static void ToggleByScreenReader(QCheckBox* box);
+
     // What the window system sends for the close box.
     static void PressCloseBox(QDialog& dialog);
 

@@ -290,6 +290,18 @@ TEST_F(TaskEditor, ReminderClickEnablesColoursAndSetsTheAlarm) {
     ExpectReminder(*dialog, false);
 }
 
+TEST_F(TaskEditor, BoxesTakeTheScreenReadersToggleAsAClick) {
+    Open(*dialog, "New");
+    dialog->tempTaskReminderAlarm.clear();
+    ToggleByScreenReader(dialog->CheckboxReminder);
+    ExpectReminder(*dialog, true);
+    EXPECT_EQ(dialog->tempTaskReminderAlarm, "2009/10/20 09:00:00");
+    dialog->ChangeFlag = false;
+    ToggleByScreenReader(dialog->CheckBoxDeadline);
+    EXPECT_EQ(BackColorOf(dialog->LabelDeadline), 0x808080);
+    EXPECT_TRUE(dialog->ChangeFlag);
+}
+
 TEST_F(TaskEditor, ReminderTimeIsRewrittenAndSetsTheAlarm) {
     OpenEdit();
     TypeAndLeave(dialog->ComboReminderTime, "7:05 pm");
