@@ -2,6 +2,7 @@
 #include "core/DateText.h"
 #include "planner/DateHelpers.h"
 #include "planner/DayTotals.h"
+#include "planner/EventOccursOn.h"
 #include "planner/StudyTimeAlert.h"
 #include "planner/StudyTimeToday.h"
 #include "support/EventRecords.h"
@@ -95,7 +96,7 @@ BENCHMARK(HomeworkTotalsOfADay)->Unit(benchmark::kMillisecond);
 void EventTotalsOfADay(benchmark::State& state) {
     StoreTerm();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(EventDayTotals(FirstDay));
+        benchmark::DoNotOptimize(EventDayTotals(EventsOn(FirstDay)));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
 #include "planner/DayTotals.h"
+#include "planner/EventOccursOn.h"
 #include "planner/EventSelection.h"
 #include "planner/RowSorts.h"
 #include "platform/Text.h"
@@ -84,11 +85,12 @@ void frmMain::LayoutEventGrid() {
 
 void frmMain::FillEventDay() {
     ShowTopTitlesOfDay(*this, "Events for ");
-    const EventDayBoxes boxes = EventDayTotals(ClickedDate);
+    const std::vector<int> eventsOfDay = EventsOn(ClickedDate);
+    const EventDayBoxes boxes = EventDayTotals(eventsOfDay);
     ShowBox(TextBoxSchedStudy, boxes.TextBoxSchedStudy);
     ShowBox(TextBoxClasses, boxes.TextBoxClasses);
     ShowBox(TextBoxOtherEvents, boxes.TextBoxOtherEvents);
-    SelectEventsForDay(ClickedDate, CurrentFilter());
+    SelectEventsForDay(ClickedDate, eventsOfDay, CurrentFilter());
     SortEventRowsByDuration(SortDirection);
     LayoutDayEvents(picGrid->WidthInUnits());
     SortEventRowsByColumn();

@@ -7,7 +7,6 @@
 #include "planner/ClassLink.h"
 #include "planner/Colors.h"
 #include "planner/DateHelpers.h"
-#include "planner/EventOccursOn.h"
 
 namespace {
 
@@ -51,15 +50,12 @@ HomeworkDayBoxes HomeworkDayTotals(Date day) {
             {MinutesToClock(minutes), color}};
 }
 
-EventDayBoxes EventDayTotals(Date day) {
+EventDayBoxes EventDayTotals(const std::vector<int>& eventsOfDay) {
     const EventLists& events = Store.EventRecord;
     DurationParts study;
     int ClassCount = 0;
     int OtherCount = 0;
-    for (int index = 1; index <= events.date.Count(); ++index) {
-        if (!EventOccursOn(day, index)) {
-            continue;
-        }
+    for (const int index : eventsOfDay) {
         const std::string& type = events.type.Item(index);
         if (type == StudyTimeType) {
             const DurationParts parts = DurationByWholeUnit(events.duration.Item(index));

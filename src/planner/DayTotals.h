@@ -4,6 +4,8 @@
 #include "planner/BoxText.h"
 #include "platform/Clock.h"
 
+#include <vector>
+
 struct HomeworkDayBoxes {
     BoxText TextBoxTotalAssignments;    // assignments due that day
     BoxText TextBoxFinishedAssignments; // those not done, under the caption "Assignments Left:"
@@ -20,6 +22,7 @@ struct EventDayBoxes {
     BoxText TextBoxOtherEvents;
 };
 
-// The events that occur on the day. Study time counts only in "Hours" and "Minutes", as those two words are
-// spelt, where the study alert takes any unit; the difference is meant. A bad text raises the run-time error.
-EventDayBoxes EventDayTotals(Date day);
+// The events that occur on a day, given by their positions. Study time counts only in "Hours" and "Minutes",
+// as those two words are spelt, where the study alert takes any unit; the difference is meant. A bad text
+// raises the run-time error.
+EventDayBoxes EventDayTotals(const std::vector<int>& eventsOfDay);

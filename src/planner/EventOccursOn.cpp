@@ -137,6 +137,17 @@ DayBits OccurringDays(std::span<const DayFacts> row, int index) {
     return open == 0 ? onFirst : onFirst | DaysOfRule(row, open, first, index);
 }
 
+std::vector<int> EventsOn(Date day) {
+    const DayFacts facts = FactsOf(day);
+    std::vector<int> positions;
+    for (int position = 1; position <= Store.EventRecord.date.Count(); ++position) {
+        if (OccurringDays({&facts, 1}, position) != 0) {
+            positions.push_back(position);
+        }
+    }
+    return positions;
+}
+
 std::optional<Date> TakeException(std::string_view& exceptions) {
     exceptions = LeftTrim(exceptions);
     if (exceptions.empty()) {

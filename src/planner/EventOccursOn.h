@@ -37,6 +37,9 @@ inline constexpr int GreatestDayBits = 64;
 // of EventOccursOn day by day, and the same errors, with each text of the record read only once.
 DayBits OccurringDays(std::span<const DayFacts> row, int index);
 
+// The positions of the events that occur on the day, in store order.
+std::vector<int> EventsOn(Date day);
+
 // The bit of the date; none when it lies outside the row.
 DayBits DayOf(std::span<const DayFacts> row, Date date);
 

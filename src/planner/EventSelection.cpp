@@ -44,15 +44,18 @@ void AddEventRow(int position, Date date, const ListFilter& filter) {
     EventRowType.Add(std::move(look.name));
 }
 
-void SelectEventsForDay(Date day, const ListFilter& filter) {
-    const EventLists& events = Store.EventRecord;
+void SelectEventsForDay(Date day, const std::vector<int>& eventsOfDay, const ListFilter& filter) {
     const std::vector<int> activeClassIds = ActiveClassIds();
     ClearRowsAndCounters();
-    for (int position = 1; position <= events.date.Count(); ++position) {
-        if (EventOccursOn(day, position) && BelongsToActiveTerm(events.type.Item(position), activeClassIds)) {
+    for (const int position : eventsOfDay) {
+        if (BelongsToActiveTerm(Store.EventRecord.type.Item(position), activeClassIds)) {
             AddEventRow(position, day, filter);
         }
     }
+}
+
+void SelectEventsForDay(Date day, const ListFilter& filter) {
+    SelectEventsForDay(day, EventsOn(day), filter);
 }
 
 void SelectEventRows(const ListFilter& filter) {

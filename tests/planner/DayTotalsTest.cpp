@@ -1,6 +1,7 @@
 // The counters beside the lists.
 #include "planner/DayTotals.h"
 #include "core/RunTimeError.h"
+#include "planner/EventOccursOn.h"
 #include "support/CaseName.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
@@ -34,7 +35,7 @@ void ExpectHomework(const BoxText& total, const BoxText& left, const BoxText& ti
 }
 
 void ExpectEvents(const std::string& study, const std::string& classes, const std::string& others) {
-    const EventDayBoxes boxes = EventDayTotals(Wednesday);
+    const EventDayBoxes boxes = EventDayTotals(EventsOn(Wednesday));
     EXPECT_EQ(boxes.TextBoxSchedStudy, (BoxText{study, White})) << boxes.TextBoxSchedStudy.text;
     EXPECT_EQ(boxes.TextBoxClasses, (BoxText{classes, White})) << boxes.TextBoxClasses.text;
     EXPECT_EQ(boxes.TextBoxOtherEvents, (BoxText{others, White})) << boxes.TextBoxOtherEvents.text;
@@ -149,5 +150,5 @@ TEST_F(DayTotals, CountOtherEventsOfTheDayAlone) {
 
 TEST_F(DayTotals, EndInTheRunTimeErrorAtADurationInHoursOfNoNumber) {
     AddStudy("many Hours");
-    EXPECT_THROW(EventDayTotals(Wednesday), RunTimeError);
+    EXPECT_THROW(EventDayTotals(EventsOn(Wednesday)), RunTimeError);
 }

@@ -54,6 +54,16 @@ TEST_F(Occurrence, OfASingleEventIsItsDate) {
     EXPECT_FALSE(OccursOn({.repeat_daily = "TTTTTTT"}, Date{2009y / 10 / 15}));
 }
 
+TEST_F(Occurrence, GivesThePositionsOfADaysEventsInStoreOrder) {
+    AddEventRecord({});
+    AddEventRecord({.date = "2009/10/15"});
+    AddEventRecord({.date = "2009/10/01", .recurrence = "Day", .repeat_daily = "TTTTTTT"});
+    AddEventRecord({.desc = "DELETED RECORD"});
+    AddEventRecord({});
+    EXPECT_EQ(EventsOn(Date{2009y / 10 / 14}), (std::vector<int>{1, 3, 5}));
+    EXPECT_EQ(EventsOn(Date{2009y / 9 / 30}), std::vector<int>{});
+}
+
 TEST_F(Occurrence, IsNotOnADateGivenUp) {
     const EventTexts series{
         .recurrence = "Day", .exceptions = "2009/10/16 2009/10/18", .repeat_daily = "TTTTTTT"};
