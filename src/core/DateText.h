@@ -33,8 +33,8 @@ Moment MomentValue(std::string_view text);
 // The stored form of a date: "yyyy/mm/dd".
 std::string StoredDate(Date date);
 
-// The stored form of a time, which the screen shows too: "09:00 AM", the same in every language, so that what
-// an editor has rewritten reads back. The seconds are dropped.
+// The stored form of a time, which is also the "Medium Time" that the screen shows: "09:00 AM", the same in
+// every language, so that what an editor has rewritten reads back. The seconds are dropped.
 std::string StoredTime(TimeOfDay time);
 
 // The stored form of a moment: "yyyy/mm/dd Hh:Nn:00". The seconds are dropped.
