@@ -122,6 +122,12 @@ TEST_F(AssignmentOpening, EditShowsTheFields) {
     EXPECT_EQ(dialog->tempAssignmentReminderAlarm, "2009/11/01 20:20:00");
 }
 
+TEST_F(AssignmentOpening, EditShowsTheTimeLeftOfTheRecordWhateverItsEstimate) {
+    dialog->tempAssignmentTimeLeft = "00 : 10";
+    OpenEdit();
+    EXPECT_EQ(dialog->TextBoxTimeLeft->text(), "00 : 10");
+}
+
 TEST_F(AssignmentOpening, EditComputesTheGradeAnewFromScoreAndTotal) {
     OpenEdit();
     EXPECT_EQ(dialog->TextBoxPercentage->text(), "82%");

@@ -55,6 +55,43 @@ TEST_F(TermEditor, EditedClassIsLoadedWithItsColoursAndKeepsThem) {
     EXPECT_EQ(BoxColorOf(dialog->TextBoxClassName), 0xFFFFFF);
 }
 
+TEST_F(TermEditor, EditedNotesAreSavedAndTheTextColourIsKept) {
+    OpenEdit();
+    OpenClass(1);
+    dialog->TextBoxNotes->setPlainText("Room 14\nFridays");
+    Click(dialog->ButtonOKClass);
+    EXPECT_EQ(dialog->tempClassNotesArray.values, (std::vector<std::string>{"", "", "Room 14\r\nFridays"}));
+    EXPECT_EQ(dialog->tempClassForeColorArray.values, (std::vector<std::string>{"0", "0", "255"}));
+}
+
+TEST_F(TermEditor, ListStaysOnTheClassThatWasEdited) {
+    OpenEdit();
+    AddClass("Latin");
+    ASSERT_EQ(ClassRows(), (QStringList{"Algebra", "History", "Latin"}));
+    OpenClass(1);
+    Type(dialog->TextBoxCredits, "4");
+    Click(dialog->ButtonOKClass);
+    EXPECT_EQ(dialog->ComboBoxClassList->currentIndex(), 1);
+}
+
+TEST_F(TermEditor, ListStandsOnTheLastClassOnceTheLastOneIsDeleted) {
+    OpenEdit();
+    AddClass("Latin");
+    OpenClass(2);
+    Script.answers = {Answer::Yes, Answer::Yes};
+    Click(dialog->ButtonDeleteClass);
+    EXPECT_EQ(ClassRows(), (QStringList{"Algebra", "History"}));
+    EXPECT_EQ(dialog->ComboBoxClassList->currentIndex(), 1);
+}
+
+TEST_F(TermEditor, ClassOkIsAChangeEvenOfNothing) {
+    OpenEdit();
+    OpenClass(0);
+    ASSERT_FALSE(dialog->ChangeFlag);
+    Click(dialog->ButtonOKClass);
+    EXPECT_TRUE(dialog->ChangeFlag);
+}
+
 TEST_F(TermEditor, ClassCancelLeavesTheLists) {
     OpenEdit();
     OpenClass(0);

@@ -63,6 +63,30 @@ TEST_F(TaskEditor, NewTaskOpensWithTheClickedDateAndADeadline) {
     EXPECT_EQ(BackColorOf(dialog->CheckBoxDone), 0xA0522D);
 }
 
+TEST_F(TaskEditor, NewTaskKeepsNothingOfTheTaskEditedBefore) {
+    Change = [](FrmTask& fields) {
+        fields.tempTaskDone = "True";
+        fields.tempTaskDateExists = "False";
+        fields.tempTaskType = TypeTable.key.Item(1);
+    };
+    OpenEdit();
+    Open(*dialog, "New");
+    EXPECT_EQ(dialog->TextBoxDescription->text(), "");
+    EXPECT_EQ(TextOf(dialog->TextBoxNotes), "");
+    EXPECT_FALSE(dialog->CheckboxReminder->isChecked());
+    EXPECT_EQ(dialog->tempTaskReminderList, "False");
+    ExpectReminder(*dialog, false);
+    EXPECT_EQ(dialog->ComboPriority->currentText(), "None");
+    EXPECT_EQ(dialog->ComboPercentComplete->currentText(), "0%");
+    EXPECT_EQ(dialog->ComboReminderTime->currentText(), "9:00 AM");
+    EXPECT_EQ(dialog->ComboType->currentText(), "None");
+    EXPECT_FALSE(dialog->CheckBoxDone->isChecked());
+    EXPECT_TRUE(dialog->CheckBoxDeadline->isChecked());
+    EXPECT_FALSE(dialog->ButtonDelete->isEnabled());
+    EXPECT_EQ(dialog->tempTaskDate, "10/20/2009");
+    EXPECT_EQ(dialog->tempTaskReminderDate, "10/20/2009");
+}
+
 TEST_F(TaskEditor, NewTaskKeepsTheReminderDisabledAndGrey) {
     Open(*dialog, "New");
     ExpectReminder(*dialog, false);

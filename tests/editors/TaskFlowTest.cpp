@@ -115,6 +115,12 @@ TEST_F(TaskFlow, EditReplacesEveryFieldButTheId) {
     EXPECT_NE(ReadData("tasks.xml").find("<desc>Second</desc>"), std::string::npos);
 }
 
+TEST_F(TaskFlow, ReminderThatIsOffStaysOnTheListAsItWas) {
+    AddTaskRecord({.reminder = "False", .reminder_list = "True"});
+    EditTask(1, Ok);
+    EXPECT_EQ(Tasks.reminder_list.Item(1), "True");
+}
+
 TEST_F(TaskFlow, CancelWithoutChangesAsksNothingAndWritesNothing) {
     AddTaskRecord({});
     const std::string before = ReadData("tasks.xml");

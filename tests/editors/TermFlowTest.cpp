@@ -146,6 +146,25 @@ TEST_F(TermFlow, NewTermMayHaveTheNameOfNoOtherOne) {
     EXPECT_EQ(Script.boxes, std::vector{Message("There is already a Term with this name.")});
 }
 
+TEST_F(TermFlow, DeletedTermIsNoneOfThePreviousOnes) {
+    Store.Term.id.Add("2");
+    Store.Term.name.Add("DELETED RECORD");
+    Store.Term.start.Add("2010/01/04");
+    Store.Term.end.Add("2010/05/04");
+    NextTermID = 3;
+    ChooseAndAct(TermChooser->ButtonNew, [] {
+        EXPECT_EQ(TermDialog->tempPreviousTermNamesArray.values, (std::vector<std::string>{"Fall 2009"}));
+        EXPECT_EQ(TermDialog->tempPreviousTermIDsArray.values, (std::vector<std::string>{"1"}));
+        EXPECT_EQ(TermDialog->tempPreviousTermStartArray.values, (std::vector<std::string>{"2009/09/01"}));
+        EXPECT_EQ(TermDialog->tempPreviousTermEndArray.values, (std::vector<std::string>{"2009/12/20"}));
+        Type(TermDialog->TextBoxTermName, "DELETED RECORD");
+        Click(TermDialog->ButtonOK);
+        EXPECT_FALSE(TermDialog->isVisible()) << "its name is free";
+        TermDialog->hide();
+    });
+    EXPECT_TRUE(Script.boxes.empty());
+}
+
 TEST_F(TermFlow, EditKnowsTheTermAsItWas) {
     ChooseAndAct(TermChooser->ButtonEdit, [] {
         EXPECT_EQ(TermDialog->tempTermID, "1");
@@ -189,6 +208,21 @@ TEST_F(TermFlow, NewTermIsStoredWrittenAndActive) {
               std::string::npos);
     EXPECT_NE(ReadData("classes.xml").find("<name>Latin</name>"), std::string::npos);
     EXPECT_EQ(NextTermID, 3);
+}
+
+TEST_F(TermFlow, FieldsOfAClassLoseTheirBlanksAtTheEnd) {
+    ChooseAndAct(TermChooser->ButtonNew, [] {
+        Type(TermDialog->TextBoxTermName, "Spring 2010");
+        Click(TermDialog->ButtonAddClass);
+        Type(TermDialog->TextBoxClassName, "  Latin  ");
+        Type(TermDialog->TextBoxCredits, "2 ");
+        TermDialog->TextBoxNotes->setPlainText("Room 12 ");
+        Click(TermDialog->ButtonOKClass);
+        Click(TermDialog->ButtonOK);
+    });
+    EXPECT_EQ(Store.ClassRecord.name.Item(3), "  Latin");
+    EXPECT_EQ(Store.ClassRecord.credits.Item(3), "2");
+    EXPECT_EQ(Store.ClassRecord.notes.Item(3), "Room 12");
 }
 
 TEST_F(TermFlow, CancelInTheTermDialogWritesNothing) {
@@ -264,6 +298,15 @@ TEST_F(TermFlow, CancelledTermKeepsTheDeletedClassAndItsAssignments) {
     EXPECT_EQ(Store.Assignment.desc.Count(), 1);
 }
 
+TEST_F(TermFlow, AssignmentOfAnotherTermsClassGoesWithTheTermsOk) {
+    AddClassRecord({.id = "9", .term = "2", .name = "Latin"});
+    AddAssignment("9", "Verbs");
+    AddAssignment("7", "Rome");
+    ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonOK); });
+    EXPECT_EQ(Store.Assignment.desc.values, (std::vector<std::string>{"Rome"}));
+    EXPECT_EQ(ReadData("assignments_1.xml").find("Verbs"), std::string::npos);
+}
+
 TEST_F(TermFlow, AssignmentFileIsWrittenOnlyWhenOneGoes) {
     ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonOK); });
     EXPECT_FALSE(FileWrittenFlags.assignments);
@@ -300,4 +343,18 @@ TEST_F(TermFlow, DialogsOpenBesideTheWindowTheFirstTime) {
     TermChooser->move(10, 20);
     Choose(TermChooser->ButtonCancel);
     EXPECT_EQ(TermChooser->pos(), QPoint(10, 20));
+}
+
+TEST_F(TermFlow, TermDialogOpensBesideTheWindowOnceAndThenWhereItWasLeft) {
+    window->move(100, 80);
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        EXPECT_EQ(TermDialog->pos(), QPoint(350, 130));
+        TermDialog->move(10, 20);
+        Click(TermDialog->ButtonCancel);
+    });
+    EXPECT_FALSE(CourseScheduleDBFirstOpen);
+    ChooseAndAct(TermChooser->ButtonEdit, [] {
+        EXPECT_EQ(TermDialog->pos(), QPoint(10, 20));
+        Click(TermDialog->ButtonCancel);
+    });
 }

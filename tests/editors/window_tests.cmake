@@ -7,6 +7,7 @@ target_sources(window_tests PRIVATE
   editors/DatePickerTest.cpp
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
+  editors/FlowRefreshTest.cpp
   editors/RandomWalkTest.cpp
   editors/TaskEditorTest.cpp
   editors/TaskFlowTest.cpp

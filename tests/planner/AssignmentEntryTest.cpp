@@ -53,6 +53,11 @@ TEST(EstimateEntries, FallBackToHalfAnHour) {
     }
 }
 
+TEST(EstimateEntries, HoldEightCharactersAndNoMore) {
+    EXPECT_EQ(ValidateEstimate("01 :  45"), "01 : 45");
+    EXPECT_EQ(ValidateEstimate("01 :   45"), "00 : 30");
+}
+
 TEST(EstimateEntries, TakeEachPartForItself) {
     EXPECT_EQ(ValidateEstimate(":"), "00 : 30");
     EXPECT_EQ(ValidateEstimate(":45"), "00 : 45");

@@ -130,13 +130,27 @@ TEST_F(EventRowsOf, DeletedEventsAreNone) {
 TEST_F(EventRowsOf, OneSelectionReplaceThoseOfTheLastAndTheirBoxes) {
     AddEventRecord({});
     SelectEventsForDay(Wednesday, Filter("All"));
-    EventBoxColumn.Add(1);
+    const std::array<NumberList*, 5> boxes{&EventBoxLeft, &EventBoxTop, &EventBoxWidth, &EventBoxHeight,
+                                           &EventBoxColumn};
+    for (NumberList* box : boxes) {
+        box->Add(1);
+    }
     SelectEventsForDay(Wednesday, Filter("All"));
-    EXPECT_EQ(EventRows.Count(), 1);
-    EXPECT_EQ(EventRowDate.Count(), 1);
+    EXPECT_EQ(EventRows.values, (Numbers{1}));
+    EXPECT_EQ(EventRowDate.values, (std::vector<Date>{Wednesday}));
     EXPECT_EQ(EventRowType.Count(), 1);
-    EXPECT_EQ(EventBoxColumn.Count(), 0);
+    EXPECT_EQ(EventRowForeColor.Count(), 1);
+    EXPECT_EQ(EventRowBackColor.Count(), 1);
+    for (const NumberList* box : boxes) {
+        EXPECT_EQ(box->Count(), 0);
+    }
     ExpectCounts(0, 1, 1);
+    AddEventRecord({.type = "Class"});
+    for (int time = 1; time <= 2; ++time) {
+        SelectEventRows(Filter("All", "Year"));
+        EXPECT_EQ(EventRows.values, (Numbers{1, 2}));
+        ExpectCounts(1, 1, 2);
+    }
 }
 
 TEST_F(EventRowsOf, ARangeAreTheOccurrencesOfTheWalk) {

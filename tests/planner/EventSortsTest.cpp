@@ -167,6 +167,17 @@ TEST_F(RowSorts, OfRemindersByClassCompareTheSentinelAsAText) {
     EXPECT_EQ(ReminderRows.values, (Numbers{1, 2, 3}));
 }
 
+TEST_F(RowSorts, OfRemindersByClassCountThoseWithoutOneAsTenLettersOrTenBlanks) {
+    AddReminderRow("Task", "zzzzzzzzzz", "", "", 1);
+    AddReminderRow("Task", "", "", "", 2);
+    AddReminderRow("Task", "zzzzzzzzzz", "", "", 3);
+    SortReminderRows(Up(ReminderColumn::Class));
+    EXPECT_EQ(ReminderRows.values, (Numbers{1, 2, 3}));
+    ReminderRowClass.values = {std::string(10, ' '), "", std::string(10, ' ')};
+    SortReminderRows(Down(ReminderColumn::Class));
+    EXPECT_EQ(ReminderRows.values, (Numbers{1, 2, 3}));
+}
+
 TEST_F(RowSorts, MoveEveryListOfReminders) {
     AddReminderRow("Task", "x", "Home", "b", 3);
     AddReminderRow("Event", "y", "Work", "a", 1);

@@ -218,6 +218,53 @@ TEST_F(GradePointAverage, HasALetterForEachStepOfItsPoints) {
     }
 }
 
+TEST_F(GradePointAverage, HasALetterForEachStepOfItsPlainPoints) {
+    struct Step {
+        const char* score;
+        const char* letter;
+        const char* average;
+    };
+
+    constexpr std::array<Step, 5> steps{{
+        {"95", "A", "4.00"},
+        {"85", "B", "3.00"},
+        {"75", "C", "2.00"},
+        {"65", "D", "1.00"},
+        {"55", "0", "0.00"},
+    }};
+    for (const Step& step : steps) {
+        ClassLetter(step.score, Plain);
+        const GPATable table = BuildGPATable(Plain);
+        EXPECT_EQ(table.GPAPercents.Item(1), step.average);
+        EXPECT_EQ(table.GPALetters.Item(1), step.letter) << step.average;
+    }
+}
+
+TEST_F(GradePointAverage, AHundredthBelowAPlainStepHasTheNextLetter) {
+    struct Step {
+        const char* score; // of ninety-nine credits
+        const char* lower; // of one
+        const char* letter;
+        const char* average;
+    };
+
+    constexpr std::array<Step, 4> steps{{
+        {"95", "85", "B", "3.99"},
+        {"85", "75", "C", "2.99"},
+        {"75", "65", "D", "1.99"},
+        {"65", "55", "E", "0.99"},
+    }};
+    for (const Step& step : steps) {
+        ResetAssignmentLists();
+        Store.ClassRecord = {};
+        AddGradedClass("1", step.score, "99");
+        AddGradedClass("2", step.lower, "1");
+        const GPATable table = BuildGPATable(Plain);
+        EXPECT_EQ(table.GPAPercents.Item(1), step.average);
+        EXPECT_EQ(table.GPALetters.Item(1), step.letter) << step.average;
+    }
+}
+
 TEST_F(GradePointAverage, JustBelowAStepHasTheNextLetter) {
     AddGradedClass("1", "95", "19");
     AddGradedClass("2", "85", "1"); // 3.95

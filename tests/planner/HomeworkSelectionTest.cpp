@@ -130,9 +130,18 @@ TEST_F(HomeworkRowsOf, OneSelectionReplaceThoseOfTheLast) {
     AddHomework("1", "2009/10/14");
     SelectHomeworkRows(Filter("All"));
     SelectHomeworkRows(Filter("All"));
-    EXPECT_EQ(HomeworkRows.Count(), 1);
-    EXPECT_EQ(RowClass.Count(), 1);
-    EXPECT_EQ(RowTimeLeft.Count(), 1);
+    EXPECT_EQ(HomeworkRows.values, (Numbers{1}));
+    EXPECT_EQ(RowClass.values, (Texts{"Algebra"}));
+    EXPECT_EQ(RowForeColor.values, (Numbers{1}));
+    EXPECT_EQ(RowBackColor.values, (Numbers{100}));
+    EXPECT_EQ(RowTimeLeft.values, (Texts{"01:30"}));
+    Store.Assignment = {};
+    SelectHomeworkRows(Filter("All"));
+    for (const NumberList* rows : {&HomeworkRows, &RowForeColor, &RowBackColor}) {
+        EXPECT_EQ(rows->Count(), 0);
+    }
+    EXPECT_EQ(RowClass.Count(), 0);
+    EXPECT_EQ(RowTimeLeft.Count(), 0);
 }
 
 TEST_F(HomeworkRowsOf, ARemovedClassTakeTheLookOfTheRowAfter) {
@@ -218,4 +227,19 @@ TEST_F(StudyRowsOf, TheTermAreAllOfThem) {
     AddLogEntry(Store.Assignment.id.Item(1), "2009/11/14", "00 : 30");
     SelectStudyRows(Filter("All", "Term"));
     EXPECT_EQ(StudyRowTime.values, (Numbers{1, 2}));
+}
+
+TEST_F(StudyRowsOf, OneSelectionReplaceThoseOfTheLast) {
+    AddHomework("1", "2009/10/14");
+    SelectHomeworkRows(Filter("All"));
+    AddLogEntry(Store.Assignment.id.Item(1), "2009/10/14", "01 : 00");
+    for (int time = 1; time <= 2; ++time) {
+        SelectStudyRows(Filter("All", "Term"));
+        for (const NumberList* rows : {&HomeworkRows, &StudyRowTime, &StudyRowDate}) {
+            EXPECT_EQ(rows->values, (Numbers{1}));
+        }
+        EXPECT_EQ(RowForeColor.values, (Numbers{1}));
+        EXPECT_EQ(RowBackColor.values, (Numbers{100}));
+        EXPECT_EQ(RowTimeLeft.Count(), 0) << "that is a row of homework";
+    }
 }

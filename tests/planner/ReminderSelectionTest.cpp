@@ -160,11 +160,21 @@ TEST_F(ReminderRowsOf, ASeriesStandsOnADateThatItHasGivenUp) {
 
 TEST_F(ReminderRowsOf, OneSelectionReplaceThoseOfTheLast) {
     AddTaskRecord({});
+    AddAssignmentRecord({});
+    AddEventRecord({});
     Select();
     Select();
-    EXPECT_EQ(ReminderRows.Count(), 1);
-    EXPECT_EQ(ReminderRowBackColor.Count(), 1);
-    EXPECT_EQ(ReminderTaskCount, 1);
+    for (const NumberList* rows :
+         {&ReminderRows, &ReminderRowDays, &ReminderRowForeColor, &ReminderRowBackColor}) {
+        EXPECT_EQ(rows->Count(), 3);
+    }
+    for (const TextList* rows : {&ReminderRowKind, &ReminderRowClass, &ReminderRowType, &ReminderRowText}) {
+        EXPECT_EQ(rows->Count(), 3);
+    }
+    EXPECT_EQ(ReminderRowDate.Count(), 3);
+    for (const int count : {ReminderTaskCount, ReminderHomeworkCount, ReminderEventCount}) {
+        EXPECT_EQ(count, 1);
+    }
 }
 
 TEST_F(ReminderRowsOf, ABadDateEndInTheRunTimeError) {

@@ -82,6 +82,14 @@ TEST_F(StudyToday, MarksTheMinimumWhereNothingMoreIsSuggested) {
     ExpectBoxes({"02:00", NotDone}, {"02:00", White});
 }
 
+TEST_F(StudyToday, MarksASuggestionOneMinuteAboveTheMinimum) {
+    AddHomework("2009/10/15", "01 : 00");
+    AddHomework("2009/10/16", "01 : 01"); // 121 minutes in two days
+    ExpectBoxes({"01:00", NotDone}, {"01:00", White});
+    Store.Assignment.est_time.Replace(2, "01 : 02");
+    ExpectBoxes({"01:00", White}, {"01:01", NotDone});
+}
+
 TEST_F(StudyToday, ReadsTheEstimateAndNotTheTimeLeft) {
     AddAssignmentRecord({.date = "2009/10/14", .est_time = "00 : 40", .time_left = "bad"});
     ExpectBoxes({"00:40", NotDone}, {"00:40", White});

@@ -114,6 +114,8 @@ TEST_F(TaskRowsOf, OneSelectionReplaceThoseOfTheLast) {
     EXPECT_EQ(TaskRowType.Count(), 2);
     EXPECT_EQ(TaskRowForeColor.Count(), 2);
     EXPECT_EQ(TaskRowBackColor.Count(), 2);
+    EXPECT_EQ(TaskCount, 2);
+    EXPECT_EQ(TaskDoneCount, 1);
 }
 
 TEST_F(TaskRowsOf, ADaysMenuAreItsDatedTasksDeletedOnesToo) {
@@ -165,8 +167,20 @@ TEST_F(TaskCounts, CountDeletedTasksAsTheyStand) {
 }
 
 TEST_F(TaskCounts, StartFromNothingEachTime) {
+    AddTaskRecord({.done = "True"});
     AddTaskRecord({});
+    AddTaskRecord({.date_exists = "False"});
     SelectTasks(Wednesday, {"All", "All", Wednesday});
+    for (int time = 1; time <= 2; ++time) {
+        ExpectBoxes({"2", White}, {"1", NotDoneFill}, {"1", NotDoneFill});
+        EXPECT_EQ(TaskDoneCount, 1);
+    }
+}
+
+TEST_F(TaskCounts, OfADaysMenuLeaveNothingOpenFromTheLastDay) {
+    AddTaskRecord({});
     CountTasks(Wednesday);
-    ExpectBoxes({"1", White}, {"1", NotDoneFill}, {"0", White});
+    EXPECT_EQ(TaskLeftCount, 1);
+    SelectTasksForDay(Wednesday);
+    EXPECT_EQ(TaskLeftCount, 0);
 }
