@@ -13,7 +13,7 @@ void frmMain::ShowAtStart(const std::string& commandLine) {
         show();
         return;
     }
-    // The menu stores "Full" where this looks for "Normal", so "Full" opens no window. It is meant to be so.
+    // The menu stores "Full" where this looks for "Normal", so "Full" opens no window, as is meant.
     if (AutoStart == "Normal") {
         show();
     } else if (AutoStart == "Min") {

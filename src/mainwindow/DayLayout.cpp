@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 24> HourLabels{
     "12 PM", "1 PM", "2 PM", "3 PM", "4 PM", "5 PM", "6 PM", "7 PM", "8 PM", "9 PM", "10 PM", "11 PM",
 };
 
-// The last one has no blank. It is meant so.
+// The last one has no blank, as is meant.
 constexpr std::array<std::string_view, HalfHours> StartTimes{
     "12:00 AM", "12:30 AM", "1:00 AM", "1:30 AM", "2:00 AM",  "2:30 AM",  "3:00 AM",  "3:30 AM",
     "4:00 AM",  "4:30 AM",  "5:00 AM", "5:30 AM", "6:00 AM",  "6:30 AM",  "7:00 AM",  "7:30 AM",

@@ -18,7 +18,7 @@ struct ModeRow {
 };
 
 // Study Sessions and Reminders leave Calendar alone: entered from it both are checked, and the window counts
-// as in Calendar mode. It is meant to be so.
+// as in Calendar mode, as is meant.
 inline constexpr std::array<ModeRow, ModeCount> ModeRows{{
     {Mode::Homework, "Homework Mode", 153, 112, 114, 8, false},
     {Mode::Calendar, "Calendar Mode", 154, 0, 0, 0, false},

@@ -10,7 +10,7 @@
 namespace {
 
 // What the closed dialog has for each field of the record but its id. A task without a deadline has the date
-// of the day on which it was last saved, and this is meant.
+// of the day on which it was last saved, as is meant.
 std::array<EnteredField<TaskLists>, TaskFields.size() - 1> EnteredFields(const FrmTask& dialog) {
     const bool deadline = dialog.CheckBoxDeadline->isChecked();
     return {{

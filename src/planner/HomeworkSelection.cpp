@@ -33,7 +33,7 @@ Date RangeDay(const ListFilter& filter) {
 }
 
 // The position of each row's class in the store. A row whose class has gone takes that of the row after it,
-// and the last one none; that is meant.
+// and the last one none, as is meant.
 std::vector<int> ClassOfRows() {
     const ClassPositions classes = ClassPositionsById();
     std::vector<int> positions;

@@ -35,5 +35,5 @@ enum class ReminderListColumn : int { Mode = 1, Type, Name, Time };
 // Sorts the eight lists together; rows that compare equal keep their order, and a column that the window does
 // not have leaves all of them. Texts are compared without regard to case. The days of tasks and homework and
 // the minutes of events are compared as plain numbers, so that an event in two hours sorts with a task in 120
-// days; it is meant.
+// days, as is meant.
 void SortReminderListRows(ReminderListRows& rows, SortOrder order);

@@ -17,9 +17,9 @@ struct TaskBoxes {
     BoxText TextBoxUndatedTasks;  // tasks without a date that are not done
 };
 
-// Sets the task counters, whatever the filters. Deleted tasks count as they stand; that is meant.
+// Sets the task counters, whatever the filters. Deleted tasks count as they stand, as is meant.
 TaskBoxes CountTasks(Date day);
 
-// Fills the rows of SelectTasks with the dated tasks of the day, whatever the filters, deleted ones included;
-// that is meant. TaskCount and TaskDoneCount count them.
+// Fills the rows of SelectTasks with the dated tasks of the day, whatever the filters, deleted ones included,
+// as is meant. TaskCount and TaskDoneCount count them.
 void SelectTasksForDay(Date day);

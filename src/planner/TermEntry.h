@@ -42,8 +42,7 @@ struct TermEntry {
 
 enum class TermCheck { Accepted, EndNotLater, NameMissing, NameTaken };
 
-// The first that holds. Names of terms are compared as they stand, unlike those of classes, and this is
-// meant.
+// The first that holds. Names of terms are compared as they stand, unlike those of classes, as is meant.
 TermCheck ValidateTerm(const TermEntry& entry, const TextList& names);
 
 std::string_view TermMessage(TermCheck check);

@@ -214,6 +214,17 @@ TEST_F(Assignments, AreReadAnewAtEachChangeOfTheTermWithEmptyListsAndCounter1) {
     }
 }
 
+TEST_F(Assignments, OfATermThatHasGoneAreThoseOfTheNextOneOfItsId) {
+    AddTerm("1", "Fall", "2009/08/24", "2009/12/18");
+    SetDataFile("assignments_2.xml", FileOf("assignment_data", AssignmentText("9", "of spring", "")));
+    WriteTermsAndClasses();
+    ReadTermsAndClasses();
+    ActiveTermID = NextTermID;
+    ReadAssignments();
+    EXPECT_EQ(ActiveTermID, 2);
+    EXPECT_EQ(Store.Assignment.desc.values, Texts{"of spring"});
+}
+
 TEST_F(Assignments, NameTheirFileInBothMessagesAndClearTheFlag) {
     ActiveTermID = 3;
     FileWrittenFlags.assignments = true;
