@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/TextFiles.h"
 #include "core/Values.h"
+#include "platform/Process.h"
 #include "platform/Units.h"
 
 #include <algorithm>
@@ -174,4 +175,5 @@ void WritePreferencesFile(const PreferenceValues& values) {
     }
     WriteBytes(file, text);
     SyncAndClose(std::move(file));
+    SyncFolder(DataFolder);
 }

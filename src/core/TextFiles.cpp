@@ -9,10 +9,19 @@
 #include <array>
 #include <cstdint>
 #include <system_error>
+#include <utility>
 
 namespace {
 
 constexpr const char* WritingFailed = "File cannot be written";
+
+OutputFile OpenOutput(const std::string& name, const char* mode) {
+    OutputFile file(std::fopen(name.c_str(), mode));
+    if (!file) {
+        throw RunTimeError("File cannot be opened for writing", name);
+    }
+    return file;
+}
 
 } // namespace
 
@@ -70,11 +79,7 @@ std::optional<std::string_view> TakeLine(std::string_view& text) {
 }
 
 OutputFile OpenForWriting(const std::string& name) {
-    OutputFile file(std::fopen(name.c_str(), "wb"));
-    if (!file) {
-        throw RunTimeError("File cannot be opened for writing", name);
-    }
-    return file;
+    return OpenOutput(name, "wb");
 }
 
 void WriteBytes(OutputFile& file, std::string_view bytes) {
@@ -89,4 +94,21 @@ void SyncAndClose(OutputFile file) {
     if (!synced || !closed) {
         throw RunTimeError(WritingFailed);
     }
+}
+
+void MakeFile(const std::string& name, const std::function<void(OutputFile&)>& write) {
+    OutputFile file = OpenOutput(name, "wbx");
+    try {
+        write(file);
+        SyncAndClose(std::move(file));
+    } catch (const RunTimeError&) {
+        std::error_code ignored;
+        std::filesystem::remove(name, ignored);
+        throw;
+    }
+}
+
+void CopyToNewFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+    const std::string bytes = FileBytes(from.string());
+    MakeFile(to.string(), [&bytes](OutputFile& file) { WriteBytes(file, bytes); });
 }

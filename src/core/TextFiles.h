@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -38,3 +39,11 @@ void WriteBytes(OutputFile& file, std::string_view bytes);
 
 // Hands all that was written to the device and closes the file; raises the run-time error when that fails.
 void SyncAndClose(OutputFile file);
+
+// Makes a file of what the procedure writes and hands it to the device; raises the run-time error when that
+// fails, or when the name is taken. A file that is not whole is taken away again.
+void MakeFile(const std::string& name, const std::function<void(OutputFile&)>& write);
+
+// Copies the bytes of a file, and nothing else of it, to a name that is free, onto the device; raises the
+// run-time error when that fails, and leaves no half copy.
+void CopyToNewFile(const std::filesystem::path& from, const std::filesystem::path& to);

@@ -2,17 +2,22 @@
 // saved.
 #include "persistence/modIO.h"
 
+#include "core/RunTimeError.h"
+#include "core/TextFiles.h"
+#include "platform/Process.h"
+
 #include <system_error>
 
 namespace {
 
 namespace fs = std::filesystem;
 
-// A copy that fails leaves no half file, which would pass for the newest generation.
-void CopyFile(const fs::path& from, const fs::path& to) {
-    std::error_code error;
-    if (!fs::copy_file(from, to, error)) {
-        fs::remove(to, error);
+// The bytes alone: a drive that was mounted for another owner refuses to set a file's mode.
+void CopyWherePossible(const fs::path& from, const fs::path& to) {
+    try {
+        CopyToNewFile(from, to);
+    } catch (const RunTimeError&) {
+        // Errors ignored: the generations move on without it.
     }
 }
 
@@ -32,11 +37,12 @@ void RotateFile(const std::string& name) {
     };
     std::error_code ignored;
     fs::remove(present, ignored);
-    CopyFile(DataFolder / name, present);
+    CopyWherePossible(DataFolder / name, present);
     fs::remove(generation(3), ignored);
     RenameWhereFree(generation(2), generation(3));
     RenameWhereFree(generation(1), generation(2));
     RenameWhereFree(present, generation(1));
+    SyncFolder(BackupFolder);
 }
 
 } // namespace

@@ -18,6 +18,7 @@ void CreateWhereMissing(const std::filesystem::path& folder) {
     if (error) {
         throw RunTimeError("Folder cannot be created", PathText(folder));
     }
+    SyncFolder(folder.parent_path());
 }
 
 // The path of the data folder names its drive where the system has drives, so one change does for both.

@@ -2,6 +2,7 @@
 #include "persistence/RecordFileText.h"
 
 #include "core/TextFiles.h"
+#include "platform/Process.h"
 
 #include <system_error>
 #include <utility>
@@ -24,5 +25,6 @@ bool SaveRecordFile(const RecordFile& file) {
     std::error_code ignored;
     std::filesystem::remove(file.name, ignored);
     std::filesystem::rename(temporary, file.name, ignored);
+    SyncFolder(DataFolder);
     return true;
 }

@@ -4,28 +4,28 @@
 
 #include "core/TextFiles.h"
 #include "core/Values.h"
+#include "platform/Process.h"
 
 #include <algorithm>
 #include <system_error>
-#include <utility>
 
 namespace {
 
-// A file that could not be written whole is taken away again: empty as it is, it would fail at every later
-// start.
+// A file that is empty would fail at every later start, so it is made whole under a name of its own: the one
+// that a save uses may hold the only copy of the records.
 void CreateWhereMissing(const RecordFile& file) {
     std::error_code error;
     if (std::filesystem::status(file.name, error).type() != std::filesystem::file_type::not_found) {
         return;
     }
-    OutputFile output = OpenForWriting(file.name);
-    try {
-        WriteRecords(output, file, 0);
-        SyncAndClose(std::move(output));
-    } catch (const RunTimeError&) {
-        std::filesystem::remove(file.name, error);
-        throw;
+    const std::string aside = file.name + ".new";
+    std::filesystem::remove(aside, error); // left over from a start that was cut short
+    MakeFile(aside, [&file](OutputFile& output) { WriteRecords(output, file, 0); });
+    std::filesystem::rename(aside, file.name, error);
+    if (error) {
+        throw RunTimeError("File cannot be renamed", aside);
     }
+    SyncFolder(DataFolder);
 }
 
 std::string_view NextLine(std::string_view& rest) {

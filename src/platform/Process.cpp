@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -79,4 +80,14 @@ void IgnoreFileSizeSignal() {
 
 bool SyncToDevice(std::FILE* file) {
     return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
+}
+
+bool SyncFolder(const std::filesystem::path& folder) {
+    const int opened = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened == -1) {
+        return false;
+    }
+    const bool synced = ::fsync(opened) == 0;
+    ::close(opened);
+    return synced;
 }

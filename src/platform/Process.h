@@ -39,3 +39,7 @@ void IgnoreFileSizeSignal();
 // Hands all that was written to the file, also what is still in its buffer, to the device; false when that
 // failed.
 bool SyncToDevice(std::FILE* file);
+
+// Hands the names in a folder, as they were made, changed and removed, to the device; false when that failed,
+// as it does where the file system cannot do it.
+bool SyncFolder(const std::filesystem::path& folder);

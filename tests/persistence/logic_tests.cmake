@@ -1,6 +1,7 @@
 target_sources(logic_tests PRIVATE
   persistence/BackupsTest.cpp
   persistence/DamagedFilesTest.cpp
+  persistence/DeviceOrderTest.cpp
   persistence/FoldersTest.cpp
   persistence/RecordPropertiesTest.cpp
   persistence/SaveUnderFaultTest.cpp

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 TEST(Process, BeyondTheLimitOfAFilesSizeFailsToWriteAndLivesOn) {
@@ -57,4 +58,14 @@ TEST(Process, FileIsHandedToTheDeviceOrNot) {
     std::fputs("text", full);
     EXPECT_FALSE(SyncToDevice(full));
     std::fclose(full);
+}
+
+TEST(Process, FolderIsHandedToTheDeviceOrNot) {
+    EXPECT_TRUE(SyncFolder("/tmp"));
+    EXPECT_FALSE(SyncFolder("/no/such/folder"));
+    EXPECT_FALSE(SyncFolder("/dev/null"));
+    EXPECT_TRUE(SucceedsInChild([] {
+        FailSystemCall(SYS_fsync, EIO);
+        EXPECT_FALSE(SyncFolder("/tmp"));
+    }));
 }

@@ -13,6 +13,7 @@ ScriptedPlatform Script;
 
 namespace {
 
+namespace fs = std::filesystem;
 using std::chrono::floor;
 
 constexpr std::array<const char*, 12> MonthNames{"January",   "February", "March",    "April",
@@ -20,6 +21,12 @@ constexpr std::array<const char*, 12> MonthNames{"January",   "February", "March
                                                  "September", "October",  "November", "December"};
 constexpr std::array<const char*, 7> DayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                               "Thursday", "Friday", "Saturday"};
+
+void NoteSync(const fs::path& path) {
+    if (Script.whileSyncing) {
+        Script.whileSyncing(path.filename().string());
+    }
+}
 
 std::string Padded(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
@@ -147,7 +154,18 @@ void OnTermination(const std::function<void()>&) {
 }
 
 bool SyncToDevice(std::FILE* file) {
-    return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
+    if (std::fflush(file) != 0 || ::fsync(::fileno(file)) != 0) {
+        return false;
+    }
+    const fs::path opened = "/proc/self/fd/" + std::to_string(::fileno(file));
+    std::error_code ignored;
+    NoteSync(fs::read_symlink(opened, ignored));
+    return true;
+}
+
+bool SyncFolder(const fs::path& folder) {
+    NoteSync(folder);
+    return fs::is_directory(folder);
 }
 
 ScreenSize PrimaryScreenSize() {

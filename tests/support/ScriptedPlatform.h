@@ -33,7 +33,8 @@ struct ScriptedPlatform {
     DateOrder dateOrder = DateOrder::MonthDayYear;
     std::vector<ShownBox> boxes; // every box shown, in order
     std::deque<Answer> answers;  // given to the next boxes; a box without one answers Ok, or No to a question
-    std::function<void(const ShownBox&)> whileBoxIsOpen; // runs while a box is on the screen
+    std::function<void(const ShownBox&)> whileBoxIsOpen;  // runs while a box is on the screen
+    std::function<void(const std::string&)> whileSyncing; // runs as a file or folder of that name is synced
     std::vector<std::string> fatalErrors;
     std::vector<std::string> opened; // addresses handed to the shell
     std::vector<StartedProcess> processes;
