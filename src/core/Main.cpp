@@ -1,4 +1,5 @@
-// The entry: one instance a user, no start outside the smart drive, the splash while the planner loads.
+// The entry: one instance a user and a drive, no start outside the smart drive, the splash while the planner
+// loads.
 #include "core/Application.h"
 #include "core/Module1.h"
 #include "core/frmSplash.h"
@@ -51,6 +52,20 @@ std::string CommandLine(int argc, char** argv) {
     return line;
 }
 
+// An error ends the process while the window still stands: a signal that comes during its box unloads the
+// window.
+bool LoadBehind(frmSplash& splash, frmMain& window) {
+    try {
+        const bool loaded = window.LoadPlanner();
+        splash.close();
+        return loaded;
+    } catch (const std::exception& error) {
+        splash.close();
+        Application::EndOnError(error.what());
+        return false;
+    }
+}
+
 int Run(const std::string& commandLine) {
     frmSplash splash;
     splash.PreviousFound = !ClaimFirstInstance();
@@ -58,15 +73,14 @@ int Run(const std::string& commandLine) {
         MsgBox("Launch Planovarium from your u3 Smart Drive.", Buttons::Ok, Icon::None, "Planovarium");
         return 0;
     }
+    splash.PreviousFound = splash.PreviousFound || !ClaimDrive(EnvironmentValue(DocumentFolderVariable));
     if (!splash.LoadSplash()) {
         return 0;
     }
     RedirectToolkitSettings();
     const auto window = std::make_unique<frmMain>();
     MainWindow = window.get();
-    const bool loaded = window->LoadPlanner();
-    splash.close();
-    if (!loaded) {
+    if (!LoadBehind(splash, *window)) {
         return 0;
     }
     window->ShowAtStart(commandLine);
@@ -77,6 +91,8 @@ int Run(const std::string& commandLine) {
 
 int main(int argc, char** argv) {
     IgnoreFileSizeSignal();
+    std::ranges::for_each(DriveVariables,
+                          &MakePathAbsolute); // the working directory is the data folder's later
     Application application(argc, argv);
     ApplyProgramStyle();
     SetApplicationProperties();

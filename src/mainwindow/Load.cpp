@@ -55,6 +55,7 @@ bool frmMain::LoadPlanner() {
     FileWrittenFlags = {};
     ClickedDate = Today();
     SelectedDate = Today();
+    DeleteDeadMarkers();
     MakeProcessMarker();
     if (!SetupFolders()) {
         return false;

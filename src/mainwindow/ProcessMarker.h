@@ -1,6 +1,10 @@
 // The marker of the running process: an empty file named for its number in the host's scratch folder.
 #pragma once
 
+// Deletes the markers that killed processes left: those whose number no process has. Failures are not
+// reported.
+void DeleteDeadMarkers();
+
 // Makes the marker; raises the run-time error when it cannot.
 void MakeProcessMarker();
 

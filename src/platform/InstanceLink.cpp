@@ -1,32 +1,53 @@
-// The single-instance link: a lock file in the user's runtime folder tells who is first, a local socket
-// beside it carries one conversation a connection: the address and the command in two lines, the answer in
-// one.
+// The single-instance link: locks on a file in the user's runtime folder and on the drive's folder tell who
+// is first, a local socket beside the file carries one conversation a connection: the address and the command
+// in two lines, the answer in one. The system gives a lock up with its process, so none is ever stale.
 #include "platform/InstanceLink.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QStandardPaths>
+#include <QThread>
 
+#include <cerrno>
+#include <fcntl.h>
 #include <memory>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
 constexpr int AnswerMilliseconds = 3000;
+constexpr int KnockMilliseconds = 20; // between two tries to connect
 constexpr int GreatestRequest = 1024; // bytes; nobody says more
 constexpr const char* Accepted = "accepted\n";
 constexpr const char* Refused = "refused\n";
 
 struct LinkState {
-    std::unique_ptr<QLockFile> lock;
     QLocalServer server;
     QByteArray address;
     std::function<bool(const std::string&)> receive;
 };
 
 std::unique_ptr<LinkState> linkState;
+bool isFirstInstance = false;
+
+enum class Lock { Taken, HeldByAnother, Impossible };
+
+// Takes the lock on an opened file or folder, for as long as this process lives.
+Lock LockForLife(const std::string& path, int flags) {
+    const int file = ::open(path.c_str(), flags | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (file < 0) {
+        return Lock::Impossible;
+    }
+    if (::flock(file, LOCK_EX | LOCK_NB) == 0) {
+        return Lock::Taken;
+    }
+    const bool held = errno == EWOULDBLOCK;
+    ::close(file);
+    return held ? Lock::HeldByAnother : Lock::Impossible;
+}
 
 QString RuntimeFile(const char* name) {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -67,6 +88,11 @@ void Answer(QLocalSocket* caller) {
     caller->disconnectFromServer();
 }
 
+bool Connects(QLocalSocket& socket, int milliseconds) {
+    socket.connectToServer(SocketName());
+    return socket.waitForConnected(milliseconds);
+}
+
 void MeetCallers() {
     while (QLocalSocket* caller = linkState->server.nextPendingConnection()) {
         QObject::connect(caller, &QLocalSocket::readyRead, caller, [caller] { Answer(caller); });
@@ -78,27 +104,24 @@ void MeetCallers() {
 } // namespace
 
 bool ClaimFirstInstance() {
-    auto state = std::make_unique<LinkState>();
-    state->lock = std::make_unique<QLockFile>(LockName());
-    state->lock->setStaleLockTime(0); // only a dead owner's lock is taken over, however old a living one's is
-    if (!state->lock->tryLock(0) && state->lock->error() == QLockFile::LockFailedError) {
-        return false;
-    }
-    // Callers may already knock while the data is read; they are answered when events are handled again.
-    QLocalServer::removeServer(SocketName());
-    state->server.setSocketOptions(QLocalServer::UserAccessOption);
-    state->server.listen(SocketName());
-    linkState = std::move(state);
-    return true;
+    isFirstInstance = LockForLife(LockName().toStdString(), O_RDWR | O_CREAT) != Lock::HeldByAnother;
+    return isFirstInstance;
+}
+
+bool ClaimDrive(const std::string& folder) {
+    return LockForLife(folder, O_RDONLY | O_DIRECTORY) != Lock::HeldByAnother;
 }
 
 LinkResult SendLinkCommand(std::string_view application, std::string_view topic, std::string_view command) {
     const QDeadlineTimer deadline(AnswerMilliseconds);
     const auto remaining = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
-    socket.connectToServer(SocketName());
-    if (!socket.waitForConnected(remaining())) {
-        return LinkResult::Failed;
+    while (!Connects(socket, remaining())) {
+        // The first instance may have started just now and not listen yet.
+        if (isFirstInstance || deadline.hasExpired()) {
+            return LinkResult::Failed;
+        }
+        QThread::msleep(KnockMilliseconds);
     }
     socket.write(AddressLine(application, topic) + '\n' + QByteArray::fromStdString(std::string(command)) +
                  '\n');
@@ -116,9 +139,11 @@ LinkResult SendLinkCommand(std::string_view application, std::string_view topic,
 
 bool ReceiveLinkCommands(std::string_view application, std::string_view topic,
                          std::function<bool(const std::string& command)> receive) {
+    linkState = std::make_unique<LinkState>();
     linkState->address = AddressLine(application, topic);
     linkState->receive = std::move(receive);
     QObject::connect(&linkState->server, &QLocalServer::newConnection, &linkState->server, &MeetCallers);
-    QMetaObject::invokeMethod(&linkState->server, &MeetCallers, Qt::QueuedConnection);
-    return linkState->server.isListening();
+    QLocalServer::removeServer(SocketName()); // what a dead instance left
+    linkState->server.setSocketOptions(QLocalServer::UserAccessOption);
+    return linkState->server.listen(SocketName());
 }

@@ -13,6 +13,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <limits>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -35,9 +36,23 @@ long ProcessNumber() {
     return static_cast<long>(QCoreApplication::applicationPid());
 }
 
+bool ProcessExists(long number) {
+    return number > 0 && number <= std::numeric_limits<pid_t>::max() &&
+           (::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH);
+}
+
 std::string EnvironmentValue(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? std::string{} : std::string(value);
+}
+
+void MakePathAbsolute(const char* name) {
+    const std::string value = EnvironmentValue(name);
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(value, error);
+    if (!value.empty() && !error) {
+        ::setenv(name, path.c_str(), 1);
+    }
 }
 
 void ShellOpen(std::string_view address) {

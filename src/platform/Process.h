@@ -17,8 +17,15 @@ inline constexpr const char* ProgramFolderVariable = "U3_DEVICE_EXEC_PATH";
 // The number of this process.
 long ProcessNumber();
 
+// True when a process of that number runs, also one of which this one may know no more.
+bool ProcessExists(long number);
+
 // The value of an environment variable; empty when it is not set.
 std::string EnvironmentValue(const char* name);
+
+// Makes the path in an environment variable one that does not depend on the working directory. An empty one
+// stays.
+void MakePathAbsolute(const char* name);
 
 // Opens a web address or a file with the program that the user has chosen for it. Failures are not reported.
 void ShellOpen(std::string_view address);

@@ -244,17 +244,17 @@ class Planner:
         unfinished.write_text(f"@{date}\n")
         unfinished.rename(self.date_file)
 
-    def start(self, *arguments, shown=True):
+    def start(self, *arguments, shown=True, directory=None):
         """Starts the first instance and, unless it starts hidden, waits for its window."""
-        self.process = self.start_another(*arguments)
+        self.process = self.start_another(*arguments, directory=directory)
         if shown:
             self.wait_for_window()
         return self
 
-    def start_another(self, *arguments, environment=None):
+    def start_another(self, *arguments, environment=None, directory=None, user=None):
         with self.complaints.open("ab") as complaints:
             process = subprocess.Popen([self.program, *arguments], env=environment or self.environment,
-                                       stdout=subprocess.DEVNULL, stderr=complaints)
+                                       cwd=directory, user=user, stdout=subprocess.DEVNULL, stderr=complaints)
         self.started.append(process)
         return process
 

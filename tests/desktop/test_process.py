@@ -2,7 +2,9 @@
 
 import os
 import resource
+import shutil
 import signal
+import tempfile
 import unittest
 
 from desktop import TITLE, DesktopTest, stays_false, wait_until
@@ -14,6 +16,7 @@ BOX = "Planovarium"
 SPLASH = "Planovarium starts"
 TASK_EDITOR = "Planovarium - New Task"
 READ_ERROR = "Planovarium - File Read Error"
+NOBODY = 65534
 NO_RECORD_FILE = "line 1\n<wrong>\n"
 
 
@@ -88,6 +91,39 @@ class Start(DesktopTest):
         self.desktop.press_in(wait_until(lambda: self.desktop.window(BOX), "the error is told"), "Return")
         self.assertEqual(planner.wait_for_exit(), 1)
         self.assertFalse((planner.documents / "Planovarium").exists())
+
+
+    def test_with_paths_of_the_working_directory_reads_and_saves_on_the_drive(self):
+        planner = self.planner()
+        planner.write_data("tasks.xml", tasks("Water the plants"))
+        for name in ("U3_HOST_EXEC_PATH", "U3_DEVICE_PATH", "U3_DEVICE_DOCUMENT_PATH", "U3_DEVICE_EXEC_PATH"):
+            planner.environment[name] = os.path.relpath(planner.environment[name], planner.drive)
+        planner.start(directory=planner.drive)
+        type_a_new_task(planner, "Call home")
+        self.desktop.key("Return")
+        wait_until(lambda: "Call home" in planner.read_data("tasks.xml"), "the task is saved")
+        self.assertIn("Water the plants", planner.read_data("tasks.xml"))
+        self.assertIsNone(self.desktop.window(READ_ERROR))
+        self.assertEqual(planner.shut_down(), 0)
+        self.assertEqual(planner.markers(), [])
+        self.assertEqual([p.name for p in planner.backup.iterdir()], ["tasks_backup1.xml"])
+
+    def test_takes_away_the_markers_of_killed_processes(self):
+        planner = self.planner().start()
+        planner.process.kill()
+        planner.process.wait()
+        other = f"{os.getpid()}.PID"  # a process that lives
+        (planner.host / other).touch()
+        planner.start()
+        self.assertEqual(planner.markers(), sorted([other, f"{planner.process.pid}.PID"]))
+
+    def test_that_fails_is_ended_by_a_signal_while_its_box_is_open(self):
+        planner = self.planner()
+        planner.host.rmdir()
+        planner.start(shown=False)
+        wait_until(lambda: self.desktop.window(BOX), "the error is told")
+        planner.process.send_signal(signal.SIGTERM)
+        self.assertEqual(planner.wait_for_exit(), 1)
 
 
 class StartMode(DesktopTest):
@@ -193,6 +229,63 @@ class SecondStart(DesktopTest):
         planner.process.wait()
         planner.start()
         self.assertEqual(planner.shut_down(), 0)
+
+
+class TwoStarts(DesktopTest):
+    """Two planners started side by side, on one drive."""
+
+    def expect_one_planner(self, planner, first, second):
+        """One of the two ends in peace, the other one runs and shows its window."""
+        ended = wait_until(lambda: next((p for p in (first, second) if p.poll() is not None), None), "one of them ends")
+        self.assertEqual(ended.returncode, 0)
+        planner.process = second if ended is first else first
+        planner.wait_for_window()
+        self.assertIsNone(self.desktop.window(BOX))
+        self.assertEqual(planner.shut_down(), 0)
+
+    def test_at_the_same_moment_give_one_window_and_no_complaint(self):
+        planner = self.planner()
+        for attempt in range(5):
+            with self.subTest(attempt):
+                self.expect_one_planner(planner, planner.start_another(), planner.start_another())
+
+    def expect_the_second_is_told_and_changes_nothing(self, planner, environment, **options):
+        second = planner.start_another(environment=environment, **options)
+        box = wait_until(lambda: self.desktop.window(BOX), "the second start is told")
+        self.assertIsNone(self.desktop.window(SPLASH))
+        self.desktop.press_in(box, "Return")
+        self.assertEqual(planner.wait_for_exit(second), 0)
+        self.assertIsNone(planner.process.poll())
+        self.assertEqual(planner.markers(), [f"{planner.process.pid}.PID"])
+
+    def folder_of_another(self):
+        folder = tempfile.mkdtemp(prefix="planovarium-other-")
+        self.addCleanup(shutil.rmtree, folder)
+        return folder
+
+    def test_with_another_runtime_folder_leave_the_drive_to_the_first(self):
+        planner = self.planner().start()
+        other = dict(planner.environment, XDG_RUNTIME_DIR=self.folder_of_another())
+        self.expect_the_second_is_told_and_changes_nothing(planner, other)
+        self.assertEqual(planner.shut_down(), 0)
+        planner.start()  # the drive is free again
+        self.assertEqual(planner.shut_down(), 0)
+
+    def test_come_forward_though_the_lock_file_of_the_first_has_gone(self):
+        planner = self.planner().start()
+        planner.hide()
+        (self.desktop.runtime / "planovarium.lock").unlink()
+        self.assertEqual(planner.wait_for_exit(planner.start_another()), 0)
+        planner.wait_for_window()
+
+    @unittest.skipUnless(os.getuid() == 0, "only root may be somebody else")
+    def test_of_two_users_leave_the_drive_to_the_first(self):
+        planner = self.planner().start()
+        folder = self.folder_of_another()
+        shutil.chown(folder, NOBODY, NOBODY)
+        planner.drive.chmod(0o755)
+        other = dict(planner.environment, XDG_RUNTIME_DIR=folder, HOME=folder)
+        self.expect_the_second_is_told_and_changes_nothing(planner, other, user=NOBODY)
 
 
 class Tray(DesktopTest):

@@ -1,10 +1,14 @@
 // The load, the tray menu and the shutdown, as the main window runs them.
+#include "platform/Process.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "mainwindow/ProcessMarker.h"
 #include "support/WindowTest.h"
 
 #include <QtTest/qtestspontaneevent.h>
+
+#include <fstream>
+#include <set>
 
 namespace {
 
@@ -90,6 +94,29 @@ TEST_F(Process, LoadThatCannotMakeTheMarkerRaisesTheErrorBeforeAnythingIsReadOrM
     EXPECT_THROW(window->LoadPlanner(), RunTimeError);
     EXPECT_FALSE(std::filesystem::exists(drive / "Documents" / "Planovarium"));
     EXPECT_EQ(Script.trayTip, "Planovarium Homework System") << "the icon comes first of all";
+}
+
+TEST_F(Process, LoadDeletesTheEmptyMarkersOfProcessesThatAreNoMore) {
+    const std::filesystem::path host = drive / "Host";
+    const std::string living = std::to_string(StartProcess("program", {})) + ".PID";
+    const std::set<std::string> kept{living, "4712.pid", "4712.PID.txt", "x4712.PID", "4712", ".PID", "full"};
+    for (const std::string& name : kept) {
+        std::ofstream(host / name);
+    }
+    for (const char* name : {"4712.PID", "0.PID", "99999999999999999999.PID"}) {
+        std::ofstream(host / name);
+    }
+    std::ofstream(host / "4714.PID") << "text";
+    std::filesystem::create_directory(host / "4715.PID");
+    std::filesystem::create_symlink("full", host / "4716.PID");
+    LoadWindow();
+    std::set<std::string> expected = kept;
+    expected.insert({MarkerName(), "4714.PID", "4715.PID", "4716.PID"});
+    std::set<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(host)) {
+        found.insert(entry.path().filename().string());
+    }
+    EXPECT_EQ(found, expected);
 }
 
 TEST_F(Process, LoadOfATermNamedAsDeletedReadsNoAssignments) {

@@ -4,29 +4,40 @@
 #include "support/ChildProcess.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLocalSocket>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <future>
+#include <sys/syscall.h>
 #include <thread>
 
 namespace {
 
-// In a process of its own, with its own runtime folder: the expectations run beside a first instance that
-// answers so and remembers what it was told.
+// In a process of its own, with its own runtime folder.
+bool SucceedsAlone(const std::function<void(const QTemporaryDir& folder)>& expectations) {
+    return SucceedsInChild([&] {
+        const QTemporaryDir folder;
+        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+        int argc = 0;
+        const QCoreApplication application(argc, nullptr);
+        expectations(folder);
+    });
+}
+
+// The same: the expectations run beside a first instance that answers so and remembers what it was told.
 struct FirstInstance {
     bool accepts = true;
     std::vector<std::string> commands{};
 };
 
 void BesideAFirstInstance(FirstInstance first, const std::function<void(FirstInstance&)>& expectations) {
-    EXPECT_TRUE(SucceedsInChild([&] {
-        const QTemporaryDir folder;
-        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
-        int argc = 0;
-        QCoreApplication application(argc, nullptr);
+    EXPECT_TRUE(SucceedsAlone([&](const QTemporaryDir&) {
         ASSERT_TRUE(ClaimFirstInstance());
         ASSERT_TRUE(ReceiveLinkCommands("Planovarium", "Transfer Control", [&](const std::string& command) {
             first.commands.push_back(command);
@@ -34,7 +45,7 @@ void BesideAFirstInstance(FirstInstance first, const std::function<void(FirstIns
         }));
         std::thread second([&] {
             expectations(first);
-            QMetaObject::invokeMethod(&application, &QCoreApplication::quit, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
         });
         QCoreApplication::exec();
         second.join();
@@ -91,21 +102,91 @@ TEST(InstanceLink, HasOneFirstInstanceAtATime) {
 }
 
 TEST(InstanceLink, TakesOverWhatADeadInstanceLeft) {
-    EXPECT_TRUE(SucceedsInChild([] {
-        const QTemporaryDir folder;
-        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
-        int argc = 0;
-        const QCoreApplication application(argc, nullptr);
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir& folder) {
         EXPECT_TRUE(SucceedsInChild([] { EXPECT_TRUE(ClaimFirstInstance()); })); // and goes without a word
         EXPECT_TRUE(QFile::exists(folder.filePath("planovarium.lock")));
         EXPECT_TRUE(ClaimFirstInstance());
     }));
 }
 
+TEST(InstanceLink, TakesOverTheEmptyLockFileOfAnInstanceThatDiedAsItStarted) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir& folder) {
+        QFile lock(folder.filePath("planovarium.lock"));
+        ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+        lock.close();
+        EXPECT_TRUE(ClaimFirstInstance());
+        EXPECT_TRUE(SucceedsInChild([] { EXPECT_FALSE(ClaimFirstInstance()); }));
+    }));
+}
+
+TEST(InstanceLink, WaitsForAFirstInstanceThatDoesNotListenYet) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) {
+        std::promise<void> knocks;
+        LinkResult result = LinkResult::Failed;
+        std::thread second([&] {
+            knocks.set_value();
+            result = TakeControl();
+            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        });
+        knocks.get_future().wait();
+        // Time enough for some knocks at a closed door.
+        QTimer::singleShot(200, qApp, [] {
+            ReceiveLinkCommands("Planovarium", "Transfer Control", [](const std::string&) { return true; });
+        });
+        QCoreApplication::exec();
+        second.join();
+        EXPECT_EQ(result, LinkResult::Accepted);
+    }));
+}
+
 TEST(InstanceLink, FailsWithoutAFirstInstance) {
-    EXPECT_TRUE(SucceedsInChild([] {
-        const QTemporaryDir folder;
-        qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
-        EXPECT_EQ(TakeControl(), LinkResult::Failed);
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) { EXPECT_EQ(TakeControl(), LinkResult::Failed); }));
+}
+
+TEST(InstanceLink, HasOneInstanceADriveWhereverItsUserRunsIt) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) {
+        const QTemporaryDir drive;
+        const QTemporaryDir otherDrive;
+        EXPECT_TRUE(ClaimDrive(drive.path().toStdString()));
+        EXPECT_TRUE(SucceedsAlone([&](const QTemporaryDir&) {
+            EXPECT_TRUE(ClaimFirstInstance());
+            EXPECT_FALSE(ClaimDrive(drive.path().toStdString()));
+            EXPECT_TRUE(ClaimDrive(otherDrive.path().toStdString()));
+        }));
+        EXPECT_TRUE(QDir(drive.path()).isEmpty()) << "the lock is no file";
+    }));
+}
+
+TEST(InstanceLink, AnotherUserFindsTheDriveTaken) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) {
+        const QTemporaryDir drive;
+        ASSERT_TRUE(QFile::setPermissions(drive.path(), QFile::Permissions(0x7755)));
+        ASSERT_TRUE(ClaimDrive(drive.path().toStdString()));
+        EXPECT_TRUE(SucceedsInChild([&] {
+            DropPrivileges();
+            EXPECT_FALSE(ClaimDrive(drive.path().toStdString()));
+        }));
+    }));
+}
+
+TEST(InstanceLink, ADeadInstancesDriveIsFree) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) {
+        const QTemporaryDir drive;
+        EXPECT_TRUE(SucceedsInChild([&] { EXPECT_TRUE(ClaimDrive(drive.path().toStdString())); }));
+        EXPECT_TRUE(ClaimDrive(drive.path().toStdString()));
+    }));
+}
+
+TEST(InstanceLink, ADriveThatCannotBeHeldIsNobodys) {
+    EXPECT_TRUE(SucceedsAlone([](const QTemporaryDir&) {
+        const QTemporaryDir drive;
+        ASSERT_TRUE(ClaimDrive(drive.path().toStdString()));
+        EXPECT_TRUE(ClaimDrive("/no/such/folder"));
+        for (const int error : {ENOLCK, EOPNOTSUPP}) {
+            EXPECT_TRUE(SucceedsInChild([&] {
+                FailSystemCall(SYS_flock, error);
+                EXPECT_TRUE(ClaimDrive(drive.path().toStdString()));
+            }));
+        }
     }));
 }

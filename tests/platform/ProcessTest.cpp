@@ -6,10 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <sys/resource.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 TEST(Process, BeyondTheLimitOfAFilesSizeFailsToWriteAndLivesOn) {
     EXPECT_TRUE(SucceedsInChild([] {
@@ -30,6 +33,43 @@ TEST(Process, VariableThatIsNotSetIsEmpty) {
     ::setenv("PLANOVARIUM_NO_SUCH_VARIABLE", "a b", 1);
     EXPECT_EQ(EnvironmentValue("PLANOVARIUM_NO_SUCH_VARIABLE"), "a b");
     ::unsetenv("PLANOVARIUM_NO_SUCH_VARIABLE");
+}
+
+TEST(Process, PathOfAVariableBecomesAbsoluteAndAnEmptyOneStays) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        ASSERT_EQ(::chdir("/usr"), 0);
+        for (const auto& [given, made] : {std::pair{"lib", "/usr/lib"}, std::pair{"/tmp/a b", "/tmp/a b"},
+                                          std::pair{"../tmp", "/usr/../tmp"}, std::pair{"", ""}}) {
+            ::setenv("PLANOVARIUM_PATH", given, 1);
+            MakePathAbsolute("PLANOVARIUM_PATH");
+            EXPECT_EQ(EnvironmentValue("PLANOVARIUM_PATH"), made);
+        }
+        MakePathAbsolute("PLANOVARIUM_NO_SUCH_VARIABLE");
+        EXPECT_EQ(std::getenv("PLANOVARIUM_NO_SUCH_VARIABLE"), nullptr);
+    }));
+}
+
+TEST(Process, ExistsUntilItHasEnded) {
+    EXPECT_TRUE(ProcessExists(ProcessNumber()));
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::_exit(0);
+    }
+    EXPECT_TRUE(ProcessExists(child)) << "nobody has asked how it ended";
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    EXPECT_FALSE(ProcessExists(child));
+    for (const long none : {0L, -1L, 1L << 40}) {
+        EXPECT_FALSE(ProcessExists(none));
+    }
+}
+
+TEST(Process, OfAnotherUserExistsToo) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        DropPrivileges();
+        ASSERT_EQ(::kill(1, 0), -1);
+        ASSERT_EQ(errno, EPERM);
+        EXPECT_TRUE(ProcessExists(1));
+    }));
 }
 
 TEST(Process, StartupFolderIsThatOfTheDesktopSession) {

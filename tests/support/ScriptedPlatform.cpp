@@ -28,6 +28,8 @@ void NoteSync(const fs::path& path) {
     }
 }
 
+constexpr long StartedProcessNumber = 4711;
+
 std::string Padded(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
@@ -132,6 +134,10 @@ long ProcessNumber() {
     return ::getpid();
 }
 
+bool ProcessExists(long number) {
+    return number == ProcessNumber() || (number == StartedProcessNumber && !Script.processes.empty());
+}
+
 std::string EnvironmentValue(const char* name) {
     const char* value = std::getenv(name);
     return value == nullptr ? std::string{} : std::string(value);
@@ -143,7 +149,7 @@ void ShellOpen(std::string_view address) {
 
 long StartProcess(const std::string& program, std::initializer_list<std::string> arguments) {
     Script.processes.push_back({program, arguments});
-    return 4711;
+    return StartedProcessNumber;
 }
 
 std::filesystem::path StartupFolder() {
