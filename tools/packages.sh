@@ -1,10 +1,13 @@
-# Installs what a fresh Debian machine lacks, and says so in one line. Sourced by ./run, ./test and ./bench.
+# Installs what a fresh Debian machine lacks, and says so in one line. Sourced by ./run, ./test, ./bench and the tools.
 
 RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools qt6-svg-dev
   libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
 HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
-TestPackages="$HeadlessPackages libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev pkg-config clang
-  clang-format clang-tidy libclang-rt-14-dev git trayer faketime python3 x11-utils locales"
+LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 locales"
+StylePackages="clang-format git python3"
+TestPackages="$HeadlessPackages $LogicPackages $StylePackages clang clang-tidy libclang-rt-14-dev trayer faketime
+  x11-utils"
+BarePackages="debootstrap git"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 
 AsRoot() {
