@@ -5,6 +5,7 @@
 #include "core/frmSplash.h"
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
+#include "platform/InputRules.h"
 #include "platform/InstanceLink.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Process.h"
@@ -94,6 +95,7 @@ int main(int argc, char** argv) {
     std::ranges::for_each(DriveVariables,
                           &MakePathAbsolute); // the working directory is the data folder's later
     Application application(argc, argv);
+    InstallInputRules(application);
     ApplyProgramStyle();
     SetApplicationProperties();
     try {

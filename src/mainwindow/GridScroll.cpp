@@ -49,8 +49,8 @@ void frmMain::MouseWheel(int rotation) {
     }
 }
 
-// The wheel counts wherever the pointer is over the window: nothing there but the scroll bar and the filter
-// menus takes it for itself.
+// The wheel counts wherever the pointer is over the window: nothing there takes it for itself but the scroll
+// bar and a filter menu that has the focus.
 void frmMain::wheelEvent(QWheelEvent* event) {
     WheelRest += event->angleDelta().y();
     const int notches = WheelRest / QWheelEvent::DefaultDeltasPerStep;

@@ -7,6 +7,7 @@
 #include "planner/HomeworkSelection.h"
 #include "planner/RowSorts.h"
 #include "planner/TaskSelection.h"
+#include "platform/InputRules.h"
 #include "platform/Modal.h"
 #include "platform/Text.h"
 
@@ -118,6 +119,7 @@ void ShowPopup(frmMain& window, const PopupItems& items) {
             menu.addAction(MenuText(items[i].caption))->setData(static_cast<int>(i));
         }
     }
+    DropDoubleClick();
     const QAction* chosen = menu.exec(window.PopupPoint);
     if (chosen != nullptr && !ShuttingDown) {
         window.RunPopupCommand(chosen->data().toInt());

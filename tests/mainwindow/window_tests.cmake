@@ -6,6 +6,7 @@ target_sources(window_tests PRIVATE
   mainwindow/CommandsTest.cpp
   mainwindow/CounterBoxesTest.cpp
   mainwindow/DayScheduleTest.cpp
+  mainwindow/DialogFocusTest.cpp
   mainwindow/ElidedLabelTest.cpp
   mainwindow/GridAccessibleTest.cpp
   mainwindow/GridClicksTest.cpp
@@ -13,6 +14,7 @@ target_sources(window_tests PRIVATE
   mainwindow/GridScrollTest.cpp
   mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
+  mainwindow/InputRulesTest.cpp
   mainwindow/LargeCalendarTest.cpp
   mainwindow/ListGridTest.cpp
   mainwindow/ModesTest.cpp

@@ -1,5 +1,6 @@
 // The entry of the window tests: the offscreen platform, and no look or language of the user's.
 #include "mainwindow/WindowStyle.h"
+#include "platform/InputRules.h"
 
 #include <QApplication>
 
@@ -10,7 +11,8 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    InstallInputRules(application);
     ApplyProgramStyle();
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
