@@ -153,7 +153,7 @@ void frmCourseSchedule::ValidateClassPanel() {
         FillQuietly(TextBoxClassName, OriginalClassName);
         break;
     case ClassCheck::RenameAsked:
-        ClassError = !IsYes(ClassMessage(check, entry));
+        ClassError = !IsYes(ClassMessage(check, entry), Preset::First);
         if (ClassError) {
             FillQuietly(TextBoxClassName, OriginalClassName);
         }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/MessageBoxes.h"
 #include "platform/Text.h"
 
 #include <QCheckBox>
@@ -30,7 +31,7 @@ std::string TextOf(const QLineEdit* box);
 std::string TextOf(const QComboBox* combo);
 std::string TextOf(const QPlainTextEdit* box);
 
-// Shows the text from its beginning, where the box is too short for all of it.
+// Shows the text from its beginning, where the box is too short for all of it. It cannot be undone.
 void ShowText(QLineEdit* box, const QString& text);
 void ShowText(QLineEdit* box, std::string_view text);
 
@@ -158,8 +159,9 @@ struct EditorState {
     std::string EditMode;       // "New" or "Edit"
 };
 
-// Asks the student; true for Yes.
-bool IsYes(std::string_view question);
+// Asks the student; true for Yes. Enter alone presses No, unless told that Yes gives up nothing that is
+// stored or typed.
+bool IsYes(std::string_view question, Preset preset = Preset::No);
 
 // Clears the four flags, as the last step of filling an editor.
 void ClearFlags(EditorState& state);

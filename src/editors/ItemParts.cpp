@@ -70,8 +70,8 @@ std::string AlarmOf(const std::string& date, const QComboBox* time) {
     return ItemReminderAlarm(DateValue(date), ValidateTime(TextOf(time)));
 }
 
-bool IsYes(std::string_view question) {
-    return MsgBox(question, Buttons::YesNo, Icon::Information) == Answer::Yes;
+bool IsYes(std::string_view question, Preset preset) {
+    return MsgBox(question, Buttons::YesNo, Icon::Information, BoxTitle, preset) == Answer::Yes;
 }
 
 void ClearFlags(EditorState& state) {

@@ -4,7 +4,6 @@
 #include "platform/Modal.h"
 #include "platform/Text.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 #include <array>
@@ -43,22 +42,22 @@ Answer AnswerOf(int button) {
 
 } // namespace
 
-Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) {
+Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title, Preset preset) {
     const ButtonSet& set = ButtonSets[static_cast<std::size_t>(buttons)];
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(WindowOfNextDialog());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(FromStore(title));
     box.setText(FromStore(text));
     box.setIcon(Icons[static_cast<std::size_t>(icon)]);
     box.setStandardButtons(set.shown);
-    box.setDefaultButton(set.first);
+    box.setDefaultButton(preset == Preset::No ? QMessageBox::No : set.first);
     box.setEscapeButton(set.escape);
     return AnswerOf(RunModally(box));
 }
 
 void ShowFatalError(std::string_view text) {
     QMessageBox box(QMessageBox::Critical, QStringLiteral("Planovarium"), FromStore(text), QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    WindowOfNextDialog());
     box.setTextFormat(Qt::PlainText);
     RunModally(box);
 }

@@ -18,7 +18,7 @@ add_desktop_tests(test_process
 add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
-add_desktop_tests(test_window Modes Size Steppers List Midnight)
+add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
 
 # The tool that tries the README's commands on a bare machine; it too is a script of other programs.
 add_test(NAME tools.test_bare COMMAND ${Python3_EXECUTABLE} -m unittest -v test_bare

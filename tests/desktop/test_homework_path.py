@@ -172,7 +172,7 @@ class ByKeyboard(HomeworkPath):
         self.keys(*["Tab"] * 5, "space")  # over the fields, OK and Cancel to Delete
         for _ in range(2):
             question = self.opened(QUESTION)
-            self.keys("Return")
+            self.keys("Tab", "space")  # from No, which comes first where something is deleted, to Yes
             self.answered(question)
         self.opened(EDIT_TERM)
         self.leave_term(EDIT_TERM)

@@ -6,12 +6,16 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from desktop import DesktopTest, stays_false, wait_until
+from desktop import TITLE, DesktopTest, stays_false, wait_until
 from main_window import MainWindow
 from places import Main, small_day
 
 ROOT = Path(__file__).resolve().parents[2]
 EDIT_ASSIGNMENT = "Planovarium - Edit Assignment"
+NEW_TASK = "Planovarium - New Task"
+CHOOSER = "Planovarium - Select a Term"
+EDIT_TERM = "Planovarium - Edit Term"
+QUESTION = "Planovarium"
 
 
 class WindowTest(DesktopTest):
@@ -183,6 +187,47 @@ class List(WindowTest):
     def test_enter_opens_the_row_of_the_keyboard(self):
         self.key("Home", "Return")
         self.close_editor()
+
+
+class Dialogs(WindowTest):
+    def opened(self, title, other_than=None):
+        """The window of this title, other than that one, once it has the keyboard."""
+        def window():
+            found = self.desktop.window(title)
+            return found != other_than and self.desktop.active_window_name() == title and found
+
+        return wait_until(window, f"{title} is open")
+
+    def say_yes(self):
+        self.key("Tab", "space")  # No comes first where something is given up
+
+    def test_keys_reach_the_window_behind_a_question_and_an_editor(self):
+        self.key("ctrl+t")
+        self.opened(NEW_TASK)
+        self.desktop.type("x")
+        self.key("Escape")
+        self.opened(QUESTION)
+        self.say_yes()
+        wait_until(lambda: not self.desktop.window(NEW_TASK), "the editor is closed")
+        wait_until(lambda: self.desktop.active_window_name() == TITLE, "the main window has the keyboard")
+        self.key("ctrl+2")
+        self.window.wait_for_mode("Homework")
+
+    def test_question_behind_a_question_opens_over_their_dialog(self):
+        self.key("alt+e", "Up", "Return")  # the last item of the menu
+        self.opened(CHOOSER)
+        self.key("Tab", "Tab", "space")
+        term = self.opened(EDIT_TERM)
+        self.key("Tab", "Tab", "Tab", "Tab", "space")  # from Add Class to Delete
+        first = self.opened(QUESTION)
+        self.say_yes()
+        second = self.opened(QUESTION, other_than=first)
+        (x, y), (term_x, term_y) = self.middle(second), self.middle(term)
+        self.assertLess(abs(x - term_x) + abs(y - term_y), 60)
+
+    def middle(self, window):
+        left, top, width, height = self.desktop.geometry(window)
+        return left + width // 2, top + height // 2
 
 
 class Midnight(WindowTest):

@@ -86,8 +86,9 @@ TEST_F(AssignmentFlow, WithoutATermANewOneIsOffered) {
     ActiveTermName.clear();
     Script.answers = {Answer::No};
     window->NewAssignment();
-    EXPECT_EQ(Script.boxes,
-              std::vector{Question("There is no Term selected. Do you want to start a new Term?")});
+    EXPECT_EQ(
+        Script.boxes,
+        std::vector{Question("There is no Term selected. Do you want to start a new Term?", Preset::First)});
     EXPECT_FALSE(AssignmentDialog->isVisible());
     EXPECT_EQ(Assignments.id.Count(), 0);
 }
@@ -97,7 +98,8 @@ TEST_F(AssignmentFlow, WithoutClassesTheClassScheduleIsOffered) {
     Script.answers = {Answer::No};
     window->NewAssignment();
     EXPECT_EQ(Script.boxes,
-              std::vector{Question("This Term has no classes. Do you want to edit the Class Schedule?")});
+              std::vector{Question("This Term has no classes. Do you want to edit the Class Schedule?",
+                                   Preset::First)});
     EXPECT_FALSE(AssignmentDialog->isVisible());
 }
 

@@ -131,7 +131,8 @@ TEST_F(TermEditor, NameOfADeletedClassIsFree) {
 TEST_F(TermEditor, RenameInASavedTermIsAsked) {
     const ShownBox question = Question("You have changed the name of this class. If you have created "
                                        "assignments for 'Algebra', they will now be "
-                                       "for 'Geometry'.\r\n\r\nClick 'Yes' to rename this class.");
+                                       "for 'Geometry'.\r\n\r\nClick 'Yes' to rename this class.",
+                                       Preset::First);
     OpenEdit();
     Script.answers = {Answer::No, Answer::Yes};
     OpenClass(0);

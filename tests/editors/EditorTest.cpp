@@ -112,8 +112,8 @@ ShownBox EditorTest::Message(const std::string& text) {
     return {"Planovarium", text, Buttons::Ok, Icon::Information};
 }
 
-ShownBox EditorTest::Question(const std::string& text) {
-    return {"Planovarium", text, Buttons::YesNo, Icon::Information};
+ShownBox EditorTest::Question(const std::string& text, Preset preset) {
+    return {"Planovarium", text, Buttons::YesNo, Icon::Information, preset};
 }
 
 QWidget* EditorTest::Elsewhere(const QWidget* input) {

@@ -59,7 +59,7 @@ protected:
 
     // The box that the dialogs of these tests show.
     static ShownBox Message(const std::string& text);
-    static ShownBox Question(const std::string& text);
+    static ShownBox Question(const std::string& text, Preset preset = Preset::No);
 
     // Shows a dialog without its flow.
     static void ShowAlone(QDialog& dialog);

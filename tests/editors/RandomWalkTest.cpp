@@ -21,24 +21,25 @@ struct ToldBox {
     Buttons buttons;
     std::string_view begin;
     std::string_view end{};
+    Preset preset = Preset::First;
 };
 
 constexpr std::array ToldBoxes{
     ToldBox{Buttons::YesNo, "There is no Term selected. Do you want to start a new Term?"},
     ToldBox{Buttons::YesNo, "This Term has no classes. Do you want to edit the Class Schedule?"},
-    ToldBox{Buttons::YesNo, "Cancel this assignment?"},
-    ToldBox{Buttons::YesNo, "Cancel all changes to this assignment?"},
-    ToldBox{Buttons::YesNo, "Are you sure you want to Delete this assignment?"},
+    ToldBox{Buttons::YesNo, "Cancel this assignment?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Cancel all changes to this assignment?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Are you sure you want to Delete this assignment?", {}, Preset::No},
     ToldBox{Buttons::Ok, "Select a Class for this assignment."},
     ToldBox{Buttons::Ok, "Enter the number score that you received on this ", "."},
     ToldBox{Buttons::Ok, "Enter the total number of points possible for this ", "."},
-    ToldBox{Buttons::YesNo, "Cancel this Task?"},
-    ToldBox{Buttons::YesNo, "Cancel all changes to this Task?"},
-    ToldBox{Buttons::YesNo, "Are you sure you want to Delete this Task?"},
+    ToldBox{Buttons::YesNo, "Cancel this Task?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Cancel all changes to this Task?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Are you sure you want to Delete this Task?", {}, Preset::No},
     ToldBox{Buttons::YesNo, "You have changed the name of this class. If you have created assignments for '",
             "'.\r\n\r\nClick 'Yes' to rename this class."},
-    ToldBox{Buttons::YesNo, "Delete this class?"},
-    ToldBox{Buttons::YesNo, "Are you sure you want to Delete '", "', they will also be Deleted."},
+    ToldBox{Buttons::YesNo, "Delete this class?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Are you sure you want to Delete '", "', they will also be Deleted.", Preset::No},
     ToldBox{Buttons::Ok, "Enter a name for this class."},
     ToldBox{Buttons::Ok, "There is already a class with this name."},
     ToldBox{Buttons::Ok, "Enter the number of credits you will receive for this class. The number is used in "
@@ -46,10 +47,13 @@ constexpr std::array ToldBoxes{
     ToldBox{Buttons::Ok, "The Term End Date must be later then the Term Start Date."},
     ToldBox{Buttons::Ok, "Enter a name for the Term."},
     ToldBox{Buttons::Ok, "There is already a Term with this name."},
-    ToldBox{Buttons::YesNo, "Cancel changes to this Term's Class Schedule?"},
-    ToldBox{Buttons::YesNo, "Delete this Term? All assignments for classes in this Class Schedule will also "
-                            "be deleted."},
-    ToldBox{Buttons::YesNo, "Are you sure? This action cannot be undone!"},
+    ToldBox{Buttons::YesNo, "Cancel changes to this Term's Class Schedule?", {}, Preset::No},
+    ToldBox{Buttons::YesNo,
+            "Delete this Term? All assignments for classes in this Class Schedule will also "
+            "be deleted.",
+            {},
+            Preset::No},
+    ToldBox{Buttons::YesNo, "Are you sure? This action cannot be undone!", {}, Preset::No},
 };
 
 const QStringList Texts{
@@ -355,7 +359,7 @@ void RandomWalk::ExpectOnlyToldBoxes() {
                                      : box.text.starts_with(known.begin) && box.text.ends_with(known.end);
         });
         ASSERT_NE(told, ToldBoxes.end()) << box.text;
-        EXPECT_EQ(box, (ShownBox{"Planovarium", box.text, told->buttons, Icon::Information}));
+        EXPECT_EQ(box, (ShownBox{"Planovarium", box.text, told->buttons, Icon::Information, told->preset}));
         ++timesTold[static_cast<std::size_t>(told - ToldBoxes.begin())];
     }
     Script.boxes.clear();

@@ -90,8 +90,8 @@ ScreenText FormatDate(Date date, std::string_view form) {
     return {};
 }
 
-Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title) {
-    Script.boxes.push_back({std::string(title), std::string(text), buttons, icon});
+Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title, Preset preset) {
+    Script.boxes.push_back({std::string(title), std::string(text), buttons, icon, preset});
     if (Script.whileBoxIsOpen) {
         Script.whileBoxIsOpen(ShownBox(Script.boxes.back()));
     }

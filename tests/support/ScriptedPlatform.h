@@ -19,6 +19,7 @@ struct ShownBox {
     std::string text;
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
+    Preset preset = Preset::First;
 
     friend bool operator==(const ShownBox&, const ShownBox&) = default;
 };
