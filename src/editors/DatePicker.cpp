@@ -25,8 +25,9 @@ bool IsOpeningKey(const QEvent* event) {
     if (event->type() != QEvent::KeyPress) {
         return false;
     }
-    const int key = static_cast<const QKeyEvent*>(event)->key();
-    return key == Qt::Key_Space || key == Qt::Key_Down || key == Qt::Key_F4;
+    const auto* const press = static_cast<const QKeyEvent*>(event);
+    const int key = press->key();
+    return !press->isAutoRepeat() && (key == Qt::Key_Space || key == Qt::Key_Down || key == Qt::Key_F4);
 }
 
 QString MonthPicture(bool up, bool pressed) {
@@ -160,10 +161,17 @@ bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
     for (const bool target : {false, true}) {
         const Field& field = fields[target ? 1 : 0];
         if (watched == field.box || (watched == field.button && IsLeftPress(event))) {
-            return FieldEvent(target, event);
+            const bool enabled = static_cast<QWidget*>(watched)->isEnabled(); // a filter is told in any case
+            return enabled && FieldEvent(target, event);
         }
     }
     return QFrame::eventFilter(watched, event);
+}
+
+// From the date that was being chosen, as the panel itself stands behind all other controls.
+bool DatePicker::focusNextPrevChild(bool next) {
+    HideCalendar();
+    return QFrame::focusNextPrevChild(next);
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event) {

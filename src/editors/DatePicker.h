@@ -22,8 +22,8 @@ public:
     explicit DatePicker(QWidget* dialog);
 
     // Lets a press on the date box or on its small button open the panel for that target, and the keys Space,
-    // Down and F4 on the box. The date is the dialog's own text, which is to live as long as the dialog. A
-    // dialog with one field names it true.
+    // Down and F4 on the box, all unless they are disabled. The date is the dialog's own text, which is to
+    // live as long as the dialog. A dialog with one field names it true.
     void AddField(bool target, QWidget* box, QWidget* button, const std::string& date);
 
     // Closes the panel, and writes the heads of the columns from the first day of the week on.
@@ -69,6 +69,7 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

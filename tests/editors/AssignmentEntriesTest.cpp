@@ -293,9 +293,13 @@ TEST_F(AssignmentEntries, PickOfTheSameDateIsAChange) {
 }
 
 TEST_F(AssignmentEntries, ReminderDateThatIsOffOpensNoPicker) {
-    Click(dialog->TextboxReminderDate);
-    Click(dialog->PicButtonReminderDate);
-    EXPECT_TRUE(dialog->Picker->isHidden());
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{dialog->TextboxReminderDate, dialog->PicButtonReminderDate}) {
+        ASSERT_FALSE(control->isEnabled());
+        Click(control);
+        EXPECT_TRUE(dialog->Picker->isHidden());
+        EXPECT_FALSE(dialog->Picker->CalendarOpen); // it was not even open for a moment
+    }
 }
 
 // --- What counts as a change -------------------------------------------------------------------------------

@@ -139,6 +139,40 @@ TEST_F(Picker, ClosesWithTheTabKey) {
     EXPECT_FALSE(picker->isVisible());
 }
 
+TEST_F(Picker, TabGoesOnFromTheDateThatWasBeingChosen) {
+    picker->setParent(nullptr);
+    picker->setParent(&dialog); // behind all other controls
+    for (QToolButton* button : {dueButton, reminderButton}) {
+        button->setFocusPolicy(Qt::NoFocus);
+    }
+    OpenOn("2009/10/14");
+    Key(Qt::Key_Tab);
+    EXPECT_FALSE(picker->isVisible());
+    EXPECT_EQ(dialog.focusWidget(), reminder);
+    ASSERT_TRUE(GuardEnds());
+    QTest::mouseClick(reminder, Qt::LeftButton);
+    ASSERT_TRUE(picker->isVisible());
+    Key(Qt::Key_Backtab);
+    EXPECT_FALSE(picker->isVisible());
+    EXPECT_EQ(dialog.focusWidget(), due);
+}
+
+TEST_F(Picker, ADisabledBoxOrButtonDoesNotOpenIt) {
+    for (QWidget* control : std::initializer_list<QWidget*>{due, dueButton}) {
+        control->setEnabled(false);
+        QTest::mousePress(control, Qt::LeftButton);
+        EXPECT_FALSE(picker->isVisible());
+        EXPECT_FALSE(picker->CalendarOpen);
+    }
+}
+
+TEST_F(Picker, AKeyHeldDownOpensItOnce) {
+    due->setFocus();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QCoreApplication::sendEvent(due, &repeated);
+    EXPECT_FALSE(picker->isVisible());
+}
+
 TEST_F(Picker, ClosesAtAPressOnTheDialogsBackground) {
     OpenOn("2009/10/14");
     QTest::mousePress(&dialog, Qt::LeftButton, {}, QPoint(440, 400));
