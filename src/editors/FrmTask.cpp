@@ -107,7 +107,7 @@ void FrmTask::Fill() {
 
 void FrmTask::FillNew() {
     setWindowTitle(QStringLiteral("Planovarium - New Task"));
-    TextBoxDescription->clear();
+    ShowText(TextBoxDescription, std::string_view());
     TextBoxNotes->clear();
     SetDone(DoneOf(*this), false);
     ButtonDelete->setEnabled(false);

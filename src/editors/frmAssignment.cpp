@@ -124,7 +124,7 @@ void frmAssignment::FillClasses() {
 void frmAssignment::FillNew() {
     setWindowTitle(QStringLiteral("Planovarium - New Assignment"));
     for (QLineEdit* box : {TextBoxDescription, TextBoxScore, TextBoxTotal}) {
-        box->clear();
+        ShowText(box, std::string_view());
     }
     TextBoxNotes->clear();
     UpdateGrade();

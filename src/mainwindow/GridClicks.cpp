@@ -28,8 +28,9 @@ void ClickCalendar(frmMain& window, int x, int y, bool right) {
     if (cell == NoRow) {
         return;
     }
+    const CalendarLayout clicked = window.CalendarGrid; // a day of another month lays its month out anew
     window.GoToDate(window.Month.CellDate[static_cast<std::size_t>(cell)]);
-    if (const auto icon = CalendarIconAt(window.CalendarGrid, cell, x, y)) {
+    if (const auto icon = CalendarIconAt(clicked, cell, x, y)) {
         window.ShowDayMenu(*icon);
     } else if (right) {
         window.ShowCalendarMenu();

@@ -168,6 +168,7 @@ Mode frmMain::CurrentMode() const {
 
 void frmMain::EnterMode(Mode mode) {
     const ModeRow& row = RowOf(ModeRows, mode);
+    const QWidget* focused = focusWidget();
     ChangingMode = true;
     SaveViewMenus();
     SetTopics(*this, row);
@@ -190,6 +191,9 @@ void frmMain::EnterMode(Mode mode) {
     ChangingMode = false;
     RefreshFor(ReasonModeChange);
     picLock->setVisible(mode == Mode::Reminders);
+    if (focused != nullptr && !focused->isVisibleTo(this)) {
+        picGrid->setFocus(); // and not whatever control comes next
+    }
 }
 
 void frmMain::ShowCalendarMode() {

@@ -13,4 +13,5 @@ target_sources(window_tests PRIVATE
   editors/TaskFlowTest.cpp
   editors/TermEditorTest.cpp
   editors/TermFlowTest.cpp
+  editors/UndoTest.cpp
 )

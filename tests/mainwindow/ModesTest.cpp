@@ -526,6 +526,22 @@ TEST_F(Modes, StudySessionsEnteredFromCalendarLeaveItChecked) {
     EXPECT_EQ(SmallButtons(), (QStringList{"Assignment", "Event", "Task"}));
 }
 
+TEST_F(Modes, EntryThatHidesTheFocusedControlGivesTheGridTheFocus) {
+    LoadWindow();
+    window->ButtonAlert[0]->show(); // a control that would be next
+    Enter(Mode::Homework);
+    window->ButtonAlert[0]->show();
+    window->ComboDateRange->setFocus();
+    Enter(Mode::Calendar);
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+    window->ButtonSelectTerm->setFocus();
+    Enter(Mode::Tasks);
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+    window->ButtonReset->setFocus();
+    Enter(Mode::Homework);
+    EXPECT_EQ(window->focusWidget(), window->ButtonReset); // which stays on the screen
+}
+
 TEST_F(Modes, RemindersEnteredFromCalendarLeaveItChecked) {
     LoadWindow();
     Enter(Mode::Reminders);

@@ -99,6 +99,26 @@ TEST_F(PopupMenus, TheLinesOfADayOpenItsMenusWithEitherButton) {
     }
 }
 
+// The cell lies in another place of the month that it moves to, with other lines.
+TEST_F(PopupMenus, TheLinesOfAGreyDayOpenItsMenusAsTheyWerePainted) {
+    AddTaskRecord({.date = "2009/10/27", .desc = "Call"});
+    AddEventRecord({.date = "2009/09/29", .desc = "Chess"}); // the cell's place in October
+    window->ShowCalendarMode();
+    window->GoToDate(Date{std::chrono::year{2009} / 11 / 10});
+    const auto day = std::ranges::find(window->Month.CellDate, Date{std::chrono::year{2009} / 10 / 27});
+    const CalendarCell cell =
+        window->CalendarGrid.cell.at(static_cast<std::size_t>(day - window->Month.CellDate.begin()));
+    const UnitRect& line = cell.icon[static_cast<std::size_t>(CalendarIcon::Tasks)];
+    ASSERT_GT(line.width, 0);
+    const QPoint point = QPoint(line.left + line.width / 2, line.top + line.height / 2) / UnitsPerPixel;
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        window->GoToDate(Date{std::chrono::year{2009} / 11 / 10});
+        EXPECT_EQ(MenuOfClick(point, button),
+                  (QStringList{"(Not Done)  Call ...", "-", "Add new task...", "See all tasks..."}));
+        EXPECT_EQ(window->LabelTop->text(), "October 2009");
+    }
+}
+
 TEST_F(PopupMenus, ADayMenuSortsUpwards) {
     AddEventRecord({.time = "11:00 AM", .desc = "Later"});
     AddEventRecord({.time = "09:00 AM", .desc = "Sooner"});
