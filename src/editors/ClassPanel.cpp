@@ -115,10 +115,14 @@ void frmCourseSchedule::EditClass() {
     ShowClassColors();
 }
 
-// The name stands in the colours in which the class is shown everywhere.
+// While the class is open its name stands in the colours in which the class is shown everywhere.
 void frmCourseSchedule::ShowClassColors() {
-    SetColor(TextBoxClassName, QPalette::Base, ToColor(classBackColor));
-    SetColor(TextBoxClassName, QPalette::Text, ToColor(classForeColor));
+    QPalette colors;
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        colors.setColor(group, QPalette::Base, ToQColor(ToColor(classBackColor)));
+        colors.setColor(group, QPalette::Text, ToQColor(ToColor(classForeColor)));
+    }
+    TextBoxClassName->setPalette(colors);
 }
 
 // A field that still has the focus is validated first, as it would be in losing it.

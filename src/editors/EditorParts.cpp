@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextBlock>
 #include <QValidator>
@@ -52,6 +53,13 @@ protected:
         return isPress;
     }
 };
+
+// A key that clicks the button, once however long it is held.
+void AddKey(QWidget* where, Qt::Key key, Qt::ShortcutContext context, QToolButton* button) {
+    auto* shortcut = new QShortcut(key, where, nullptr, nullptr, context);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
+}
 
 Qt::FocusReason ReasonOf(const QEvent* event) {
     return event->type() == QEvent::FocusOut ? static_cast<const QFocusEvent*>(event)->reason()
@@ -177,13 +185,14 @@ void ShowDateField(std::string& field, QLineEdit* box, Date date) {
     ShowText(box, FromScreen(FormatDate(date, "Long Date")));
 }
 
-void SetupDateButton(QToolButton* button) {
-    button->setIcon(QIcon(QStringLiteral(":/icons/picButtonDate.svg")));
-}
-
 void SetupHelpButton(QToolButton* button) {
     button->setIcon(QIcon(QStringLiteral(":/icons/picHelp.svg")));
+    button->setToolTip(button->accessibleName() + QStringLiteral(" (F1)"));
     QObject::connect(button, &QToolButton::clicked, button, [] { QWhatsThis::enterWhatsThisMode(); });
+    AddKey(button->window(), Qt::Key_F1, Qt::WindowShortcut, button);
+    for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) { // which is no press on OK there
+        AddKey(button, enter, Qt::WidgetShortcut, button);
+    }
 }
 
 void SetHelpTopics(std::initializer_list<HelpNumber> numbers) {

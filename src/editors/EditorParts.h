@@ -74,10 +74,7 @@ std::string ShortDateText(Date date);
 // Gives a dialog's field the date, and the field's box its long form.
 void ShowDateField(std::string& field, QLineEdit* box, Date date);
 
-// Gives the small button of a date box its picture.
-void SetupDateButton(QToolButton* button);
-
-// Lets the button lead into the what's-this mode.
+// Lets the button, and F1 in its dialog, lead into the what's-this mode.
 void SetupHelpButton(QToolButton* button);
 
 struct HelpNumber {

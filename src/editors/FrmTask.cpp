@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
+#include "editors/DialogLook.h"
 #include "mainwindow/frmMain.h"
 #include "planner/AssignmentEntry.h"
 #include "planner/Colors.h"
@@ -36,7 +37,8 @@ void FrmTask::SetupControls() {
     SetupTypedCombo(ComboPercentComplete);
     AddRows(ComboPercentComplete, PercentRows);
     SetupReminder(ReminderOf(*this));
-    SetupDateButton(picButtonTaskDate);
+    SetupDateBoxes({{TextboxTaskDate, picButtonTaskDate}, {TextboxReminderDate, PicButtonReminderDate}});
+    SetupNames(ComboType);
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxTaskDate, picButtonTaskDate, tempTaskDate);

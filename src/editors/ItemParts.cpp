@@ -51,7 +51,6 @@ void SetupReminder(const ReminderControls& controls) {
     SetColor(controls.box, QPalette::WindowText, ColorWhite);
     SetupTypedCombo(controls.time);
     AddRows(controls.time, TimeOfDayRows());
-    SetupDateButton(controls.button);
 }
 
 void PaintReminder(const ReminderControls& controls) {

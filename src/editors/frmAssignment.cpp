@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
+#include "editors/DialogLook.h"
 #include "mainwindow/frmMain.h"
 #include "planner/AssignmentEntry.h"
 #include "planner/Colors.h"
@@ -11,6 +12,7 @@
 #include "planner/Grades.h"
 #include "planner/ReminderEntry.h"
 #include "platform/MessageBoxes.h"
+#include "platform/ProgramStyle.h"
 
 namespace {
 
@@ -48,7 +50,12 @@ void frmAssignment::SetupControls() {
     AddRows(ComboPercentComplete, PercentRows);
     AddRows(ComboEstTime, EstimateRows());
     SetupReminder(ReminderOf(*this));
-    SetupDateButton(picButtonDateDue);
+    SetupDateBoxes({{TextboxDateDue, picButtonDateDue}, {TextboxReminderDate, PicButtonReminderDate}});
+    SetupNames(ComboClassNameList);
+    LabelClass->Elision = Qt::ElideMiddle; // the name may be long, the word behind it stays
+    for (QLineEdit* box : {TextBoxTimeLeft, TextBoxPercentage, TextBoxGrade}) {
+        ShowAsReadOnly(box);
+    }
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxDateDue, picButtonDateDue, tempAssignmentDate);
@@ -114,7 +121,7 @@ void frmAssignment::Fill() {
 
 void frmAssignment::FillClasses() {
     const std::string caption = ActiveTermName + " Classes ";
-    LabelClass->setText(FromStore(caption));
+    LabelClass->setText(MenuText(ActiveTermName) + QStringLiteral(" &Classes "));
     ComboClassNameList->setAccessibleName(FromStore(Trim(caption)));
     ComboClassNameList->clear();
     AddRows(ComboClassNameList, tempClassNameArray);

@@ -2,6 +2,7 @@
 #include "editors/frmCourseSchedule.h"
 
 #include "core/DateText.h"
+#include "editors/DialogLook.h"
 #include "mainwindow/frmMain.h"
 #include "planner/TermEntry.h"
 #include "platform/MessageBoxes.h"
@@ -27,8 +28,9 @@ void frmCourseSchedule::SetupControls() {
         LimitToSet(box);
     }
     LimitToSet(TextBoxNotes);
-    SetupDateButton(picButtonStart);
-    SetupDateButton(picButtonEnd);
+    SetupDateBoxes({{TextboxTermStart, picButtonStart}, {TextboxTermEnd, picButtonEnd}});
+    SetupNames(ComboBoxClassList);
+    KeepLines(this);
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxTermStart, picButtonStart, tempTermStart);

@@ -1,6 +1,7 @@
 // frmSelectCourseSchedule, the small dialog in which the student chooses what to do with terms.
 #include "editors/frmSelectCourseSchedule.h"
 
+#include "editors/DialogLook.h"
 #include "editors/EditorParts.h"
 
 #include <QCloseEvent>
@@ -9,6 +10,8 @@ frmSelectCourseSchedule* TermChooser = nullptr;
 
 frmSelectCourseSchedule::frmSelectCourseSchedule(QWidget* parent) : QDialog(parent) {
     setupUi(this);
+    SetupNames(ComboTermList);
+    KeepLines(this);
     SetupHelpButton(picHelp);
     SetHelpTopics({{ButtonActive, 401},
                    {ButtonCancel, 402},

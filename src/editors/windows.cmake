@@ -3,6 +3,8 @@ target_sources(planovarium_windows PRIVATE
   editors/DatePicker.cpp
   editors/DatePicker.h
   editors/DatePickerSetup.cpp
+  editors/DialogLook.cpp
+  editors/DialogLook.h
   editors/EditorParts.cpp
   editors/EditorParts.h
   editors/FrmTask.cpp

@@ -2,29 +2,13 @@
 #include "mainwindow/WindowStyle.h"
 
 #include "platform/PictureBox.h"
-#include "platform/WindowColors.h"
+#include "platform/ProgramStyle.h"
 
 #include <QApplication>
 
 namespace {
 
 constexpr double WindowPoints = 9;
-
-QPalette ProgramPalette() {
-    QPalette colors(ToQColor(ButtonColor), ToQColor(SurfaceColor));
-    for (const auto role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        colors.setColor(role, ToQColor(TextColor));
-        colors.setColor(QPalette::Disabled, role, ToQColor(FaintTextColor));
-    }
-    colors.setColor(QPalette::Base, Qt::white);
-    colors.setColor(QPalette::AlternateBase, ToQColor(PanelColor));
-    colors.setColor(QPalette::ToolTipBase, Qt::white);
-    colors.setColor(QPalette::Highlight, ToQColor(AccentColor));
-    colors.setColor(QPalette::HighlightedText, Qt::white);
-    colors.setColor(QPalette::Link, ToQColor(AccentColor));
-    return colors;
-}
 
 } // namespace
 
@@ -36,7 +20,7 @@ PictureBox* PictureButton(int size, const char* name) {
 }
 
 void ApplyProgramStyle() {
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(NewProgramStyle());
     QApplication::setPalette(ProgramPalette());
     QApplication::setFont(ToQFont({Face::List, WindowPoints, false}));
 }

@@ -1,10 +1,14 @@
 // frmAlert: a small window with one text and an OK button, which the alert buttons show.
 #include "mainwindow/frmAlert.h"
 
+#include "platform/PictureBox.h"
+#include "platform/WindowColors.h"
+
 #include <QCloseEvent>
 
 frmAlert::frmAlert(QWidget* parent) : QDialog(parent) {
     setupUi(this);
+    SetColor(TextBoxAlert, QPalette::Base, PanelColor); // it is only read
     connect(ButtonOK, &QPushButton::clicked, this, &QDialog::hide);
 }
 

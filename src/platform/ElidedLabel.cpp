@@ -1,8 +1,18 @@
 // A label of one line that never asks for more width than it gets.
 #include "platform/ElidedLabel.h"
 
+#include "platform/Text.h"
+
 #include <QEvent>
 #include <QPainter>
+
+namespace {
+
+int Mnemonics(const QLabel& label) {
+    return label.buddy() == nullptr ? 0 : Qt::TextShowMnemonic;
+}
+
+} // namespace
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
@@ -13,14 +23,13 @@ QSize ElidedLabel::minimumSizeHint() const {
 }
 
 QString ElidedLabel::ShownText() const {
-    return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    return fontMetrics().elidedText(text(), Elision, contentsRect().width(), Mnemonics(*this));
 }
 
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         const bool cut = ShownText() != text();
-        setToolTip(cut ? QStringLiteral("<span>") + text().toHtmlEscaped() + QStringLiteral("</span>")
-                       : QString());
+        setToolTip(cut ? PlainTip(buddy() == nullptr ? text() : WithoutMnemonics(text())) : QString());
     }
     return QLabel::event(event);
 }
@@ -28,5 +37,6 @@ bool ElidedLabel::event(QEvent* event) {
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine, ShownText());
+    painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine | Mnemonics(*this),
+                     ShownText());
 }

@@ -1,5 +1,5 @@
 // A label of one line that never asks for more width than it gets: a text that is too long ends in dots, and
-// the whole of it is the label's tip.
+// the whole of it is the label's tip. With a buddy "&" marks its key, as in any label.
 #pragma once
 
 #include <QLabel>
@@ -11,6 +11,9 @@ public:
     explicit ElidedLabel(QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
+
+    // Where the dots stand; at the end unless told otherwise.
+    Qt::TextElideMode Elision = Qt::ElideRight;
 
     // What is seen of the text.
     QString ShownText() const;

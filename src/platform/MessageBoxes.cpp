@@ -40,6 +40,23 @@ Answer AnswerOf(int button) {
     }
 }
 
+// A word as long as this may be broken anywhere, so that no name makes a box wider than the screen.
+constexpr qsizetype LongestWord = 30;
+
+QString Breakable(const QString& text) {
+    QString broken;
+    qsizetype length = 0; // of the word so far
+    for (const QChar character : text) {
+        length = character.isSpace() ? 0 : length + 1;
+        broken += character;
+        if (length == LongestWord) {
+            broken += QChar(0x200B); // a blank of no width
+            length = 0;
+        }
+    }
+    return broken;
+}
+
 } // namespace
 
 Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title, Preset preset) {
@@ -47,7 +64,7 @@ Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_vie
     QMessageBox box(WindowOfNextDialog());
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(FromStore(title));
-    box.setText(FromStore(text));
+    box.setText(Breakable(FromStore(text)));
     box.setIcon(Icons[static_cast<std::size_t>(icon)]);
     box.setStandardButtons(set.shown);
     box.setDefaultButton(preset == Preset::No ? QMessageBox::No : set.first);
@@ -56,8 +73,8 @@ Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_vie
 }
 
 void ShowFatalError(std::string_view text) {
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Planovarium"), FromStore(text), QMessageBox::Ok,
-                    WindowOfNextDialog());
+    QMessageBox box(QMessageBox::Critical, QStringLiteral("Planovarium"), Breakable(FromStore(text)),
+                    QMessageBox::Ok, WindowOfNextDialog());
     box.setTextFormat(Qt::PlainText);
     RunModally(box);
 }

@@ -20,6 +20,21 @@ QString MenuText(std::string_view text) {
     return FromStore(text).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
+QString WithoutMnemonics(const QString& caption) {
+    QString said;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        i += caption[i] == QLatin1Char('&') ? 1 : 0; // and whatever follows is said
+        if (i < caption.size()) {
+            said += caption[i];
+        }
+    }
+    return said;
+}
+
+QString PlainTip(const QString& text) {
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
 std::string ToStore(const QString& text) {
     return StoreText({QStringView(text).utf16(), static_cast<std::size_t>(text.size())});
 }

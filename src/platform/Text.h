@@ -15,6 +15,12 @@ QString FromScreen(const ScreenText& text);
 // The text as the caption of a menu item. A menu takes "&" for the mark of a key, so each is doubled.
 QString MenuText(std::string_view text);
 
+// What a caption of a menu says, without the marks of its keys.
+QString WithoutMnemonics(const QString& caption);
+
+// The text as a tool tip that shows it as it stands, whatever it is made of, broken into lines.
+QString PlainTip(const QString& text);
+
 // The text as the store holds it; a character that the set lacks becomes "?".
 std::string ToStore(const QString& text);
 

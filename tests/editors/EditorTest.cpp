@@ -19,6 +19,10 @@ int ColorOf(const QWidget* widget, QPalette::ColorRole role) {
 
 void EditorTest::SetUp() {
     WindowTest::SetUp();
+    SetUpLoaded();
+}
+
+void EditorTest::SetUpLoaded() {
     LoadWindow();
     Store.Term.id.Add("1");
     Store.Term.name.Add("Fall 2009");

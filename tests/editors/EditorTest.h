@@ -18,6 +18,9 @@ protected:
     // The window's ClickedDate is 2009-10-20, six days after today.
     void SetUp() override;
 
+    // The same behind a platform that the test has prepared.
+    void SetUpLoaded();
+
     // The dialogs open without their flow, so that the test goes on while they are open.
     void Open(frmAssignment& dialog, const std::string& mode);
     void Open(FrmTask& dialog, const std::string& mode);

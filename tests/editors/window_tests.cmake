@@ -5,6 +5,8 @@ target_sources(window_tests PRIVATE
   editors/ClassPanelTest.cpp
   editors/DatePickerStepsTest.cpp
   editors/DatePickerTest.cpp
+  editors/DialogKeysTest.cpp
+  editors/DialogLookTest.cpp
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
   editors/FlowRefreshTest.cpp

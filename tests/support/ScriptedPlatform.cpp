@@ -69,6 +69,9 @@ ScreenText FormatDate(Date date, std::string_view form) {
     const int d = static_cast<int>(static_cast<unsigned>(parts.day()));
     const std::string month = MonthNames[m];
     const std::string weekday = DayNames[std::chrono::weekday{date}.c_encoding()];
+    if (form == "Long Date" && Script.wordyDates) {
+        return {weekday + "-feira, " + std::to_string(d) + " de " + month + " de " + std::to_string(y)};
+    }
     if (form == "Long Date") {
         return {weekday + ", " + month + " " + std::to_string(d) + ", " + std::to_string(y)};
     }

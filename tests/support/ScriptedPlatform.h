@@ -32,6 +32,7 @@ struct StartedProcess {
 struct ScriptedPlatform {
     Moment now{};
     DateOrder dateOrder = DateOrder::MonthDayYear;
+    bool wordyDates = false;     // long dates as languages of many words have them
     std::vector<ShownBox> boxes; // every box shown, in order
     std::deque<Answer> answers;  // given to the next boxes; a box without one answers Ok, or No to a question
     std::function<void(const ShownBox&)> whileBoxIsOpen;  // runs while a box is on the screen

@@ -1,0 +1,118 @@
+// What the dialogs of the editors look like beyond the program's style.
+#include "editors/DialogLook.h"
+
+#include "platform/Formats.h"
+#include "platform/Text.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QToolButton>
+#include <QToolTip>
+
+namespace {
+
+constexpr int NameCharacters = 16; // that a combo of names has room for at least
+constexpr int DateMargin = 14;     // pixels of a date box beside its text: frame, margins and the cursor
+
+int RoomForName(const QComboBox* combo) {
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    return combo->style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
+        .width();
+}
+
+// Shows the name where there is no room for it.
+void ShowNameTip(const QHelpEvent& event, QWidget* widget, const QString& name, int room) {
+    const bool cut = widget->fontMetrics().horizontalAdvance(name) > room;
+    QToolTip::showText(event.globalPos(), cut ? PlainTip(name) : QString(), widget);
+}
+
+class NameTips : public QObject {
+public:
+    explicit NameTips(QComboBox* owner) : QObject(owner), combo(owner) {
+        combo->installEventFilter(this);
+        combo->view()->viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::ToolTip) {
+            return false;
+        }
+        const auto& help = *static_cast<QHelpEvent*>(event);
+        if (watched == combo) {
+            ShowNameTip(help, combo, combo->currentText(), RoomForName(combo));
+        } else {
+            const QModelIndex row = combo->view()->indexAt(help.pos());
+            ShowNameTip(help, combo->view()->viewport(), row.data().toString(),
+                        combo->view()->visualRect(row).width());
+        }
+        return true;
+    }
+
+private:
+    QComboBox* combo;
+};
+
+// Pixels of the longest date, whichever weekday falls on whichever month.
+int LongestDate(const QFontMetrics& metrics) {
+    constexpr int Year = 2009;
+    constexpr unsigned FirstDay = 22; // with two digits, as the six behind it
+    int longest = 0;
+    for (unsigned month = 1; month <= 12; ++month) {
+        for (unsigned day = FirstDay; day < FirstDay + 7; ++day) {
+            const Date date{std::chrono::year{Year} / std::chrono::month{month} / std::chrono::day{day}};
+            longest = std::max(longest, metrics.horizontalAdvance(FromScreen(FormatDate(date, "Long Date"))));
+        }
+    }
+    return longest;
+}
+
+// Follows the width of a label with a height that has room for its lines.
+class LineKeeper : public QObject {
+public:
+    explicit LineKeeper(QLabel* owner) : QObject(owner), label(owner) { label->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            label->setMinimumHeight(label->heightForWidth(label->width()));
+        }
+        return false;
+    }
+
+private:
+    QLabel* label;
+};
+
+} // namespace
+
+void SetupNames(QComboBox* combo) {
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(NameCharacters);
+    combo->view()->setTextElideMode(Qt::ElideRight);
+    new NameTips(combo);
+}
+
+void SetupDateBoxes(std::initializer_list<DateBox> boxes) {
+    const int longest = LongestDate(boxes.begin()->box->fontMetrics());
+    for (const DateBox& date : boxes) {
+        date.box->setMinimumWidth(longest + DateMargin);
+        date.button->setIcon(QIcon(QStringLiteral(":/icons/picButtonDate.svg")));
+        date.button->setToolTip(date.button->accessibleName());
+    }
+}
+
+void KeepLines(const QWidget* dialog) {
+    for (QLabel* label : dialog->findChildren<QLabel*>()) {
+        if (label->wordWrap()) {
+            new LineKeeper(label);
+        }
+    }
+}

@@ -1,0 +1,108 @@
+// The program's message boxes as they stand on the screen: its own pictures, plain buttons, and texts that
+// are broken into lines however long a name in them is.
+#include "platform/MessageBoxes.h"
+
+#include "platform/ProgramStyle.h"
+#include "support/ChildProcess.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::string LongName(200, 'W');
+const QString NoWidth(QChar(0x200B));
+
+using Expectations = std::function<void(QMessageBox&)>;
+
+// An application can be made once in a process, so each box has a process of its own.
+bool HoldsFor(const std::function<void()>& show, const Expectations& expect) {
+    return SucceedsInChild([&] {
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        int count = 1;
+        char name[] = "boxes";
+        char* arguments[] = {name, nullptr};
+        const QApplication application(count, arguments);
+        QApplication::setStyle(NewProgramStyle());
+        QApplication::setPalette(ProgramPalette());
+        QTimer poll;
+        bool seen = false;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box != nullptr && box->isVisible() && !seen) {
+                seen = true;
+                expect(*box);
+                box->done(QMessageBox::No);
+            }
+        });
+        poll.start(1);
+        show();
+        EXPECT_TRUE(seen);
+    });
+}
+
+QLabel* TextLabel(const QMessageBox& box) {
+    return box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+}
+
+QImage OurPicture(const char* name, const QSize& size) {
+    return QIcon(QStringLiteral(":/icons/") + QLatin1String(name)).pixmap(size).toImage();
+}
+
+void ExpectPicture(const QMessageBox& box, const char* name) {
+    const QPixmap shown = box.iconPixmap();
+    EXPECT_FALSE(shown.isNull());
+    EXPECT_EQ(shown.toImage(), OurPicture(name, shown.deviceIndependentSize().toSize())) << name;
+}
+
+} // namespace
+
+TEST(MessageBoxes, HaveThePicturesOfThisProgram) {
+    EXPECT_TRUE(HoldsFor([] { MsgBox("A", Buttons::Ok, Icon::Information); },
+                         [](QMessageBox& box) { ExpectPicture(box, "boxInformation.svg"); }));
+    EXPECT_TRUE(HoldsFor([] { MsgBox("A", Buttons::Ok, Icon::Exclamation); },
+                         [](QMessageBox& box) { ExpectPicture(box, "boxWarning.svg"); }));
+    EXPECT_TRUE(
+        HoldsFor([] { ShowFatalError("A"); }, [](QMessageBox& box) { ExpectPicture(box, "boxError.svg"); }));
+}
+
+TEST(MessageBoxes, HavePlainButtons) {
+    EXPECT_TRUE(HoldsFor([] { MsgBox("A", Buttons::YesNoCancel, Icon::Information); },
+                         [](QMessageBox& box) {
+                             EXPECT_EQ(box.style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons),
+                                       0);
+                             EXPECT_EQ(box.buttons().size(), 3);
+                             for (const QAbstractButton* button : box.buttons()) {
+                                 EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
+                             }
+                         }));
+}
+
+TEST(MessageBoxes, BreakAnyNameIntoLinesWithinTheScreen) {
+    const std::string text = "Are you sure you want to Delete '" + LongName +
+                             "'? If you have assignments for '" + LongName + "', they will also be Deleted.";
+    const Expectations expect = [&text](QMessageBox& box) {
+        const QLabel* label = TextLabel(box);
+        EXPECT_EQ(label->text().remove(NoWidth).toStdString(), text);
+        EXPECT_LT(box.width(), box.screen()->availableGeometry().width());
+        EXPECT_LE(label->heightForWidth(label->width()), label->height());
+        EXPECT_LE(label->minimumSizeHint().width(), label->width()) << "no word is wider than the label";
+    };
+    EXPECT_TRUE(HoldsFor([&text] { MsgBox(text, Buttons::YesNo, Icon::Information); }, expect));
+    EXPECT_TRUE(HoldsFor([&text] { ShowFatalError(text); }, expect));
+}
+
+TEST(MessageBoxes, ShowShortTextsAsTheyAre) {
+    EXPECT_TRUE(HoldsFor([] { MsgBox("Delete <b>this</b> class & all?", Buttons::YesNo, Icon::Information); },
+                         [](QMessageBox& box) {
+                             EXPECT_EQ(box.text(), "Delete <b>this</b> class & all?");
+                             EXPECT_EQ(TextLabel(box)->textFormat(), Qt::PlainText);
+                         }));
+}
