@@ -17,6 +17,8 @@ using std::chrono::month;
 using std::chrono::year;
 using std::chrono::year_month_day;
 
+constexpr int GreatestMonth = 12;
+constexpr int GreatestDay = 31;
 constexpr int FirstTwoDigitYearOf1900 = 30;
 constexpr std::string_view DateSeparators = "/-.";
 
@@ -31,6 +33,9 @@ std::optional<int> Digits(std::string_view text) {
 }
 
 std::optional<Date> CalendarDate(int y, int m, int d) {
+    if (m > GreatestMonth || d > GreatestDay) { // of which the calendar would keep eight bits alone
+        return std::nullopt;
+    }
     const year_month_day parts{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}};
     if (!parts.ok()) {
         return std::nullopt;

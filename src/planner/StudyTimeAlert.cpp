@@ -107,12 +107,13 @@ bool StudyIsShort() {
 } // namespace
 
 AlertsShown StudyTimeAlertCheck() {
-    const Date today = Today();
+    const Moment now = Now();
+    const Date today = std::chrono::floor<std::chrono::days>(now);
     const std::vector<OpenHomework> homework = HomeworkNotDone(today);
     ResetAlertLists(today, homework);
     FillAlertNeed(homework);
     if (AlertDays.Count() > 0) {
-        StudyTimeByDay(today);
+        StudyTimeByDay(now);
     }
     AlertsShown shown{};
     shown[StudyTimeAlert] = StudyIsShort();

@@ -29,7 +29,7 @@ extern std::string AlertAmount, AlertBefore;
 // `est_time`; both are meant. More than 32767 minutes on one day, or a bad text, raise the run-time error.
 AlertsShown StudyTimeAlertCheck();
 
-// Adds the scheduled study to AlertStudy, for each date of AlertDays, which begins with today and is not
-// empty. A session of today that is over ends the count at once, with what was added by then: the sessions
-// behind it in the store and those of all later days are left out. That is meant.
-void StudyTimeByDay(Date today);
+// Adds the scheduled study to AlertStudy, for each date of AlertDays, which begins with the day of the
+// present moment and is not empty. A session of today that is over ends the count at once, with what was
+// added by then: the sessions behind it in the store and those of all later days are left out. That is meant.
+void StudyTimeByDay(Moment now);

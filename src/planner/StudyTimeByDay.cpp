@@ -39,9 +39,8 @@ double LengthOf(int index) {
 
 // True when the session of today ends before the present. The end is a time of day: a session over midnight
 // ends early in the morning and counts as over. That is meant.
-bool IsOver(int index) {
-    const Moment now = Now();
-    const auto present = static_cast<double>((now - std::chrono::floor<days>(now)).count());
+bool IsOver(int index, TimeOfDay presentTime) {
+    const auto present = static_cast<double>(presentTime.count());
     const auto start = static_cast<double>(TimeValue(Store.EventRecord.time.Item(index)).count());
     const double seconds = std::nearbyint(LengthOf(index) * SecondsPerMinute);
     const double end = std::fmod(start + seconds, SecondsPerDay);
@@ -54,10 +53,11 @@ void AddMinutes(std::size_t day, double minutes) {
 }
 
 // False when a session of today is over, which ends the count.
-bool AddStudyOfToday(Date today, const std::vector<int>& sessions) {
+bool AddStudyOfToday(Moment now, const std::vector<int>& sessions) {
+    const auto today = std::chrono::floor<days>(now);
     for (const int index : sessions) {
         if (EventOccursOn(today, index)) {
-            if (IsOver(index)) {
+            if (IsOver(index, now - today)) {
                 return false;
             }
             AddMinutes(0, LengthOf(index));
@@ -169,7 +169,7 @@ void AddStudyOfLaterDays(LaterStudy& later, int index) {
 
 } // namespace
 
-void StudyTimeByDay(Date today) {
+void StudyTimeByDay(Moment now) {
     const TextList& types = Store.EventRecord.type;
     std::vector<int> sessions;
     for (int index = 1; index <= types.Count(); ++index) {
@@ -177,7 +177,7 @@ void StudyTimeByDay(Date today) {
             sessions.push_back(index);
         }
     }
-    if (!AddStudyOfToday(today, sessions)) {
+    if (!AddStudyOfToday(now, sessions)) {
         return;
     }
     LaterStudy later;

@@ -51,6 +51,36 @@ TEST_F(DateTexts, WhatIsNoDayOfTheCalendarIsNoDate) {
     EXPECT_TRUE(IsDate("2008/02/29"));
 }
 
+TEST_F(DateTexts, MonthsAndDaysOfThreeOrFourDigitsAreNoneHoweverTheirLastBitsRead) {
+    for (const DateOrder order :
+         {DateOrder::MonthDayYear, DateOrder::DayMonthYear, DateOrder::YearMonthDay}) {
+        Script.dateOrder = order;
+        for (const char* none :
+             {"2009/264/24", "2009/10/270", "2009/258/258", "2009/4097/01", "2009/01/4097", "10/270/2009",
+              "266/14/2009", "270/10/2009", "14/266/2009", "4097/4097/2009", "9/266/14"}) {
+            EXPECT_FALSE(IsDate(none)) << none;
+        }
+    }
+}
+
+TEST_F(DateTexts, OfEveryNumberForMonthAndDayAreThoseOfTheCalendar) {
+    for (int number = 0; number <= 9999; ++number) {
+        const std::string text = std::to_string(number);
+        EXPECT_EQ(IsDate("2009/" + text + "/1"), number >= 1 && number <= 12) << number;
+        EXPECT_EQ(IsDate("2009/1/" + text), number >= 1 && number <= 31) << number;
+    }
+}
+
+TEST_F(DateTexts, BeginWithTheYear100AndEndWith9999) {
+    EXPECT_EQ(DateIn("0100/01/01"), Date{100y / 1 / 1});
+    EXPECT_EQ(DateIn("1/1/100"), Date{100y / 1 / 1});
+    EXPECT_EQ(StoredDate(Date{100y / 1 / 1}), "0100/01/01");
+    EXPECT_EQ(DateIn("9999/12/31"), Date{9999y / 12 / 31});
+    EXPECT_FALSE(IsDate("0099/12/31"));
+    EXPECT_FALSE(IsDate("12/31/099"));
+    EXPECT_FALSE(IsDate("10000/01/01"));
+}
+
 TEST_F(DateTexts, EveryDayOfSixCenturiesReadsBackAsItself) {
     for (Date date{1600y / 1 / 1}; date < Date{2200y / 1 / 1}; date += std::chrono::days{1}) {
         ASSERT_EQ(DateIn(StoredDate(date)), date) << StoredDate(date);
@@ -86,6 +116,16 @@ TEST_F(DateTexts, MomentsHaveADateAndMayHaveATime) {
     EXPECT_FALSE(MomentIn("2009/05/01 25:00").has_value());
     EXPECT_FALSE(MomentIn("09:30:00").has_value());
     EXPECT_THROW(MomentValue(""), RunTimeError);
+}
+
+TEST_F(DateTexts, MomentsOfTheEndOfFebruaryAreThoseOfTheCalendar) {
+    EXPECT_EQ(MomentIn("2008/02/29 09:30:00"), Moment{Date{2008y / 2 / 29}} + 9h + 30min);
+    EXPECT_EQ(MomentIn("2000/02/29 00:00:00"), Moment{Date{2000y / 2 / 29}});
+    for (const char* none : {"2009/02/29 09:30:00", "1900/02/29 09:30:00", "2009/02/30 09:30:00",
+                             "2008/02/30 09:30:00", "2008/02/30", "2009/02/31 00:00:00"}) {
+        EXPECT_FALSE(MomentIn(none).has_value()) << none;
+        EXPECT_THROW(MomentValue(none), RunTimeError) << none;
+    }
 }
 
 TEST_F(DateTexts, TheStoredMomentDropsTheSeconds) {

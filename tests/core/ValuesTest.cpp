@@ -18,6 +18,17 @@ TEST(Numbers, AreDigitsWithSignAndPoint) {
     }
 }
 
+TEST(Numbers, OfAnyLengthKeepTheirValue) {
+    EXPECT_EQ(NumberIn("999999999"), 999999999.0);
+    EXPECT_EQ(NumberIn("2147483648"), 2147483648.0);
+    EXPECT_EQ(NumberIn("4294967297"), 4294967297.0); // 1, had it 32 bits
+    EXPECT_EQ(NumberIn("9999999999"), 9999999999.0);
+    EXPECT_EQ(NumberIn("18446744073709551617"), 18446744073709551617.0);
+    EXPECT_FALSE(IdIn("4294967297").has_value());
+    EXPECT_THROW(ToColor("4294967297"), RunTimeError);
+    EXPECT_THROW(ToInt16("4294967297"), RunTimeError);
+}
+
 TEST(Numbers, RoundHalvesToEvenAndOverflowBeyondSixteenBits) {
     EXPECT_EQ(ToInt16("2.5"), 2);
     EXPECT_EQ(ToInt16("3.5"), 4);
@@ -42,6 +53,7 @@ TEST(Numbers, IdsAreWholeNumbersOfSixteenBits) {
     EXPECT_EQ(IdIn("32767"), 32767);
     EXPECT_EQ(IdIn(" 12.0 "), 12);
     EXPECT_EQ(IdIn("-1"), -1);
+    EXPECT_EQ(IdIn("-32768"), -32768);
     for (const char* none : {"", "32768", "99999", "1.5", "-32769", "one", "1 2"}) {
         EXPECT_FALSE(IdIn(none).has_value()) << none;
     }

@@ -1,6 +1,7 @@
 // The scan for reminders of events: single ones, series, and meetings of classes.
 #include "planner/ReminderActions.h"
 #include "planner/ReminderEngine.h"
+#include "planner/SeriesEdits.h"
 #include "support/ReminderScan.h"
 
 namespace {
@@ -129,6 +130,21 @@ TEST_F(ReminderScan, LetsASnoozedOccurrenceRestThatWasGivenUpSince) {
     EXPECT_EQ(Store.EventRecord.reminder_alarm.Item(1), "2009/10/15 08:30:00");
     SetClock(2009, 10, 15, 8, 30);
     window.Tick();
+    EXPECT_EQ(Store.EventRecord.reminder_currentday.Item(1), "2009/10/15");
+}
+
+TEST_F(ReminderScan, KeepsARowWhoseOccurrenceWasGivenUpSinceUntilItIsRemoved) {
+    AddArmedEvent(Daily);
+    window.QuietTick();
+    GiveUpOccurrence(1, Date{std::chrono::year{2009} / 10 / 14});
+    SetClock(2009, 10, 14, 18, 0);
+    window.Tick();
+    EXPECT_EQ(window.Standing(), Texts{"Event 1"});
+    EXPECT_EQ(Store.EventRecord.reminder_currentday.Item(1), "2009/10/14");
+    EXPECT_FALSE(window.flags.ReminderEventsChanged);
+    RemoveReminder("Event", "1", window.flags);
+    window.Tick();
+    EXPECT_EQ(window.Standing(), Texts{});
     EXPECT_EQ(Store.EventRecord.reminder_currentday.Item(1), "2009/10/15");
 }
 

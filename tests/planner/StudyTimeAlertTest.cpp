@@ -255,3 +255,14 @@ TEST_F(StudyTimeAlerts, DoNotOverflowInSumsOverManyDays) {
     ExpectNoStudyAlert();
     EXPECT_EQ(AlertStudy.Item(AlertStudy.Count()), 32767);
 }
+
+// At the last second of the day a second look at the clock would find the session of the evening still to
+// come.
+TEST_F(StudyTimeAlerts, LookAtTheClockOnce) {
+    SetClock(2009, 10, 14, 23, 59, 59);
+    Script.lookTakes = 1s;
+    AddHomework(OnToday, "00 : 30");
+    AddStudy(OnToday, "30 Minutes", "11:00 PM");
+    EXPECT_TRUE(StudyTimeAlertCheck()[StudyTimeAlert]);
+    EXPECT_EQ(Script.now, Moment{Date{2009y / 10 / 15}});
+}

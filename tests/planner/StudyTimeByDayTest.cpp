@@ -51,7 +51,7 @@ void SetAlertDays(Date first, int count) {
 // The minutes of study of that many days from the Wednesday on.
 Minutes StudyOf(int count) {
     SetAlertDays(Wednesday, count);
-    StudyTimeByDay(Wednesday);
+    StudyTimeByDay(Now());
     return AlertStudy.values;
 }
 
@@ -368,7 +368,7 @@ TEST_F(StudyOfDays, AgreesWithACountOfTheDaysOneByOne) {
         const std::vector<Session> sessions = RandomSessions(random, today);
         StoreSessions(sessions);
         SetAlertDays(today, count);
-        StudyTimeByDay(today);
+        StudyTimeByDay(Now());
         const Minutes wanted = NaiveStudy(sessions, days, 10h);
         ASSERT_EQ(AlertStudy.values, wanted) << "round " << round;
         const Minutes inTheMorning = NaiveStudy(sessions, days, 0h);
@@ -395,7 +395,7 @@ TEST_F(StudyOfDays, ConservesTheMinutes) {
         }
         StoreSessions(sessions);
         SetAlertDays(today, 150);
-        StudyTimeByDay(today);
+        StudyTimeByDay(Now());
         ASSERT_EQ(std::accumulate(AlertStudy.begin(), AlertStudy.end(), 0), scheduled) << "round " << round;
     }
 }

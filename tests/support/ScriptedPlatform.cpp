@@ -50,11 +50,12 @@ void SetClock(int year, int month, int day, int hour, int minute, int second) {
 }
 
 Moment Now() {
-    return Script.now;
+    Script.now += Script.lookTakes;
+    return Script.now - Script.lookTakes;
 }
 
 Date Today() {
-    return floor<std::chrono::days>(Script.now);
+    return floor<std::chrono::days>(Now());
 }
 
 DateOrder LocaleDateOrder() {

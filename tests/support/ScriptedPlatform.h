@@ -31,6 +31,7 @@ struct StartedProcess {
 
 struct ScriptedPlatform {
     Moment now{};
+    std::chrono::seconds lookTakes{0}; // that pass with each look at the clock
     DateOrder dateOrder = DateOrder::MonthDayYear;
     bool wordyDates = false;     // long dates as languages of many words have them
     std::vector<ShownBox> boxes; // every box shown, in order
