@@ -107,6 +107,17 @@ TEST_F(Folders, InWhosePlaceAFileLiesAreTakenAsExisting) {
     EXPECT_TRUE(fs::is_regular_file(documents / "Planovarium" / "Data"));
 }
 
+TEST_F(Folders, InWhosePlaceAFileLiesDoNotKeepThePlannerFromItsStart) {
+    fs::create_directories(documents / "Planovarium" / "Data");
+    std::ofstream(documents / "Planovarium" / "Data" / "Backup") << "a file";
+    EXPECT_TRUE(SetupFolders());
+    EXPECT_EQ(DataFile("Backup"), "a file");
+    WriteTasks();
+    RotateBackups();
+    EXPECT_EQ(Script.boxes, Boxes{});
+    EXPECT_EQ(DataFile("Backup"), "a file");
+}
+
 TEST_F(Folders, ThatCannotBeEnteredAtStartGiveTheDirectoryMessageAndEndTheProcess) {
     EXPECT_TRUE(SucceedsInChild([] {
         FailSystemCall(SYS_chdir, EACCES);

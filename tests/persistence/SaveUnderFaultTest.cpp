@@ -159,3 +159,19 @@ TEST_F(FirstRead, InAReadOnlyFolderShowsTheReadingMessage) {
     }));
     EXPECT_EQ(DataFile("tasks.xml"), NoFile);
 }
+
+TEST_F(FirstRead, OfAFileThatCannotBeAskedForTakesItAsThere) {
+    AddTaskRecord({.desc = "old"});
+    WriteTasks();
+    const std::string old = DataFile("tasks.xml");
+    for (const int number : {SYS_newfstatat, SYS_stat, SYS_lstat, SYS_statx}) {
+        EXPECT_TRUE(SucceedsInChild([number] {
+            ResetStore();
+            FailSystemCall(number, EACCES);
+            ReadTasks();
+            EXPECT_EQ(Script.boxes, Boxes{});
+            EXPECT_EQ(Store.TaskRecord.desc.values, Texts{"old"});
+        }));
+        EXPECT_EQ(DataFile("tasks.xml"), old);
+    }
+}

@@ -1,5 +1,6 @@
 // The files of tasks and events byte for byte: what is written, and that it reads back the same.
 #include "persistence/DataFolderTest.h"
+#include "planner/SeriesEdits.h"
 #include "support/EventRecords.h"
 
 namespace {
@@ -216,6 +217,28 @@ TEST_F(Events, OfARemovedSeriesAreNoLongerInTheFile) {
     ReadEvents();
     EXPECT_EQ(Store.EventRecord.desc.values, Texts{"other"});
     EXPECT_EQ(Store.EventRecord.id.values, Texts{"3"});
+}
+
+TEST_F(Events, OfASeriesThatIsRemovedLeaveTheFileWithItsChangedOccurrences) {
+    AddEventRecord({.desc = "before"});
+    AddEventRecord({.desc = "series", .recurrence = "Day", .repeat_daily = "TTTTTTT"});
+    AddEventRecord({.desc = "of another series", .parent_id = "1"});
+    ReplaceOccurrence(2, Date{std::chrono::year{2009} / 10 / 16}, Store.EventRecord);
+    Store.EventRecord.desc.Replace(4, "changed");
+    WriteEvents();
+    EXPECT_NE(DataFile("events.xml").find("<parent_id>2</parent_id>"), std::string::npos);
+    RemoveSeries(2);
+    WriteEvents();
+    const std::string file = DataFile("events.xml");
+    for (const char* gone : {"series</desc>\r\n  <type>None</type>\r\n  <recurrence>Day", "changed",
+                             "<parent_id>2</parent_id>", "2009/10/16"}) {
+        EXPECT_EQ(file.find(gone), std::string::npos) << gone;
+    }
+    ResetStore();
+    ReadEvents();
+    EXPECT_EQ(Store.EventRecord.desc.values, (Texts{"before", "of another series"}));
+    EXPECT_EQ(Store.EventRecord.id.values, (Texts{"1", "3"}));
+    EXPECT_EQ(Store.EventRecord.parent_id.values, (Texts{"", "1"}));
 }
 
 TEST_F(Events, NameTheirFileInBothMessagesAndClearTheFlag) {

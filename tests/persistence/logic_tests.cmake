@@ -1,5 +1,6 @@
 target_sources(logic_tests PRIVATE
   persistence/BackupsTest.cpp
+  persistence/CountedListsTest.cpp
   persistence/DamagedFilesTest.cpp
   persistence/DeviceOrderTest.cpp
   persistence/FoldersTest.cpp
