@@ -5,6 +5,7 @@
 #include "planner/Colors.h"
 #include "planner/DateHelpers.h"
 #include "planner/DateTitles.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 
 #include <QAbstractButton>
@@ -116,6 +117,7 @@ void DatePicker::PaintCells() {
         PaintDayLabel(LabelCalDate[index], QString::number(cell.day),
                       cell.selected ? ColorSelectedText : plain,
                       cell.selected ? ColorSelectedCell : ColorCell, cell.selected);
+        DescribeName(LabelCalDate[index], FromScreen(FormatDate(cell.date, "Long Date")));
         if (cell.today) {
             LabelCalTileBorder->Surround(LabelCalDate[index]);
         }

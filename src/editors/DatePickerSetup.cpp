@@ -72,7 +72,7 @@ QWidget* DatePicker::BuildMonthName() {
 
 PictureBox* DatePicker::BuildMonthButton(ClickLabel*& label, bool up) {
     PictureBox* button = DayButton("", MonthButtonSize, label);
-    button->setAccessibleName(up ? QStringLiteral("One month on") : QStringLiteral("One month back"));
+    label->setAccessibleName(up ? QStringLiteral("One month on") : QStringLiteral("One month back"));
     connect(label, &ClickLabel::Pressed, this, [this, up](Qt::MouseButton mouseButton) {
         if (mouseButton == Qt::LeftButton) {
             PressMonthButton(up);

@@ -4,6 +4,7 @@
 #include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/ElidedLabel.h"
+#include "platform/Pressable.h"
 
 #include <QHBoxLayout>
 #include <QSizeGrip>
@@ -48,6 +49,7 @@ frmMain::frmMain() {
     column->addLayout(row, 1);
     picStatusBar = new PictureBox;
     picStatusBar->setFixedHeight(StatusHeight);
+    DescribeAs(picStatusBar, QAccessible::StatusBar);
     auto* corner = new QHBoxLayout(picStatusBar);
     corner->setContentsMargins(0, 0, 0, 0);
     auto* grip = new QSizeGrip(picStatusBar);
@@ -77,8 +79,8 @@ QWidget* frmMain::BuildRightSide() {
     picTop->setFixedHeight(TopHeight);
     auto* top = new QHBoxLayout(picTop);
     top->setContentsMargins(0, 0, 0, PanelMargin);
-    picCalDayDown = PictureButton(StepperSize, "One day back");
-    picCalDayUp = PictureButton(StepperSize, "One day on");
+    picCalDayDown = PictureButton(StepperSize, "One day back", Qt::CTRL | Qt::Key_Left);
+    picCalDayUp = PictureButton(StepperSize, "One day on", Qt::CTRL | Qt::Key_Right);
     LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
     LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
     LabelInfoTitle->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
@@ -94,6 +96,7 @@ QWidget* frmMain::BuildRightSide() {
     picGrid->setAccessibleName(QStringLiteral("View"));
     for (PictureBox*& header : picColHeader) {
         header = new PictureBox(picGrid);
+        header->setCursor(Qt::PointingHandCursor);
         header->hide();
     }
     VSGridScroll = new QScrollBar(Qt::Vertical, picGrid);

@@ -3,6 +3,7 @@
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Modal.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 #include "platform/WindowColors.h"
 
@@ -32,6 +33,11 @@ bool IsStartDay(std::string_view day) {
     return std::ranges::find(StartDays, day) != StartDays.end();
 }
 
+// In the order of StartDays.
+std::array<QAction*, StartDays.size()> StartDayItems(const frmMain& window) {
+    return {window.MenuStartSun, window.MenuStartMon, window.MenuStartSat};
+}
+
 // A head that reacts to a click looks like a link.
 void PaintHead(ClickLabel* head, std::string_view day, bool reacts) {
     const QString name = FromStore(day);
@@ -39,6 +45,7 @@ void PaintHead(ClickLabel* head, std::string_view day, bool reacts) {
     head->setProperty(HeadTag, name);
     head->setAccessibleName(name);
     head->setToolTip(reacts ? QStringLiteral("Start the week on %1").arg(name) : QString());
+    DescribeAs(head, reacts ? QAccessible::Button : QAccessible::StaticText);
     head->setCursor(reacts ? Qt::PointingHandCursor : Qt::ArrowCursor);
     QFont font = head->font();
     font.setUnderline(reacts);
@@ -80,10 +87,11 @@ void frmMain::BindCalendar() {
         });
     }
     auto* startDays = new QActionGroup(this); // one of them is checked at a time
-    for (QAction* item : {MenuStartSun, MenuStartMon, MenuStartSat}) {
-        startDays->addAction(item);
-        connect(item, &QAction::triggered, this,
-                [this, item] { ChooseStartDayOfWeek(ToStore(item->text())); });
+    const std::array items = StartDayItems(*this);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        startDays->addAction(items[i]);
+        connect(items[i], &QAction::triggered, this,
+                [this, i] { ChooseStartDayOfWeek(std::string(StartDays[i])); });
     }
 }
 
@@ -139,8 +147,9 @@ void frmMain::ApplyStartDayOfWeek() {
         const bool first = heads[column] == StartDayOfWeek;
         PaintHead(LabelCalDay[column], heads[column], IsStartDay(heads[column]) && !first);
     }
-    for (QAction* item : {MenuStartSun, MenuStartMon, MenuStartSat}) {
-        item->setChecked(ToStore(item->text()) == StartDayOfWeek);
+    const std::array items = StartDayItems(*this);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        items[i]->setChecked(StartDays[i] == StartDayOfWeek);
     }
     RefreshFor(ReasonStartDayOfWeek);
 }

@@ -38,7 +38,7 @@ void DrawHalfHours(PictureBox& grid, int firstRow) {
 }
 
 void DrawEventBox(PictureBox& grid, int row, const UnitRect& box, bool current) {
-    const QString text = ShortenedText(FromStore(EventBoxText(row)), ListFont, box.width - 2 * BoxTextIndent);
+    const QString text = ShownEventText(row, box.width);
     grid.FillRectangle(box.left, box.top, box.width, box.height, EventRowBackColor.Item(row));
     grid.DrawFrame(box.left, box.top, box.width, box.height, ColorBlack);
     if (current) {
@@ -73,6 +73,10 @@ int FirstRowOfDay(const frmMain& window) {
 }
 
 } // namespace
+
+QString ShownEventText(int eventRow, int boxWidth) {
+    return ShortenedText(FromStore(EventBoxText(eventRow)), ListFont, boxWidth - 2 * BoxTextIndent);
+}
 
 void frmMain::LayoutEventGrid() {
     HideColumnTitles(*this);

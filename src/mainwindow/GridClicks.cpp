@@ -2,6 +2,7 @@
 #include "core/RowLists.h"
 #include "mainwindow/DayLayout.h"
 #include "mainwindow/GridAccessible.h"
+#include "mainwindow/GridPointer.h"
 #include "mainwindow/frmMain.h"
 #include "planner/ReminderItems.h"
 
@@ -105,6 +106,7 @@ void EditReminder(frmMain& window, int row) {
 
 void frmMain::BindGrid() {
     InstallGridKeys();
+    InstallGridPointer(*this);
     VSGridScroll->setFocusPolicy(Qt::NoFocus);
     VSGridScroll->setFocusProxy(picGrid);
     connect(VSGridScroll, &QScrollBar::valueChanged, this, &frmMain::GridScrolled);

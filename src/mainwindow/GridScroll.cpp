@@ -1,6 +1,7 @@
 // The scroll bar of the grid, the wheel, and which layout and fill the mode has.
 #include "mainwindow/GridAccessible.h"
 #include "mainwindow/GridLayout.h"
+#include "mainwindow/GridPointer.h"
 #include "mainwindow/frmMain.h"
 
 #include <QSignalBlocker>
@@ -103,5 +104,6 @@ void frmMain::FillGrid() {
     case Mode::None:
         return;
     }
+    RefreshGridPointer(*this);
     NotifyGridChanged(*this);
 }

@@ -10,17 +10,15 @@
 #include "mainwindow/frmMain.h"
 #include "platform/Text.h"
 
-#include <optional>
-
 namespace {
 
-struct SpokenTitle {
-    std::string_view title;
+struct SpokenMark {
+    std::string_view mark;
     const char* spoken;
 };
 
-// What is said in place of a title that is a mark.
-constexpr std::array<SpokenTitle, 3> SpokenTitles{{
+// What is said in place of a mark.
+constexpr std::array<SpokenMark, 3> SpokenMarks{{
     {"#", "Number"},
     {ReminderMark, "Reminder"},
     {PriorityMark, "Priority"},
@@ -30,21 +28,6 @@ constexpr std::array<SpokenTitle, 3> SpokenTitles{{
 enum DayColumn { TimeColumn, LengthColumn, EventColumn, DayColumnCount };
 
 constexpr std::array<const char*, DayColumnCount> DayTitles{"Time", "Length", "Event"};
-
-std::optional<ListKind> ListOf(Mode mode) {
-    switch (mode) {
-    case Mode::Homework:
-        return ListKind::Homework;
-    case Mode::StudySessions:
-        return ListKind::StudySessions;
-    case Mode::Tasks:
-        return ListKind::Tasks;
-    case Mode::Reminders:
-        return ListKind::Reminders;
-    default:
-        return std::nullopt;
-    }
-}
 
 QRect InPixels(const UnitRect& rect) {
     return {rect.left / UnitsPerPixel, rect.top / UnitsPerPixel, rect.width / UnitsPerPixel,
@@ -58,10 +41,16 @@ std::size_t CellIndex(int row, int column) {
 
 // --- The lists ---
 
-QString ListTitle(ListKind kind, int column) {
+// The word for the title of a column; nothing where that is no mark.
+std::optional<QString> SpokenMarkOf(ListKind kind, int column) {
     const std::string_view title = Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title);
-    const auto* const mark = std::ranges::find(SpokenTitles, title, &SpokenTitle::title);
-    return mark == SpokenTitles.end() ? FromStore(title) : QLatin1String(mark->spoken);
+    const auto* const mark = std::ranges::find(SpokenMarks, title, &SpokenMark::mark);
+    return mark == SpokenMarks.end() ? std::nullopt : std::optional<QString>(QLatin1String(mark->spoken));
+}
+
+QString ListTitle(ListKind kind, int column) {
+    return SpokenMarkOf(kind, column)
+        .value_or(FromStore(Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title)));
 }
 
 const GridCell& ListCell(const GridRow& row, int column) {
@@ -82,7 +71,9 @@ QString ListText(ListKind kind, int row, int column) {
     case CellKind::Text:
         break;
     }
-    return cell.text.trimmed();
+    const QString text = cell.text.trimmed();
+    return text.isEmpty() ? text
+                          : SpokenMarkOf(kind, column).value_or(text); // what is marked, in place of the mark
 }
 
 QRect ListPlace(const frmMain& window, ListKind kind, int row, int column) {
@@ -144,6 +135,21 @@ void PressEvent(frmMain& window, int row) {
 }
 
 } // namespace
+
+std::optional<ListKind> ListOf(Mode mode) {
+    switch (mode) {
+    case Mode::Homework:
+        return ListKind::Homework;
+    case Mode::StudySessions:
+        return ListKind::StudySessions;
+    case Mode::Tasks:
+        return ListKind::Tasks;
+    case Mode::Reminders:
+        return ListKind::Reminders;
+    default:
+        return std::nullopt;
+    }
+}
 
 GridTable TableOf(const frmMain& window) {
     const Mode mode = window.CurrentMode();

@@ -5,6 +5,7 @@
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
 #include "platform/ElidedLabel.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 #include "platform/WindowColors.h"
 
@@ -18,10 +19,10 @@ constexpr int HeadsRow = 1; // of the small calendar: under the month's name
 constexpr int TodayRow = HeadsRow + 1 + MonthCells / DaysPerWeek;
 constexpr int TodayHeight = 22;
 constexpr int GapAboveToday = 3;
-constexpr int SmallButtonWidth = 50; // the small buttons stand 750 units apart
 constexpr int SmallButtonHeight = 26;
 constexpr int SmallIcon = 18;
 constexpr int PanelGap = 5;
+constexpr int LeastComboCharacters = 8;
 constexpr int CounterBoxWidth = 58;
 constexpr int CounterBoxHeight = 19;
 constexpr int AlertHeight = 21;
@@ -62,13 +63,15 @@ QString WithoutColon(std::string_view label) {
     return FromStore(label.substr(0, label.find(':')));
 }
 
-QToolButton* SmallNewButton(const char* picture, const char* name) {
+QToolButton* SmallNewButton(const char* picture, const QAction* item) {
     auto* button = new QToolButton;
     button->setIcon(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)));
     button->setIconSize({SmallIcon, SmallIcon});
-    button->setFixedSize(SmallButtonWidth - PanelGap, SmallButtonHeight);
-    button->setToolTip(QLatin1String(name));
-    button->setAccessibleName(QLatin1String(name));
+    button->setFixedHeight(SmallButtonHeight);
+    const QString name = WithoutMnemonics(item->text());
+    button->setText(name);
+    button->setToolTip(TipWithKey(name, item->shortcut()));
+    button->setAccessibleName(name);
     return button;
 }
 
@@ -127,14 +130,16 @@ QWidget* frmMain::BuildLeftPanel() {
 }
 
 QWidget* frmMain::BuildSmallCalendar() {
-    PictureBoxCalendar = Panel();
+    QFrame* ground = Panel(); // white, as are the days that nothing marks, so that a marked one stands out
+    SetColor(ground, QPalette::Window, ColorCell);
+    PictureBoxCalendar = ground;
     auto* grid = new QGridLayout(PictureBoxCalendar);
     grid->setContentsMargins(2, 2, 2, 2);
     grid->setSpacing(1);
 
     auto* head = new QHBoxLayout;
-    picCalMonthDown = PictureButton(StepperSize, "One month back");
-    picCalMonthUp = PictureButton(StepperSize, "One month on");
+    picCalMonthDown = PictureButton(StepperSize, "One month back", Qt::CTRL | Qt::Key_PageUp);
+    picCalMonthUp = PictureButton(StepperSize, "One month on", Qt::CTRL | Qt::Key_PageDown);
     LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
     head->addWidget(picCalMonthDown);
     head->addWidget(LabelMonth, 1);
@@ -149,6 +154,11 @@ QWidget* frmMain::BuildSmallCalendar() {
     const QSize buttonSize{LeftPanelWidth / 2 - 6, TodayHeight};
     picToday = DayButton("Today", buttonSize, LabelToday);
     picTomorrow = DayButton("Tomorrow", buttonSize, LabelTomorrow);
+    LabelToday->setToolTip(TipWithKey(QStringLiteral("Go to today"), Qt::CTRL | Qt::Key_Home));
+    LabelTomorrow->setToolTip(TipWithKey(QStringLiteral("Go to tomorrow"), Qt::CTRL | Qt::Key_End));
+    for (ClickLabel* label : {LabelToday, LabelTomorrow}) {
+        label->setCursor(Qt::PointingHandCursor);
+    }
     days->addWidget(picToday);
     days->addWidget(picTomorrow);
     grid->addLayout(days, TodayRow, 0, 1, DaysPerWeek);
@@ -161,9 +171,9 @@ QWidget* frmMain::BuildSmallCalendar() {
 }
 
 QWidget* frmMain::BuildNewButtons() {
-    ButtonNewAssignmentSmall = SmallNewButton("ButtonNewAssignmentSmall.svg", "New Assignment...");
-    ButtonNewEventSmall = SmallNewButton("ButtonNewEventSmall.svg", "New Event...");
-    ButtonNewTaskSmall = SmallNewButton("ButtonNewTaskSmall.svg", "New Task...");
+    ButtonNewAssignmentSmall = SmallNewButton("ButtonNewAssignmentSmall.svg", MenuNewAssignment);
+    ButtonNewEventSmall = SmallNewButton("ButtonNewEventSmall.svg", MenuNewEvent);
+    ButtonNewTaskSmall = SmallNewButton("ButtonNewTaskSmall.svg", MenuNewTask);
     ButtonNewAssignment = new QPushButton(QStringLiteral("New Assignment..."));
     ButtonNewEvent = new QPushButton(QStringLiteral("New Event..."));
     ButtonNewTask = new QPushButton(QStringLiteral("New Task..."));
@@ -210,6 +220,10 @@ QWidget* frmMain::BuildViewMenusPanel() {
     grid->setSpacing(PanelGap);
     ComboList = new QComboBox;
     ComboDateRange = new QComboBox;
+    for (QComboBox* combo : {ComboList, ComboDateRange}) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(LeastComboCharacters);
+    }
     auto* listLabel = PlainLabel(QStringLiteral("List Menu"));
     auto* rangeLabel = PlainLabel(QStringLiteral("Range Menu"));
     listLabel->setBuddy(ComboList);
@@ -301,6 +315,7 @@ QWidget* frmMain::BuildTimerPanel() {
     row->setSpacing(2);
     picTime = new PictureBox;
     picTime->setFixedSize(TimeSize);
+    DescribeAs(picTime, QAccessible::Clock);
     picTime->setAccessibleName(QStringLiteral("Study Timer"));
     ButtonStart = new QPushButton(QStringLiteral("Start"));
     ButtonStart->setMinimumWidth(1); // it takes what the panel leaves

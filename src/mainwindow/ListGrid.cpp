@@ -2,7 +2,8 @@
 #include "mainwindow/ListGrid.h"
 
 #include "core/Module1.h"
-#include "mainwindow/ListRows.h"
+#include "mainwindow/GridTable.h"
+#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "planner/Colors.h"
 #include "planner/DateTitles.h"
@@ -17,8 +18,9 @@ constexpr int TextBelowLine = 60; // of a text under the line of its row
 constexpr int TextLoss = 105;     // by which a text must be narrower than its column
 constexpr int TitleIndent = 45;   // of a title from the left and the top
 constexpr int CheckSize = 15 * UnitsPerPixel;
-constexpr int ArrowSize = 8 * UnitsPerPixel;
-constexpr int ArrowTop = -UnitsPerPixel; // so that the arrow stands over the text
+constexpr int ArrowSize = 6 * UnitsPerPixel;
+constexpr int ArrowGap = 3 * UnitsPerPixel; // between a title and its arrow, where there is room
+constexpr int MarkColumnWidth = 19 * UnitsPerPixel;
 constexpr const char* TitlePicture = "picStashGridTitle.svg";
 
 std::vector<ColumnPlace> PlacesOf(const frmMain& window, ListKind kind) {
@@ -52,21 +54,39 @@ void DrawLines(PictureBox& grid, const std::vector<ColumnPlace>& places) {
     grid.DrawLine(0, TitleUnits, 0, bottom, EdgeLineColor);
 }
 
+// The arrow stands beside its title, and over it where the column is as narrow as a mark.
+UnitRect ArrowPlace(int headerWidth, int titleWidth) {
+    if (headerWidth <= MarkColumnWidth) {
+        return {(headerWidth - ArrowSize) / 2, 0, ArrowSize, ArrowSize};
+    }
+    const int left = TitleIndent + titleWidth + ArrowGap;
+    return {std::min(left, headerWidth - UnitsPerPixel - ArrowSize), (TitleUnits - ArrowSize) / 2, ArrowSize,
+            ArrowSize};
+}
+
 void DrawTitle(PictureBox& header, const QString& title, bool sorted, int direction) {
     header.ShowPicture(QLatin1String(TitlePicture));
+    header.DrawText(TitleIndent, TitleIndent, title, TitleFont, ColorBlack);
     if (sorted) {
-        header.DrawPicture((header.WidthInUnits() - ArrowSize) / 2, ArrowTop, ArrowSize, ArrowSize,
+        const UnitRect place = ArrowPlace(header.WidthInUnits(), TextWidth(title, TitleFont));
+        header.DrawPicture(place.left, place.top, place.width, place.height,
                            direction == Descending ? QStringLiteral("picStashGridTitleDown.svg")
                                                    : QStringLiteral("picStashGridTitleUp.svg"));
     }
-    header.DrawText(TitleIndent, TitleIndent, title, TitleFont, ColorBlack);
+}
+
+// A digit sorts by the column of that number.
+QString SortTip(const frmMain& window, int column) {
+    return TipWithKey(QStringLiteral("Sort by %1").arg(TableTitle(window, column)), Qt::Key_0 + column);
 }
 
 void DrawTitles(frmMain& window, ListKind kind) {
     const auto columns = ColumnsOf(kind);
     for (std::size_t i = 0; i < columns.size(); ++i) {
-        DrawTitle(*window.picColHeader[i], FromStore(columns[i].title),
-                  static_cast<int>(i) == window.SortColumn, window.SortDirection);
+        const int column = static_cast<int>(i);
+        DrawTitle(*window.picColHeader[i], FromStore(columns[i].title), column == window.SortColumn,
+                  window.SortDirection);
+        window.picColHeader[i]->setToolTip(i == 0 ? QString() : SortTip(window, column));
     }
 }
 
@@ -87,8 +107,8 @@ void DrawCell(PictureBox& grid, const ColumnPlace& column, int place, const Grid
                          cell.kind == CellKind::Checked ? QStringLiteral("picStashChecked.svg")
                                                         : QStringLiteral("picStashUnchecked.svg"));
     } else if (!cell.text.isEmpty()) {
-        grid.DrawText(column.left + TextIndent, RowTop(place) + TextBelowLine,
-                      ShortenedText(cell.text, ListFont, column.width - TextLoss), ListFont, row.forecolor);
+        grid.DrawText(column.left + TextIndent, RowTop(place) + TextBelowLine, ShownCellText(cell, column),
+                      ListFont, row.forecolor);
     }
 }
 
@@ -116,6 +136,10 @@ void DrawRows(frmMain& window, ListKind kind) {
 }
 
 } // namespace
+
+QString ShownCellText(const GridCell& cell, const ColumnPlace& column) {
+    return ShortenedText(cell.text, ListFont, column.width - TextLoss);
+}
 
 void LayoutList(frmMain& window, ListKind kind) {
     PictureBox& grid = *window.picGrid;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mainwindow/GridLayout.h"
+#include "mainwindow/ListRows.h"
 #include "platform/PictureBox.h"
 #include "platform/WindowColors.h"
 
@@ -16,6 +17,12 @@ inline constexpr int CurrentColor = AccentColor; // the frame of what the keys s
 
 // Places the titles of the list and the scroll bar and leaves an empty grid of its lines.
 void LayoutList(frmMain& window, ListKind kind);
+
+// What is painted of a cell's text in a column of that width.
+QString ShownCellText(const GridCell& cell, const ColumnPlace& column);
+
+// What is painted of the text of an event row in a box of that width.
+QString ShownEventText(int eventRow, int boxWidth);
 
 // Shows the rows that the selection and the sort have left, under their titles.
 void ShowList(frmMain& window, ListKind kind);

@@ -1,7 +1,10 @@
 // The mode entries: what each mode checks, shows and hides.
+#include "mainwindow/ModeBarEntry.h"
 #include "mainwindow/ModeTables.h"
+#include "mainwindow/WindowStyle.h"
 #include "mainwindow/frmMain.h"
 #include "platform/HelpTopics.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 #include "platform/WindowColors.h"
 
@@ -46,8 +49,12 @@ void CheckMode(const frmMain& window, const ModeRow& row) {
         const bool active = pictures.mode == row.mode;
         mode.item->setChecked(active);
         mode.picture->ShowPicture(QLatin1String(active ? pictures.down : pictures.up));
+        RowOf(window.BarEntries, pictures.mode)->ShowActive(active);
         if (mode.word != nullptr && !row.leavesCalendar) {
             SetLabelForeColor(mode.word, active ? ActiveWordColor : WordColor);
+        }
+        if (mode.word != nullptr) {
+            DescribeChosen(mode.word, active);
         }
     }
 }
@@ -93,15 +100,26 @@ void TurnPanels(const frmMain& window, const PanelRow& row) {
     TurnControl(window.PictureBoxStudyTime, row.studyTime);
 }
 
+// A button that stands alone says what it does.
+void ShowNewButton(QToolButton* button, bool alone) {
+    button->setToolButtonStyle(alone ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    button->setFixedWidth(alone ? LeftPanelWidth : SmallButtonWidth);
+}
+
 void TurnNewButtons(const frmMain& window, const NewButtonRow& row) {
     const std::array<std::pair<QToolButton*, Turn>, 3> smallButtons{{
         {window.ButtonNewAssignmentSmall, row.assignmentSmall},
         {window.ButtonNewEventSmall, row.eventSmall},
         {window.ButtonNewTaskSmall, row.taskSmall},
     }};
+    int shown = 0;
     for (const auto& [button, turn] : smallButtons) {
         TurnControl(button, turn);
         button->setEnabled(!button->isHidden());
+        shown += button->isHidden() ? 0 : 1;
+    }
+    for (const auto& [button, turn] : smallButtons) {
+        ShowNewButton(button, shown == 1);
     }
     TurnControl(window.ButtonNewAssignment, row.assignment);
     TurnControl(window.ButtonNewEvent, row.event);

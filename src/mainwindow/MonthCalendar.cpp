@@ -2,6 +2,7 @@
 #include "mainwindow/MonthMarks.h"
 #include "mainwindow/frmMain.h"
 #include "planner/DateTitles.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 
 namespace {
@@ -62,6 +63,7 @@ void frmMain::PaintMonthCells() {
     for (std::size_t cell = 0; cell < LabelCalDate.size(); ++cell) {
         PaintDayLabel(LabelCalDate[cell], FromStore(Month.CellText[cell]), Month.CellForeColor[cell],
                       Month.CellBackColor[cell], Month.CellSelected[cell]);
+        DescribeName(LabelCalDate[cell], FromScreen(FormatDate(Month.CellDate[cell], "Long Date")));
         if (Month.CellToday[cell]) {
             LabelCalTileBorder->Surround(LabelCalDate[cell]);
         }

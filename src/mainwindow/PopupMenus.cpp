@@ -44,6 +44,26 @@ constexpr std::array<TagCommand, 9> TagCommands{{
     {"event view", PopupCommand::SeeEvents},
 }};
 
+// The part of an item's caption that begins with its key; no two of them have the same one.
+struct ItemKey {
+    std::string_view tag;
+    std::string_view fromKeyOn;
+};
+
+constexpr std::array<ItemKey, 11> ItemKeys{{
+    {"homework new", "assignment"},
+    {"event new", "event"},
+    {"task new", "task"},
+    {"homework view", "signments"},
+    {"event view", "day"},
+    {"task view", "ks"},
+    {"calendar view", "Calendar"},
+    {"homework GPA", "GPA"},
+    {"homework custom", "ustomize"},
+    {"event custom", "ustomize"},
+    {"task custom", "ustomize"},
+}};
+
 // The columns by which the menus of a day are sorted.
 constexpr int HomeworkDayColumn = 8;
 constexpr int TaskDayColumn = 6;
@@ -107,6 +127,15 @@ void RunTag(frmMain& window, const std::string& tag) {
     }
 }
 
+QString KeyedCaption(const PopupItem& item) {
+    const auto* const keyed = std::ranges::find(ItemKeys, item.tag, &ItemKey::tag);
+    if (keyed == ItemKeys.end()) {
+        return MenuText(item.caption);
+    }
+    const std::size_t at = item.caption.find(keyed->fromKeyOn);
+    return FromStore(item.caption.substr(0, at) + "&" + item.caption.substr(at));
+}
+
 // Shows the items where the last click or key wants them, and runs the one that is chosen.
 void ShowPopup(frmMain& window, const PopupItems& items) {
     window.mnuPopupItems = items;
@@ -116,7 +145,7 @@ void ShowPopup(frmMain& window, const PopupItems& items) {
         if (items[i].caption == "-") {
             menu.addSeparator();
         } else {
-            menu.addAction(MenuText(items[i].caption))->setData(static_cast<int>(i));
+            menu.addAction(KeyedCaption(items[i]))->setData(static_cast<int>(i));
         }
     }
     DropDoubleClick();

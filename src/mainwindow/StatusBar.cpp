@@ -2,6 +2,7 @@
 #include "core/DateText.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Formats.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 
 namespace {
@@ -27,6 +28,7 @@ void frmMain::PaintStatusBar() {
     const int right = picStatusBar->WidthInUnits() - UnitsPerPixel;
     const int bottom = picStatusBar->HeightInUnits() - UnitsPerPixel;
     const QString clock = ClockText();
+    DescribeName(picStatusBar, FromStore(ModeCaption) + QStringLiteral(", ") + clock.simplified());
     picStatusBar->Clear(NoColor);
     picStatusBar->DrawLine(0, 0, right, 0, DarkEdge);
     picStatusBar->DrawLine(0, 0, 0, bottom, DarkEdge);

@@ -1,5 +1,6 @@
 // The study timer: a clock that the student starts, pauses and resets.
 #include "mainwindow/frmMain.h"
+#include "platform/Pressable.h"
 #include "platform/Text.h"
 
 namespace {
@@ -14,6 +15,7 @@ constexpr SurfaceFont TimeFont{Face::Clock, 10, false};
 
 void frmMain::PaintStudyTimer() {
     const QString text = FromStore(TimerText(StudyTimer));
+    DescribeValue(picTime, text);
     picTime->Clear();
     picTime->DrawText((picTime->WidthInUnits() - TextWidth(text, TimeFont)) / 2, TimeTop, text, TimeFont,
                       Timer1->isActive() ? RunningColor : RestingColor);

@@ -2,6 +2,7 @@
 #include "mainwindow/WindowStyle.h"
 
 #include "platform/PictureBox.h"
+#include "platform/Pressable.h"
 #include "platform/ProgramStyle.h"
 
 #include <QApplication>
@@ -12,10 +13,17 @@ constexpr double WindowPoints = 9;
 
 } // namespace
 
-PictureBox* PictureButton(int size, const char* name) {
+QString TipWithKey(const QString& what, const QKeySequence& key) {
+    return key.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, key.toString(QKeySequence::NativeText));
+}
+
+PictureBox* PictureButton(int size, const char* name, const QKeySequence& key) {
     auto* box = new PictureBox;
+    DescribeAs(box, QAccessible::Button);
     box->setFixedSize(size, size);
+    box->setCursor(Qt::PointingHandCursor);
     box->setAccessibleName(QLatin1String(name));
+    box->setToolTip(TipWithKey(QLatin1String(name), key));
     return box;
 }
 

@@ -26,6 +26,7 @@
 #include <array>
 #include <string>
 
+class ModeBarEntry;
 class frmAlert;
 
 inline constexpr int UnknownMonth = 13;
@@ -68,6 +69,7 @@ public:
                *PictureBarReminders = nullptr, *PictureBarWeb = nullptr, *picHelp = nullptr;
     ClickLabel *LabelBarCalendar = nullptr, *LabelBarHomework = nullptr, *LabelBarEvents = nullptr,
                *LabelBarTasks = nullptr, *LabelBarReminders = nullptr, *LabelBarWeb = nullptr;
+    std::array<ModeBarEntry*, ModeCount> BarEntries{}; // by Mode; each holds a picture and its word
 
     // --- The left panel (LeftPanel.cpp) ---
     QWidget* PictureBoxCalendar = nullptr; // the small calendar
@@ -358,6 +360,7 @@ private:
 
     // BuildWindow.cpp, MenuBar.cpp, ModeBar.cpp, LeftPanel.cpp: the parts of the window, built in this order.
     void BuildMenuBar();
+    void MakeModeBarParts();
     QWidget* BuildModeBar();
     QWidget* BuildLeftPanel();
     QWidget* BuildSmallCalendar();

@@ -14,6 +14,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/GridAccessible.cpp
   mainwindow/GridClicks.cpp
   mainwindow/GridKeys.cpp
+  mainwindow/GridPointer.cpp
   mainwindow/GridScroll.cpp
   mainwindow/GridTable.cpp
   mainwindow/HomeworkGrid.cpp
@@ -24,6 +25,8 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/Load.cpp
   mainwindow/MenuBar.cpp
   mainwindow/ModeBar.cpp
+  mainwindow/ModeBarEntry.cpp
+  mainwindow/ModeBarEntry.h
   mainwindow/Modes.cpp
   mainwindow/MonthCalendar.cpp
   mainwindow/PopupMenus.cpp

@@ -9,6 +9,12 @@ ClickLabel::ClickLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
+void ClickLabel::Press() {
+    emit Pressed(Qt::LeftButton);
+    emit Released(Qt::LeftButton);
+    emit Clicked();
+}
+
 void ClickLabel::mousePressEvent(QMouseEvent* event) {
     emit Pressed(event->button());
 }

@@ -10,6 +10,9 @@ class ClickLabel : public QLabel {
 public:
     explicit ClickLabel(QWidget* parent = nullptr);
 
+    // Does what a left press and release over the label do.
+    void Press();
+
 signals:
     void Pressed(Qt::MouseButton button);
     void Released(Qt::MouseButton button);

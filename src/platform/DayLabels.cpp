@@ -1,6 +1,7 @@
 // The labels of a small month: heads, days, the frame around today, the buttons for today and tomorrow.
 #include "platform/DayLabels.h"
 
+#include "platform/Pressable.h"
 #include "platform/WindowColors.h"
 
 #include <QEvent>
@@ -33,12 +34,14 @@ void BuildDayLabels(QGridLayout* grid, int row, std::span<ClickLabel*> heads, st
     for (ClickLabel*& head : heads) {
         head = CentredLabel(DayFont);
         head->setFixedHeight(HeadHeight);
+        DescribeAs(head, QAccessible::StaticText);
         grid->addWidget(head, row, column++);
     }
     int place = 0;
     for (ClickLabel*& day : days) {
         day = CentredLabel(DayFont);
         day->setFixedHeight(DayHeight);
+        DescribeAs(day, QAccessible::Button);
         grid->addWidget(day, row + 1 + place / DaysInRow, place % DaysInRow);
         ++place;
     }
@@ -48,7 +51,9 @@ PictureBox* DayButton(const char* word, QSize size, ClickLabel*& label) {
     auto* button = new PictureBox;
     button->setFixedSize(size);
     label = CentredLabel(DayFont);
+    DescribeAs(label, QAccessible::Button);
     label->setText(QLatin1String(word));
+    label->setAccessibleName(QLatin1String(word));
     auto* layout = new QVBoxLayout(button);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(label);
@@ -59,12 +64,14 @@ void PaintDayLabel(ClickLabel* label, const QString& text, int forecolor, int ba
     SetLabelColors(label, forecolor, backcolor);
     SetLabelBold(label, bold);
     label->setText(text);
+    DescribeChosen(label, bold);
 }
 
 void PaintDayButton(PictureBox* button, ClickLabel* label, const QString& picture, bool shown,
                     int plainColor) {
     SetLabelForeColor(label, shown ? MarkedDayColor : plainColor);
     SetLabelBold(label, shown);
+    DescribeChosen(label, shown);
     button->ShowPicture(picture + (shown ? QStringLiteral("Down.svg") : QStringLiteral("Up.svg")));
 }
 

@@ -1,6 +1,8 @@
 // The painting surface of the hand-painted views.
 #include "platform/PictureBox.h"
 
+#include "platform/WindowColors.h"
+
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
@@ -28,6 +30,9 @@ constexpr std::array<FaceFamily, 4> FaceFamilies{{
     {"MS Sans Serif", "Liberation Sans", QFont::SansSerif},
 }};
 
+constexpr int HoverOpacity = 26; // of 255
+constexpr int HoverEdgeOpacity = 120;
+
 double Pixels(int units) {
     return static_cast<double>(units) / UnitsPerPixel;
 }
@@ -48,6 +53,17 @@ QRectF LineRect(const DrawnItem& item) {
     return rect;
 }
 
+// Four bands of one pixel, filled as lines are: where a pixel of the window is not a whole number of the
+// screen's, a pen would leave gaps between the frame and what stands beside it.
+void PaintFrame(QPainter& painter, const QRectF& rect, const QColor& color) {
+    const double right = rect.right() - 1;
+    const double bottom = rect.bottom() - 1;
+    painter.fillRect(QRectF(rect.left(), rect.top(), rect.width(), 1), color);
+    painter.fillRect(QRectF(rect.left(), bottom, rect.width(), 1), color);
+    painter.fillRect(QRectF(rect.left(), rect.top() + 1, 1, rect.height() - 2), color);
+    painter.fillRect(QRectF(right, rect.top() + 1, 1, rect.height() - 2), color);
+}
+
 // The pictures by their names, each read once.
 std::map<QString, std::unique_ptr<QSvgRenderer>> pictures;
 
@@ -66,9 +82,7 @@ void PaintItem(QPainter& painter, const DrawnItem& item) {
         painter.fillRect(PixelRect(item), ToQColor(item.color));
         break;
     case DrawnKind::Frame:
-        painter.setPen(QPen(ToQColor(item.color), 1));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(PixelRect(item).adjusted(0.5, 0.5, -0.5, -0.5));
+        PaintFrame(painter, PixelRect(item), ToQColor(item.color));
         break;
     case DrawnKind::Line:
         painter.fillRect(LineRect(item), ToQColor(item.color));
@@ -85,6 +99,18 @@ void PaintItem(QPainter& painter, const DrawnItem& item) {
         PictureOf(item.text).render(&painter, PixelRect(item));
         break;
     }
+}
+
+QColor Accent(int opacity) {
+    QColor color = ToQColor(AccentColor);
+    color.setAlpha(opacity);
+    return color;
+}
+
+void PaintHover(QPainter& painter, const UnitRect& hover) {
+    const QRectF rect(Pixels(hover.left), Pixels(hover.top), Pixels(hover.width), Pixels(hover.height));
+    painter.fillRect(rect, Accent(HoverOpacity));
+    PaintFrame(painter, rect, Accent(HoverEdgeOpacity));
 }
 
 } // namespace
@@ -184,6 +210,21 @@ void PictureBox::DrawPicture(int left, int top, int width, int height, const QSt
     Keep({DrawnKind::Picture, left, top, width, height, 0, name, {}});
 }
 
+void PictureBox::ShowHover(const std::optional<UnitRect>& rect) {
+    if (rect != hover) {
+        hover = rect;
+        update();
+    }
+}
+
+void PictureBox::Press() {
+    const int x = WidthInUnits() / 2;
+    const int y = HeightInUnits() / 2;
+    emit Pressed(x, y, Qt::LeftButton);
+    emit Released(x, y, Qt::LeftButton);
+    emit Clicked();
+}
+
 void PictureBox::ShowPicture(const QString& name) {
     Clear(NoColor);
     DrawPicture(0, 0, WidthInUnits(), HeightInUnits(), name);
@@ -196,6 +237,9 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     }
     for (const DrawnItem& item : drawn) {
         PaintItem(painter, item);
+    }
+    if (hover) {
+        PaintHover(painter, *hover);
     }
 }
 

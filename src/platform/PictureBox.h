@@ -10,6 +10,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 // A colour 0xBBGGRR as the store and the program's constants have it.
@@ -85,6 +86,14 @@ public:
     // Draws the picture of that name from the resources, stretched over the rectangle.
     void DrawPicture(int left, int top, int width, int height, const QString& name);
 
+    // Tints the rectangle, over whatever is drawn there, until it is told otherwise.
+    void ShowHover(const std::optional<UnitRect>& rect);
+
+    const std::optional<UnitRect>& Hover() const { return hover; }
+
+    // Does what a left press and release in the middle of the surface do.
+    void Press();
+
     // What was drawn since the last clearing, in order.
     const std::vector<DrawnItem>& Drawn() const { return drawn; }
 
@@ -112,5 +121,6 @@ private:
 
     std::vector<DrawnItem> drawn;
     QWidget* focusFrame = nullptr; // lies over the surface and over what stands on it
+    std::optional<UnitRect> hover;
     int backColor = 0xFFFFFF;
 };

@@ -4,6 +4,9 @@
 inline constexpr int BarColor = 0x5A4239;  // the mode bar's dark blue, which also marks today
 inline constexpr int WordColor = 0xC0C0C0; // of the words on it
 inline constexpr int ActiveWordColor = 0xFFFFFF;
+inline constexpr int BarHoverColor = 0x705548;  // behind the entry of the bar under the pointer
+inline constexpr int BarActiveColor = 0x82675A; // behind that of the active mode
+inline constexpr int BarMarkColor = 0xF5C08C;   // the line under it
 inline constexpr int SurfaceColor = 0xF9F6F4;
 inline constexpr int PanelColor = 0xF3EDE9;
 inline constexpr int EdgeColor = 0xD8CCC5;

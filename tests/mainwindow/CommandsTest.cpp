@@ -1,5 +1,6 @@
 // The commands of the menu bar, the mode bar and the buttons.
 #include "mainwindow/GridTest.h"
+#include "platform/Text.h"
 
 #include <QMenuBar>
 
@@ -19,8 +20,9 @@ protected:
             if (item->isSeparator()) {
                 captions.append("-");
             } else if (item->isVisible()) {
-                captions.append(item->menu() == nullptr ? item->text()
-                                                        : item->text() + " [" + Captions(item->menu()) + "]");
+                const QString caption = WithoutMnemonics(item->text());
+                captions.append(item->menu() == nullptr ? caption
+                                                        : caption + " [" + Captions(item->menu()) + "]");
             }
         }
         return captions.join(", ");
@@ -37,10 +39,10 @@ TEST_F(Commands, FileMenu) {
     EXPECT_EQ(Captions(window->mnuFile),
               "Calendar, Homework, Events, Tasks, Reminders, -, GPA, -, Print Screen..., Export for Printing "
               "[Homework Calendar..., Event Calendar..., Task Calendar...], -, Exit");
-    EXPECT_EQ(window->MenuReminders->text(), "Today's Reminders");
-    EXPECT_EQ(window->MenuStudySessions->text(), "Study Sessions");
-    EXPECT_EQ(window->MenuExportCalendar->text(), "Calendar...");
-    EXPECT_EQ(window->MenuExportList->text(), "Current List...");
+    EXPECT_EQ(WithoutMnemonics(window->MenuReminders->text()), "Today's Reminders");
+    EXPECT_EQ(WithoutMnemonics(window->MenuStudySessions->text()), "Study Sessions");
+    EXPECT_EQ(WithoutMnemonics(window->MenuExportCalendar->text()), "Calendar...");
+    EXPECT_EQ(WithoutMnemonics(window->MenuExportList->text()), "Current List...");
 }
 
 TEST_F(Commands, EditMenu) {
@@ -58,7 +60,7 @@ TEST_F(Commands, OptionsMenu) {
 TEST_F(Commands, HelpMenu) {
     EXPECT_EQ(Captions(window->MenuHelp),
               "Help, Online Homework Help, Show Tips at Startup..., About Planovarium..., -");
-    EXPECT_EQ(window->MenuData->text(), "Open Planovarium Data Folder");
+    EXPECT_EQ(WithoutMnemonics(window->MenuData->text()), "Open Planovarium Data Folder");
 }
 
 TEST_F(Commands, ModeItemsEnterTheirModes) {

@@ -41,8 +41,18 @@ TEST_F(GridAccessible, AListIsATableOfItsRows) {
     EXPECT_EQ(Columns(), (QStringList{"Number", "Reminder", "Priority", "Class", "Type", "Description",
                                       "Time", "Due", "Done", "Score"}));
     window->ColumnClicked(5);
-    EXPECT_EQ(Row(40), (QStringList{"41", "", "!", "Algebra", "Reading", "Page 12", "01:00", "14-Oct-09",
-                                    "Done", "95%"}));
+    EXPECT_EQ(Row(40), (QStringList{"41", "", "Priority", "Algebra", "Reading", "Page 12", "01:00",
+                                    "14-Oct-09", "Done", "95%"}));
+}
+
+TEST_F(GridAccessible, MarksAreReadAsWhatTheyMean) {
+    AddAssignmentRecord({.desc = "\xAE", .priority = "True", .reminder = "True"});
+    AddTaskRecord({.desc = "!", .reminder = "True"});
+    window->ShowHomeworkMode();
+    EXPECT_EQ(Row(0).mid(1, 2), (QStringList{"Reminder", "Priority"}));
+    EXPECT_EQ(Row(0)[5], QString(QChar(0xAE))) << "the student's own word";
+    window->ShowTaskMode();
+    EXPECT_EQ(Row(0).mid(1, 2), (QStringList{"Reminder", "!"}));
 }
 
 TEST_F(GridAccessible, CellsTellTheirPlaceAndTheirHeader) {

@@ -1,6 +1,8 @@
 // A test of the grid: the main window with a term and a class, and what stands on the grid read back.
 #include "mainwindow/GridTest.h"
 
+#include "platform/Text.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -155,7 +157,7 @@ void WhenPopupOpens(const std::function<void(QMenu*)>& action) {
 QStringList Captions(const QMenu* menu) {
     QStringList captions;
     for (const QAction* action : menu->actions()) {
-        captions.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+        captions.append(action->isSeparator() ? QStringLiteral("-") : WithoutMnemonics(action->text()));
     }
     return captions;
 }

@@ -61,5 +61,5 @@ private:
 // Runs the action as soon as a popup menu is open, and closes it behind it.
 void WhenPopupOpens(const std::function<void(QMenu*)>& action);
 
-// The captions of a menu; "-" for a separator.
+// The captions of a menu without the marks of their keys; "-" for a separator.
 QStringList Captions(const QMenu* menu);

@@ -1,6 +1,7 @@
 // The mode entries: what each mode checks, shows, enables and offers, and what it leaves as it was.
 #include "core/Module1.h"
 #include "mainwindow/ModeTables.h"
+#include "platform/Text.h"
 #include "support/WindowTest.h"
 
 #include <fstream>
@@ -105,7 +106,7 @@ protected:
         for (const QAction* item : {window->MenuClassSchedule, window->MenuNewAssignment, window->MenuNewTask,
                                     window->MenuNewEvent}) {
             if (item->isEnabled()) {
-                captions.append(item->text());
+                captions.append(WithoutMnemonics(item->text()));
             }
         }
         return captions;
@@ -118,7 +119,7 @@ protected:
               window->MenuExportListAS, window->MenuExportListTA}) {
             EXPECT_EQ(item->isEnabled(), item->isVisible()) << item->text().toStdString();
             if (item->isVisible()) {
-                captions.append(item->text());
+                captions.append(WithoutMnemonics(item->text()));
             }
         }
         return captions;

@@ -2,6 +2,7 @@
 #include "mainwindow/GridTest.h"
 
 #include "core/RowLists.h"
+#include "platform/Text.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ protected:
 
     static void Choose(QMenu* menu, const QString& caption) {
         for (QAction* action : menu->actions()) {
-            if (action->text() == caption) {
+            if (WithoutMnemonics(action->text()) == caption) {
                 menu->setActiveAction(action);
                 QTest::keyClick(menu, Qt::Key_Return);
                 return;
@@ -160,7 +161,7 @@ TEST_F(PopupMenus, AnAmpersandIsShownAsItIs) {
     AddAssignmentRecord({.desc = "Q&A"});
     window->ShowCalendarMode();
     EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton).first(),
-              "(01:00 left)  Algebra - Q&&A ...");
+              "(01:00 left)  Algebra - Q&A ...");
 }
 
 TEST_F(PopupMenus, CommandsChangeTheMode) {

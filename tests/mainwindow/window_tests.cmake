@@ -11,13 +11,17 @@ target_sources(window_tests PRIVATE
   mainwindow/GridAccessibleTest.cpp
   mainwindow/GridClicksTest.cpp
   mainwindow/GridKeysTest.cpp
+  mainwindow/GridPointerTest.cpp
   mainwindow/GridScrollTest.cpp
   mainwindow/GridTest.cpp
   mainwindow/HelpTopicsTest.cpp
   mainwindow/InputRulesTest.cpp
   mainwindow/LargeCalendarTest.cpp
   mainwindow/ListGridTest.cpp
+  mainwindow/MenuKeysTest.cpp
+  mainwindow/ModeBarTest.cpp
   mainwindow/ModesTest.cpp
+  mainwindow/PaintedControlsTest.cpp
   mainwindow/PopupMenusTest.cpp
   mainwindow/PreferencesFlowTest.cpp
   mainwindow/ProcessTest.cpp
@@ -26,4 +30,6 @@ target_sources(window_tests PRIVATE
   mainwindow/StatusBarTest.cpp
   mainwindow/StudyTimerTest.cpp
   mainwindow/ViewMenusTest.cpp
+  mainwindow/WindowLooksTest.cpp
+  mainwindow/WindowWalkTest.cpp
 )
