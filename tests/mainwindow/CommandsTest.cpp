@@ -175,6 +175,16 @@ TEST_F(NewItems, ItemsAndButtonsAskForTheSame) {
     EXPECT_EQ(Opened, QStringList(3, "Planovarium - New Task: "));
 }
 
+TEST_F(NewItems, KeysAskForThem) {
+    window->EventClickedStartTime = "11:30PM";
+    for (const Qt::Key key : {Qt::Key_N, Qt::Key_T, Qt::Key_E}) {
+        ASSERT_TRUE(WaitUntil([this] { return window->isActiveWindow(); })); // after a dialog as well
+        Press(key, Qt::ControlModifier);
+    }
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
+    EXPECT_EQ(window->EventClickedStartTime, "9:00 AM"); // as of every new event of a menu
+}
+
 TEST_F(NewItems, ClassScheduleAsksForTheTerm) {
     window->MenuClassSchedule->trigger();
     window->ButtonSelectTerm->click();

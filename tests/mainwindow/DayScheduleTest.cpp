@@ -152,3 +152,21 @@ TEST_F(DaySchedule, ClassMeetingsShowTheirClass) {
     EXPECT_TRUE(DrawnTexts(*window->picGrid).contains("Algebra - Test"));
     EXPECT_EQ(Filled(0x112233).size(), 1U);
 }
+
+TEST_F(DaySchedule, OfTwoEventsAtOneTimeTheShorterStandsAtTheLeft) {
+    AddEventRecord({.time = "09:00 AM", .duration = "2 Hours", .desc = "Long"});
+    AddEventRecord({.time = "09:00 AM", .duration = "30 Minutes", .desc = "Short"});
+    window->ShowEventMode();
+    EXPECT_LT(TextOf(" Short").left, TextOf(" Long").left);
+}
+
+TEST_F(DaySchedule, EventsRunColumnByColumn) {
+    AddEventRecord({.time = "09:00 AM", .duration = "30 Minutes", .desc = "A"});
+    AddEventRecord({.time = "09:00 AM", .duration = "45 Minutes", .desc = "B"});
+    AddEventRecord(
+        {.time = "11:00 AM", .duration = "1 Hour", .desc = "C"}); // longer, and in the first column
+    window->ShowEventMode();
+    const QStringList texts = DrawnTexts(*window->picGrid).filter(QRegularExpression("^ [ABC]$"));
+    EXPECT_EQ(texts, (QStringList{" A", " C", " B"}));
+    EXPECT_EQ(TextOf(" A").left, TextOf(" C").left);
+}

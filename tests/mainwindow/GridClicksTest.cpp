@@ -19,6 +19,16 @@ protected:
     }
 };
 
+class PaintCounter : public QObject {
+public:
+    int count = 0;
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 } // namespace
 
 TEST_F(GridClicks, ATitleSortsByItsColumnAndTurnsAtTheSecondClick) {
@@ -78,6 +88,25 @@ TEST_F(GridClicks, AHighlightedNumberIsWhiteOnBlack) {
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).text, "2");
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).forecolor, 0xFFFFFF);
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).backcolor, 0);
+}
+
+TEST_F(GridClicks, AHighlightedNumberIsSeenBeforeTheEditorLoads) {
+    AddAssignments(1);
+    window->ShowHomeworkMode();
+    PaintCounter paints;
+    window->picGrid->installEventFilter(&paints);
+    window->HighlightRow(1, true);
+    EXPECT_EQ(paints.count, 1); // without a loop of events
+}
+
+TEST_F(GridClicks, NothingIsHighlightedWhereNoListIsShown) {
+    AddAssignments(2);
+    window->ShowHomeworkMode();
+    window->ShowCalendarMode();
+    ASSERT_EQ(window->RowCount, 2); // of the list that was left
+    const std::size_t drawn = window->picGrid->Drawn().size();
+    window->HighlightRow(1, false);
+    EXPECT_EQ(window->picGrid->Drawn().size(), drawn);
 }
 
 TEST_F(GridClicks, ARowThatHasGoneIsNotHighlighted) {
@@ -181,10 +210,13 @@ TEST_F(GridClicks, TheMiddleButtonIsALeftOne) {
 }
 
 TEST_F(GridClicks, AnEventOfTheRemindersLeavesTheSelectedDay) {
-    AddEventRecord({.date = "2009/10/14", .reminder = "True"});
+    AddEventRecord({.date = "2009/10/16", .reminder = "2"}); // two days ahead
     window->MenuCalendar->setChecked(false);
     window->ShowReminderMode();
+    ASSERT_EQ(ReminderRowDate.Count(), 1);
+    ASSERT_NE(ReminderRowDate.Item(1), Today());
     ClickRow(1);
+    EXPECT_EQ(window->SelectedDate, Today());
     EXPECT_EQ(window->ClickedDate, window->SelectedDate);
 }
 

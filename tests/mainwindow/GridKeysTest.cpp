@@ -25,6 +25,22 @@ protected:
         });
     }
 
+    // The texts of the event boxes that have the frame of the keys.
+    QStringList FramedEvents() const {
+        QStringList framed;
+        bool isFramed = false;
+        for (const DrawnItem& item : window->picGrid->Drawn()) {
+            const bool ofABox = item.left > TimeColumnWidth;
+            if (ofABox && item.kind == DrawnKind::Frame) {
+                isFramed = item.color == CurrentColor;
+            } else if (ofABox && item.kind == DrawnKind::Text && isFramed) {
+                framed.append(item.text);
+                isFramed = false;
+            }
+        }
+        return framed;
+    }
+
     // Sends the keys once a menu is open that the first of them opens.
     QStringList MenuAfter(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QStringList captions;
@@ -202,6 +218,32 @@ TEST_F(GridKeys, TheDayChoosesAmongTheEventsOfAHalfHour) {
     EXPECT_EQ(window->EventClickedStartTime, ""); // the event was opened, no new one asked for
     Press(Qt::Key_End);
     EXPECT_EQ(window->CurrentEvent, 0);
+}
+
+TEST_F(GridKeys, TheFrameIsOnTheEventThatWasChosenInTheHalfHour) {
+    AddEventRecord({.time = "05:00 AM", .duration = "30 Minutes", .desc = "A"});
+    AddEventRecord({.time = "05:00 AM", .duration = "1 Hour", .desc = "B"});
+    window->ShowEventMode();
+    EXPECT_EQ(FramedEvents(), QStringList{});
+    Press(Qt::Key_Down);
+    EXPECT_EQ(FramedEvents(), QStringList{" A"});
+    Press(Qt::Key_Right);
+    EXPECT_EQ(FramedEvents(), QStringList{" B"});
+    Press(Qt::Key_Left);
+    EXPECT_EQ(FramedEvents(), QStringList{" A"});
+}
+
+TEST_F(GridKeys, AnotherModeBeginsWithoutAHalfHour) {
+    AddEventRecord({.time = "05:00 AM", .desc = "A"});
+    window->ShowEventMode();
+    Press(Qt::Key_Down);
+    ASSERT_EQ(FramedEvents(), QStringList{" A"});
+    window->ShowTaskMode();
+    window->ShowEventMode();
+    EXPECT_EQ(window->CurrentHalfHour, -1);
+    EXPECT_EQ(window->CurrentEvent, 0);
+    EXPECT_EQ(FramedEvents(), QStringList{});
+    EXPECT_FALSE(HalfHourIsFramed(1));
 }
 
 TEST_F(GridKeys, ControlMovesTheSelectedDayFromEveryView) {

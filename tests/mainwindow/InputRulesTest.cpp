@@ -102,7 +102,7 @@ quint64 InputRules::start = 1000000000;
 TEST_F(InputRules, SecondPressDoesNotFallOnTheDialogThatTheFirstOneOpened) {
     OpenTaskByClick([] {
         ClickAt(TaskDialog->CheckBoxDone, {6, TaskDialog->CheckBoxDone->height() / 2}, Quick);
-        ClickAt(TaskDialog->Picker->LabelToday, {3, 3}, Quick); // where a release alone would do
+        ClickAt(TaskDialog->LabelDeadline, {3, 3}, Quick); // where a release alone would do
         ClickAt(TaskDialog->ButtonDelete, Quick);
         ClickAt(TaskDialog->ButtonOK, DoubleClickTime() - 1, Spot + QPoint(2, 2));
         EXPECT_FALSE(TaskDialog->CheckBoxDone->isChecked());
@@ -142,6 +142,7 @@ TEST_F(InputRules, DialogThatAKeyOpensTakesEveryPress) {
 TEST_F(InputRules, DoubleClickOnADayChoosesNothingFromItsMenu) {
     AddTaskRecord({.desc = "Call"});
     window->RefreshFor(ReasonNewRecord);
+    CancelDialogsAsTheyOpen(window.get());
     WhenPopupOpens([](QMenu* menu) {
         ClickAt(menu, MiddleOf(menu, 0), Quick);
         EXPECT_TRUE(menu->isVisible());

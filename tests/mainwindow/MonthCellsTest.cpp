@@ -82,6 +82,22 @@ TEST(MonthCells, TheClickedDayAloneIsSelectedInWhiteOnBlack) {
     EXPECT_EQ(month.CellBackColor[Cell14], 0x000000);
 }
 
+TEST(MonthCells, ColorsAreThoseOfTheCalendar) {
+    EXPECT_EQ(ColorInMonth, 0x000000);
+    EXPECT_EQ(ColorOutMonth, 0xA9A9A9);
+    EXPECT_EQ(ColorSelectedText, 0xFFFFFF);
+    EXPECT_EQ(ColorCell, 0xFFFFFF);
+    EXPECT_EQ(ColorSelectedCell, 0x000000);
+    EXPECT_EQ(ColorAll, 0xF0E8E2);
+    EXPECT_EQ(ColorDone, 0xE2F7E1);
+    EXPECT_EQ(ColorNotDone, 0xE5E5FF);
+    EXPECT_EQ(ColorTasks, 0xD7EBFA);
+    EXPECT_EQ(SelectedColor(0xF0E8E2), 0xA88A76);
+    EXPECT_EQ(SelectedColor(0xE2F7E1), 0x00A600);
+    EXPECT_EQ(SelectedColor(0xE5E5FF), 0x374EC1);
+    EXPECT_EQ(SelectedColor(0xD7EBFA), 0x20A5DA);
+}
+
 TEST(MonthCells, ASelectedMarkedDayHasTheSelectedFormOfItsColor) {
     EXPECT_EQ(October(MarkedIn(ColorAll, Cell14)).CellBackColor[Cell14], ColorSelectedAll);
     EXPECT_EQ(October(MarkedIn(ColorDone, Cell14)).CellBackColor[Cell14], ColorSelectedDone);

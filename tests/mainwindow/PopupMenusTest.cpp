@@ -130,16 +130,32 @@ TEST_F(PopupMenus, ADayMenuSortsUpwards) {
     EXPECT_EQ(window->SortDirection, Ascending);
 }
 
+// While the list is shown, since entering its mode sorts it anew.
 TEST_F(PopupMenus, TheHomeworkListTakesTheSortOfTheDayMenu) {
-    AddAssignments(1);
-    window->ShowCalendarMode();
-    window->SortColumn = 5;
-    window->SortDirection = Descending;
-    MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton, "See all assignments...");
-    ASSERT_EQ(window->CurrentMode(), Mode::Homework);
-    EXPECT_EQ(window->SortColumn, 8);
-    EXPECT_EQ(window->SortDirection, Ascending);
+    AddAssignmentRecord({.desc = "B", .done = "True"});
+    AddAssignmentRecord({.desc = "A"});
+    AddAssignmentRecord({.desc = "C"});
+    window->ShowHomeworkMode();
+    window->ColumnClicked(5);
+    window->ColumnClicked(5);
+    ASSERT_EQ(SortPicture(5), "picStashGridTitleDown.svg");
+    ASSERT_EQ(Cell(ListKind::Homework, 1, 5).text, "C ");
+    WhenPopupOpens([](QMenu*) {});
+    window->ShowHomeworkDayMenu();
+    Refresh();
+    EXPECT_EQ(SortPicture(5), "");
     EXPECT_EQ(SortPicture(8), "picStashGridTitleUp.svg");
+    EXPECT_NE(Cell(ListKind::Homework, 1, 5).text, "C ");
+}
+
+TEST_F(PopupMenus, AShutdownWhileAMenuIsOpenRunsNoCommand) {
+    window->ShowHomeworkMode();
+    WhenPopupOpens([](QMenu* menu) {
+        ShuttingDown = true;
+        Choose(menu, "See all tasks...");
+    });
+    Click(Somewhere, Qt::RightButton);
+    EXPECT_EQ(window->CurrentMode(), Mode::Homework);
 }
 
 TEST_F(PopupMenus, ADayMenuWithoutItemsShowsWhatStandsBehindThem) {

@@ -261,6 +261,37 @@ TEST_F(Process, ASecondInstanceBringsTheWindowForward) {
     EXPECT_TRUE(window->isVisible());
 }
 
+TEST_F(Process, ASecondInstanceGivesTheWindowTheFocus) {
+    LoadWindow();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_TRUE(Script.receiveLink("Take Control"));
+    EXPECT_TRUE(WaitUntil([this] { return window->isActiveWindow(); }));
+}
+
+TEST_F(Process, AMaximizedWindowComesBackMaximizedInEachWay) {
+    LoadWindow();
+    window->HideWindows();
+    window->setWindowState(Qt::WindowMaximized);
+    const std::vector<std::function<void()>> ways{
+        [this] { window->ShowAtStart(""); },
+        [] { Script.trayEvents.doubleClicked(); },
+        [this] {
+            ASSERT_EQ(TrayMenu().at(2), "Open Planovarium...");
+            Script.trayEvents.itemChosen(2);
+        },
+        [] { EXPECT_TRUE(Script.receiveLink("Take Control")); },
+    };
+    for (const auto& comeBack : ways) {
+        comeBack();
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_TRUE(window->isMaximized());
+        window->HideWindows();
+    }
+}
+
 TEST_F(Process, ASecondInstanceIsAcceptedWhateverItSays) {
     LoadWindow();
     EXPECT_TRUE(Script.receiveLink("anything"));

@@ -146,6 +146,37 @@ TEST_F(SmallCalendar, StudySessionsEnteredFromCalendarMarkTheirLog) {
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorCell)); // the entry belongs to no assignment
 }
 
+TEST_F(SmallCalendar, RemindersEnteredFromCalendarKeepTheCalendarsMarks) {
+    AddEventRecord({.date = "2009/10/01"}); // no reminder of today's
+    AddTaskRecord({.date = "2009/10/02", .done = "True"});
+    window->ShowReminderMode();
+    ASSERT_TRUE(window->MenuCalendar->isChecked());
+    EXPECT_TRUE(HasBackColor(Day(Cell1), ColorAll));
+    EXPECT_TRUE(HasBackColor(Day(Cell2), ColorAll));
+}
+
+TEST_F(SmallCalendar, RemindersMarkTheirTasksInTheColorOfTasks) {
+    AddTaskRecord({.date = "2009/10/02", .reminder = "True"});
+    window->MenuCalendar->setChecked(false);
+    window->ShowReminderMode();
+    window->ComboList->setCurrentText("Tasks");
+    EXPECT_TRUE(HasBackColor(Day(Cell2), 0xD7EBFA));
+}
+
+TEST_F(SmallCalendar, ASelectedDayHasTheSelectedFormOfItsColor) {
+    AddEventRecord({.date = "2009/10/01"});
+    AddTaskRecord({.date = "2009/10/02"});
+    window->RefreshFor(ReasonNewRecord);
+    ClickDay(Cell1);
+    EXPECT_TRUE(HasBackColor(Day(Cell1), 0xA88A76));
+    ClickDay(Cell2); // with an open task
+    EXPECT_TRUE(HasBackColor(Day(Cell1), 0xF0E8E2));
+    EXPECT_TRUE(HasBackColor(Day(Cell2), 0x374EC1));
+    ClickDay(Cell20);
+    EXPECT_TRUE(HasBackColor(Day(Cell2), 0xE5E5FF));
+    EXPECT_TRUE(HasBackColor(Day(Cell20), 0x000000));
+}
+
 // --- Days, today and tomorrow ---
 
 TEST_F(SmallCalendar, AClickOnADayShowsIt) {
