@@ -52,6 +52,7 @@ void frmAssignment::SetupControls() {
     SetupReminder(ReminderOf(*this));
     SetupDateBoxes({{TextboxDateDue, picButtonDateDue}, {TextboxReminderDate, PicButtonReminderDate}});
     SetupNames(ComboClassNameList);
+    LabelClass->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     LabelClass->Elision = Qt::ElideMiddle; // the name may be long, the word behind it stays
     for (QLineEdit* box : {TextBoxTimeLeft, TextBoxPercentage, TextBoxGrade}) {
         ShowAsReadOnly(box);

@@ -118,6 +118,13 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override {
+        const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (combo != nullptr && !combo->state.testFlag(State_Enabled)) {
+            QStyleOptionComboBox shown = *combo; // as grey as a box that is typed into
+            shown.palette.setColor(QPalette::Button, ToQColor(PanelColor));
+            QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+            return;
+        }
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         if (control == CC_ComboBox && HasFocus(option)) {
             DrawRing(painter, option->rect, ToQColor(AccentColor), RingWidth);
@@ -140,7 +147,6 @@ QPalette ProgramPalette() {
     }
     colors.setColor(QPalette::Base, Qt::white);
     colors.setColor(QPalette::Disabled, QPalette::Base, ToQColor(PanelColor));
-    colors.setColor(QPalette::Disabled, QPalette::Button, ToQColor(PanelColor));
     colors.setColor(QPalette::AlternateBase, ToQColor(PanelColor));
     colors.setColor(QPalette::ToolTipBase, Qt::white);
     colors.setColor(QPalette::Highlight, ToQColor(AccentColor));

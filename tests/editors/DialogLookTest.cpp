@@ -6,6 +6,7 @@
 #include "platform/ElidedLabel.h"
 #include "platform/WindowColors.h"
 
+#include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QToolTip>
 
@@ -28,23 +29,39 @@ QColor GroundOf(QWidget* box) {
     return ColorAt(box, {box->width() - 6, box->height() / 2});
 }
 
+// Pixels that a combo has for its text.
+int RoomIn(const QComboBox* combo) {
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    return combo->style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo)
+        .width();
+}
+
 } // namespace
 
 // --- Room --------------------------------------------------------------------------------------------------
 
 TEST_F(DialogLook, LongNamesMakeNoDialogWider) {
-    std::vector<QSize> sizes;
-    InEach([&sizes](QDialog& dialog) { sizes.push_back(dialog.minimumSizeHint()); });
+    struct Widths {
+        int least, wanted;
+    };
+
+    std::vector<Widths> widths;
+    InEach([&widths](QDialog& dialog) {
+        widths.push_back({dialog.minimumSizeHint().width(), dialog.sizeHint().width()});
+    });
     ClassName = LongName;
     Store.Term.name.Replace(1, LongName);
     Store.ClassRecord.name.Replace(1, LongName);
     TypeTable.customname.Replace(1, LongName);
     window->SetActiveTerm(LongName);
-    auto size = sizes.begin();
-    InEach([&size](QDialog& dialog) {
-        EXPECT_EQ(dialog.minimumSizeHint().width(), size->width());
+    auto before = widths.begin();
+    InEach([&before](QDialog& dialog) {
+        EXPECT_EQ(dialog.minimumSizeHint().width(), before->least);
+        EXPECT_EQ(dialog.sizeHint().width(), before->wanted);
         EXPECT_LE(dialog.width(), SmallScreen.width());
-        ++size;
+        ++before;
     });
 }
 
@@ -58,6 +75,11 @@ TEST_F(DialogLook, LongNameEndsInDotsAndIsTheTip) {
     EXPECT_TRUE(label.ShownText().endsWith("&Classes ")) << "the word behind the name stays";
     OpenTerm();
     QComboBox* const list = TermDialog->ComboBoxClassList;
+    const QImage cut = list->grab().toImage();
+    list->setItemText(0, list->fontMetrics().elidedText(FromStore(LongName), Qt::ElideRight, RoomIn(list)));
+    EXPECT_TRUE(list->currentText().endsWith(QChar(0x2026)));
+    EXPECT_EQ(list->grab().toImage(), cut);
+    list->setItemText(0, FromStore(LongName));
     QHelpEvent ask(QEvent::ToolTip, list->rect().center(), list->mapToGlobal(list->rect().center()));
     QCoreApplication::sendEvent(list, &ask);
     EXPECT_TRUE(QToolTip::text().contains(FromStore(LongName)));

@@ -99,6 +99,12 @@ TEST(MessageBoxes, BreakAnyNameIntoLinesWithinTheScreen) {
     EXPECT_TRUE(HoldsFor([&text] { ShowFatalError(text); }, expect));
 }
 
+TEST(MessageBoxes, BreakNoWordOfALanguage) {
+    const std::string text = "The responsibilities of your Grundstuecksverkehr";
+    EXPECT_TRUE(HoldsFor([&text] { MsgBox(text, Buttons::Ok, Icon::Information); },
+                         [&text](QMessageBox& box) { EXPECT_EQ(box.text().toStdString(), text); }));
+}
+
 TEST(MessageBoxes, ShowShortTextsAsTheyAre) {
     EXPECT_TRUE(HoldsFor([] { MsgBox("Delete <b>this</b> class & all?", Buttons::YesNo, Icon::Information); },
                          [](QMessageBox& box) {
