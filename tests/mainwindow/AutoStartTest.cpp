@@ -1,4 +1,5 @@
 // The items of "Launch on System Startup".
+#include "platform/Text.h"
 #include "support/WindowTest.h"
 
 #include <fstream>
@@ -26,7 +27,7 @@ protected:
         for (const QAction* item :
              {window->MenuStartFull, window->MenuStartMin, window->MenuStartTray, window->MenuStartNo}) {
             if (item->isChecked()) {
-                captions.append(item->text());
+                captions.append(WithoutMnemonics(item->text()));
             }
         }
         return captions;
@@ -86,7 +87,7 @@ TEST_F(AutoStart, YesItemsCheckThemselvesAloneAndCopyTheShortcut) {
     for (const auto& [item, word] : items) {
         std::filesystem::remove(Script.startupFolder / ShortcutName);
         (window.get()->*item)->trigger();
-        EXPECT_EQ(Checked(), QStringList{(window.get()->*item)->text()}) << word;
+        EXPECT_EQ(Checked(), QStringList{WithoutMnemonics((window.get()->*item)->text())}) << word;
         EXPECT_EQ(window->AutoStart, word);
         EXPECT_TRUE(ShortcutIsThere()) << word;
     }
