@@ -1,4 +1,6 @@
 // The main window put where the preferences say, and its place handed back at the shutdown.
+#include "core/Module1.h"
+#include "core/TypeTable.h"
 #include "support/WindowTest.h"
 
 namespace {
@@ -18,6 +20,8 @@ protected:
     }
 };
 
+class TypesAtTheLoad : public WindowTest {};
+
 std::string PlaceLines(const std::string& state, const std::array<const char*, 4>& places) {
     return "[Window Position]\nFormMainState=" + state + "\nFormMainLocationX=" + places[0] +
            "\nFormMainLocationY=" + places[1] + "\nFormMainSizeX=" + places[2] +
@@ -34,6 +38,20 @@ TEST_F(WindowPlace, IsTheOneOfThePreferences) {
     EXPECT_EQ(window->pos(), QPoint(100, 60));
     EXPECT_EQ(window->size(), QSize(900, 700));
     EXPECT_FALSE(window->isMaximized());
+}
+
+TEST_F(TypesAtTheLoad, HaveTheNamesAndColoursOfThePreferencesAndTheDefaultsBesideThem) {
+    WriteData("Prefs.ini", "TaskCN_School=University\nTaskBC_School=255\nEventFC_Work=65280\n");
+    LoadWindow();
+    const int school = TypeRow("Task", "School");
+    EXPECT_EQ(TypeTable.category.Count(), 27);
+    EXPECT_EQ(TypeTable.customname.Item(school), "University");
+    EXPECT_EQ(TypeTable.backcolor.Item(school), "255");
+    EXPECT_EQ(TypeTable.forecolor.Item(school), "0");
+    EXPECT_EQ(TypeTable.forecolor.Item(TypeRow("Event", "Work")), "65280");
+    EXPECT_EQ(TypeTable.customname.Item(TypeRow("Event", "Study Time")), "Study Time");
+    window->Unload();
+    EXPECT_NE(ReadData("Prefs.ini").find("\nTaskCN_School=University\n"), std::string::npos);
 }
 
 TEST_F(WindowPlace, WithoutPreferencesHasTheDesignSize) {
@@ -108,21 +126,4 @@ TEST_F(WindowPlace, ThatALaterReadWouldStopAtIsWrittenAsZero) {
     LoadWindow();
     window->move(2185, 2184);
     EXPECT_EQ(WrittenPlace(), PlaceLines("0", {"0", "2184", "780", "575"}));
-}
-
-TEST_F(WindowPlace, LeavesASideWhereItIsOfWhichAZeroIsSaved) {
-    LoadWindow();
-    window->move(70, 80);
-    window->resize(900, 700);
-    const auto read = [this](const std::string& preferences) {
-        WriteData("Prefs.ini", preferences);
-        window->ReadPreferences();
-        return QRect(window->pos(), window->size());
-    };
-    EXPECT_EQ(read("FormMainLocationX=100\nFormMainLocationY=0\nFormMainSizeX=0\nFormMainSizeY=650\n"),
-              QRect(100, 80, 900, 650));
-    EXPECT_EQ(read("FormMainLocationX=0\nFormMainLocationY=90\nFormMainSizeX=850\nFormMainSizeY=0\n"),
-              QRect(100, 90, 850, 650));
-    EXPECT_EQ(read("FormMainLocationX=0\nFormMainLocationY=0\nFormMainSizeX=0\nFormMainSizeY=0\n"),
-              QRect(100, 90, 850, 650));
 }
