@@ -127,3 +127,20 @@ TEST_F(WindowPlace, ThatALaterReadWouldStopAtIsWrittenAsZero) {
     window->move(2185, 2184);
     EXPECT_EQ(WrittenPlace(), PlaceLines("0", {"0", "2184", "780", "575"}));
 }
+
+TEST_F(WindowPlace, LeavesASideWhereItIsOfWhichAZeroIsSaved) {
+    LoadWindow();
+    window->move(70, 80);
+    window->resize(900, 700);
+    const auto read = [this](const std::string& preferences) {
+        WriteData("Prefs.ini", preferences);
+        window->ReadPreferences();
+        return QRect(window->pos(), window->size());
+    };
+    EXPECT_EQ(read("FormMainLocationX=100\nFormMainLocationY=0\nFormMainSizeX=0\nFormMainSizeY=650\n"),
+              QRect(100, 80, 900, 650));
+    EXPECT_EQ(read("FormMainLocationX=0\nFormMainLocationY=90\nFormMainSizeX=850\nFormMainSizeY=0\n"),
+              QRect(100, 90, 850, 650));
+    EXPECT_EQ(read("FormMainLocationX=0\nFormMainLocationY=0\nFormMainSizeX=0\nFormMainSizeY=0\n"),
+              QRect(100, 90, 850, 650));
+}
