@@ -167,3 +167,30 @@ TEST_F(WindowLooks, NoGapsShowBetweenTheLinesOfTheMonthAtAnyScale) {
         }
     }
 }
+
+TEST_F(WindowLooks, AFrameCoversThePixelsOfTheLinesAlongItsEdgesAtAnyScale) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const auto seen = [scale](PictureBox& surface) {
+            QImage image(QSize(100, 100) * 2, QImage::Format_RGB32);
+            image.setDevicePixelRatio(scale);
+            image.fill(Qt::white);
+            surface.render(&image);
+            return image;
+        };
+        PictureBox framed;
+        PictureBox lined;
+        framed.resize(100, 100);
+        lined.resize(100, 100);
+        for (int left = 45; left < 45 + 8 * UnitsPerPixel; left += UnitsPerPixel) {
+            const int right = left + 1335 - UnitsPerPixel;
+            framed.Clear();
+            framed.DrawFrame(left, left, 1335, 1335, 0);
+            lined.Clear();
+            lined.DrawLine(left, left, right + UnitsPerPixel, left, 0);
+            lined.DrawLine(left, right, right + UnitsPerPixel, right, 0);
+            lined.DrawLine(left, left, left, right, 0);
+            lined.DrawLine(right, left, right, right, 0);
+            EXPECT_EQ(seen(framed), seen(lined)) << scale << " at " << left;
+        }
+    }
+}
