@@ -6,6 +6,7 @@
 #include "planner/EventOccursOn.h"
 #include "planner/EventWalk.h"
 #include "support/RfcSeries.h"
+#include "support/StoreRecords.h"
 
 #include <KCalendarCore/ICalFormat>
 #include <KCalendarCore/RecurrenceRule>
@@ -120,9 +121,7 @@ static void MarksOfAMonthOfClassMeetings(benchmark::State& state) {
     constexpr int ClassesInTerm = 6;
     FillStore(SeriesCount);
     for (int id = 1; id <= Classes; ++id) {
-        Store.ClassRecord.id.Add(std::to_string(id));
-        Store.ClassRecord.term.Add(std::to_string((id - 1) / ClassesInTerm + 1));
-        Store.ClassRecord.name.Add("Class");
+        AddClassRecord({.id = std::to_string(id), .term = std::to_string((id - 1) / ClassesInTerm + 1)});
     }
     ActiveTermID = Classes / ClassesInTerm;
     for (int index = 1; index <= SeriesCount; ++index) {

@@ -27,7 +27,7 @@ void TakeTerm(int position) {
 
 // Takes the last term that is not deleted, where there is one.
 void TakeLastTerm() {
-    for (int position = Store.Term.name.Count(); position >= 1; --position) {
+    for (int position = WholeRecords(Store.Term); position >= 1; --position) {
         if (Store.Term.name.Item(position) != DeletedRecord) {
             return TakeTerm(position);
         }
@@ -87,7 +87,7 @@ void ChooseActiveTerm(std::string_view name) {
     ActiveTermEnd = NoTermBound;
     ResetAssignmentLists();
     const TextList& names = Store.Term.name;
-    for (int position = 1; position <= names.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.Term); position <= records; ++position) {
         if (names.Item(position) == name) {
             TakeTerm(position);
         }
@@ -110,7 +110,7 @@ bool IsActiveClass(int position) {
 void SetupActiveClasses() {
     ActiveClasses = {};
     const ClassLists& classes = Store.ClassRecord;
-    for (int position = 1; position <= classes.name.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         if (!IsActiveClass(position)) {
             continue;
         }

@@ -4,7 +4,9 @@
 
 #include "core/TextList.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <string_view>
 
 // How the reader and the writer of the record files treat a field.
@@ -131,6 +133,38 @@ inline constexpr std::array<Field<EventLists>, 23> EventFields{{
 struct StudySessionLists {
     TextList id, assignment, time, date;
 };
+
+// The table of each kind.
+constexpr const auto& FieldTable(const TermLists& /*kind*/) {
+    return TermFields;
+}
+
+constexpr const auto& FieldTable(const ClassLists& /*kind*/) {
+    return ClassFields;
+}
+
+constexpr const auto& FieldTable(const AssignmentLists& /*kind*/) {
+    return AssignmentFields;
+}
+
+constexpr const auto& FieldTable(const TaskLists& /*kind*/) {
+    return TaskFields;
+}
+
+constexpr const auto& FieldTable(const EventLists& /*kind*/) {
+    return EventFields;
+}
+
+// How many records of the kind are whole: the positions that each of its lists has. Lists fall out of step
+// where a file was cut short or lacks a tag; all that goes over the records of a kind goes over these.
+template <class Lists>
+int WholeRecords(const Lists& lists) {
+    int whole = std::numeric_limits<int>::max();
+    for (const auto& field : FieldTable(lists)) {
+        whole = std::min(whole, (lists.*field.list).Count());
+    }
+    return whole;
+}
 
 // Takes the record at the position out of every list of its kind.
 template <class Lists, std::size_t Count>

@@ -114,7 +114,7 @@ void MarkHomeworkInMonth(CalendarMonth& month, Date firstCellDate, const ListFil
     month.ColorMarked = ColorOfItems(filter);
     month.HomeworkDoneCount = {};
     month.HomeworkLeftCount = {};
-    for (int position = 1; position <= assignments.desc.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) == DeletedRecord) {
             continue;
         }
@@ -130,7 +130,7 @@ void MarkTasksInMonth(CalendarMonth& month, Date firstCellDate, const ListFilter
     month.ColorMarked = ColorOfItems(filter);
     month.TaskDoneCountByDay = {};
     month.TaskLeftCountByDay = {};
-    for (int position = 1; position <= tasks.desc.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(tasks); position <= records; ++position) {
         if (tasks.desc.Item(position) == DeletedRecord || !IsTrue(tasks.date_exists.Item(position))) {
             continue;
         }

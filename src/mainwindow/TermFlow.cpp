@@ -23,7 +23,7 @@ bool HasId(const std::string& text, int id) {
 void FillChooser(frmSelectCourseSchedule& chooser) {
     chooser.tempTermIDArray = {};
     chooser.ComboTermList->clear();
-    for (int position = Store.Term.name.Count(); position >= 1; --position) {
+    for (int position = WholeRecords(Store.Term); position >= 1; --position) {
         if (Store.Term.name.Item(position) != DeletedRecord) {
             chooser.tempTermIDArray.Add(Store.Term.id.Item(position));
             chooser.ComboTermList->addItem(FromStore(Store.Term.name.Item(position)));
@@ -63,7 +63,7 @@ void PrepareTermEditor(frmCourseSchedule& dialog, int id) {
     dialog.tempTermName.clear();
     dialog.tempTermStart = ShortDateText(Today());
     dialog.tempTermEnd = ShortDateText(Today());
-    for (int position = 1; position <= Store.Term.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.Term); position <= records; ++position) {
         if (HasId(Store.Term.id.Item(position), id)) {
             dialog.tempTermName = Store.Term.name.Item(position);
             dialog.tempTermStart = ShortDateText(DateValue(Store.Term.start.Item(position)));
@@ -71,7 +71,7 @@ void PrepareTermEditor(frmCourseSchedule& dialog, int id) {
         }
     }
     dialog.NextClassID = 1; // ids of classes are unique across terms
-    for (int position = 1; position <= Store.ClassRecord.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
         dialog.NextClassID = std::max(dialog.NextClassID, ToInt16(Store.ClassRecord.id.Item(position)) + 1);
         if (HasId(Store.ClassRecord.term.Item(position), id)) {
             CopyClass(dialog, position);
@@ -85,7 +85,7 @@ void FillPreviousTerms(frmCourseSchedule& dialog, int id) {
     dialog.tempPreviousTermNamesArray = {};
     dialog.tempPreviousTermStartArray = {};
     dialog.tempPreviousTermEndArray = {};
-    for (int position = 1; position <= Store.Term.name.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.Term); position <= records; ++position) {
         if (Store.Term.name.Item(position) == DeletedRecord) {
             continue;
         }
@@ -112,12 +112,12 @@ void AddTermRecords(const frmCourseSchedule& dialog, int id) {
 }
 
 void RemoveTermRecords(int id) {
-    for (int position = Store.Term.id.Count(); position >= 1; --position) {
+    for (int position = WholeRecords(Store.Term); position >= 1; --position) {
         if (HasId(Store.Term.id.Item(position), id)) {
             RemoveRecord(Store.Term, TermFields, position);
         }
     }
-    for (int position = Store.ClassRecord.term.Count(); position >= 1; --position) {
+    for (int position = WholeRecords(Store.ClassRecord); position >= 1; --position) {
         if (HasId(Store.ClassRecord.term.Item(position), id)) {
             RemoveRecord(Store.ClassRecord, ClassFields, position);
         }
@@ -126,7 +126,7 @@ void RemoveTermRecords(int id) {
 
 bool TermHasClass(int termId, const std::string& classId) {
     const std::optional<double> wanted = NumberIn(classId);
-    for (int position = 1; position <= Store.ClassRecord.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
         const bool same = wanted && NumberIn(Store.ClassRecord.id.Item(position)) == wanted;
         if (same && HasId(Store.ClassRecord.term.Item(position), termId)) {
             return true;
@@ -139,7 +139,7 @@ bool TermHasClass(int termId, const std::string& classId) {
 void ReplaceTermRecords(const frmCourseSchedule& dialog, int id) {
     AddTermRecords(dialog, id);
     bool removed = false;
-    for (int position = Store.Assignment.id.Count(); position >= 1; --position) {
+    for (int position = WholeRecords(Store.Assignment); position >= 1; --position) {
         if (!TermHasClass(id, Store.Assignment.class_.Item(position))) {
             RemoveRecord(Store.Assignment, AssignmentFields, position);
             removed = true;

@@ -41,7 +41,7 @@ std::string ClassLinkText(int term, std::string_view class_) {
 
 int ClassPosition(const ClassLink& link) {
     const ClassLists& classes = Store.ClassRecord;
-    for (int position = 1; position <= classes.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         if (IdIn(classes.id.Item(position)) == link.class_ &&
             IdIn(classes.term.Item(position)) == link.term && classes.name.Item(position) != DeletedRecord) {
             return position;
@@ -53,7 +53,7 @@ int ClassPosition(const ClassLink& link) {
 std::vector<int> ActiveClassIds() {
     const ClassLists& classes = Store.ClassRecord;
     std::vector<int> ids;
-    for (int position = 1; position <= classes.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         const std::optional<int> id = IdIn(classes.id.Item(position));
         if (id && IsActiveClass(position)) {
             ids.push_back(*id);

@@ -18,7 +18,7 @@ int LinkedClasses(std::string_view type) {
     }
     const ClassLists& classes = Store.ClassRecord;
     int count = 0;
-    for (int position = 1; position <= classes.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         const bool living = classes.name.Item(position) != DeletedRecord;
         count += living && IdIn(classes.id.Item(position)) == link->class_ ? 1 : 0;
     }
@@ -32,7 +32,7 @@ HomeworkDayBoxes HomeworkDayTotals(Date day) {
     int TotalCount = 0;
     int LeftCount = 0;
     int minutes = 0;
-    for (int position = 1; position <= assignments.date.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) == DeletedRecord ||
             DateValue(assignments.date.Item(position)) != day) {
             continue;

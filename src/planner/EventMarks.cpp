@@ -27,7 +27,7 @@ EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
     const std::vector<DayFacts> cells = FactsOfDays(firstCell, MonthCells); // once for all series
     const std::vector<int> activeClassIds = ActiveClassIds();
     EventMarks marks;
-    for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {
+    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
         DayBits days = CellsOfEvent(cells, index);
         const std::string& type = Store.EventRecord.type.Item(index);
         if (days == 0 || !BelongsToActiveTerm(type, activeClassIds)) {

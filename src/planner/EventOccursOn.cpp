@@ -140,7 +140,7 @@ DayBits OccurringDays(std::span<const DayFacts> row, int index) {
 std::vector<int> EventsOn(Date day) {
     const DayFacts facts = FactsOf(day);
     std::vector<int> positions;
-    for (int position = 1; position <= Store.EventRecord.date.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
         if (OccurringDays({&facts, 1}, position) != 0) {
             positions.push_back(position);
         }

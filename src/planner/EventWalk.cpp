@@ -134,7 +134,7 @@ std::vector<EventOccurrence> SelectEventsInRange(Date from, std::string_view com
     const Span range{from, LastOfRange(from, comboDateRange)};
     std::vector<EventOccurrence> occurrences;
     std::vector<Date> dates;
-    for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {
+    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
         if (Store.EventRecord.desc.Item(index) == DeletedRecord) {
             continue;
         }
@@ -150,7 +150,7 @@ std::vector<EventOccurrence> SelectEventsInRange(Date from, std::string_view com
 std::vector<EventReminder> SelectEventReminders(Date day) {
     std::vector<EventReminder> reminders;
     std::vector<Date> dates;
-    for (int index = 1; index <= Store.EventRecord.id.Count(); ++index) {
+    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
         if (Store.EventRecord.desc.Item(index) == DeletedRecord) {
             continue;
         }

@@ -165,7 +165,7 @@ RowsOfClass RowsByClass(const GPATable& table) {
 void AddAssignments(GPATable& table) {
     const RowsOfClass rowsOfClass = RowsByClass(table);
     const AssignmentLists& assignments = Store.Assignment;
-    for (int position = 1; position <= assignments.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         const std::optional<int> id = IdIn(assignments.class_.Item(position));
         const auto found = id ? rowsOfClass.find(*id) : rowsOfClass.end();
         if (found == rowsOfClass.end() || assignments.desc.Item(position) == DeletedRecord) {

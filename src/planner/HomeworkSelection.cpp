@@ -70,7 +70,7 @@ void AddClassLooks() {
 std::unordered_map<int, int> AssignmentPositionsById() {
     const TextList& ids = Store.Assignment.id;
     std::unordered_map<int, int> positions;
-    for (int position = 1; position <= ids.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.Assignment); position <= records; ++position) {
         if (const std::optional<int> id = IdIn(ids.Item(position))) {
             positions.emplace(*id, position);
         }
@@ -85,7 +85,7 @@ HomeworkCounts HomeworkDayList(Date day, const ListFilter& filter) {
     const LoggedMinutes logged = LoggedMinutesById();
     HomeworkCounts counts;
     ClearRows();
-    for (int position = 1; position <= assignments.date.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) == DeletedRecord ||
             !IsOfDay(assignments.date.Item(position), day)) {
             continue;

@@ -15,9 +15,12 @@ namespace {
 using std::chrono::days;
 using std::chrono::floor;
 
-int PositionOf(const TextList& ids, std::string_view id) {
-    const auto found = std::ranges::find(ids, id);
-    return found == ids.end() ? 0 : static_cast<int>(found - ids.begin()) + 1;
+// Of the whole records alone.
+template <class Lists>
+int PositionOf(const Lists& lists, std::string_view id) {
+    const auto end = lists.id.begin() + WholeRecords(lists);
+    const auto found = std::find(lists.id.begin(), end, id);
+    return found == end ? 0 : static_cast<int>(found - lists.id.begin()) + 1;
 }
 
 bool& FileChanged(std::string_view mode, ReminderFlags& flags) {
@@ -81,7 +84,10 @@ void RemoveReminder(std::string_view mode, std::string_view id, ReminderFlags& f
 }
 
 int ReminderPosition(std::string_view mode, std::string_view id) {
-    return PositionOf(mode == EventMode ? Store.EventRecord.id : ItemReminders(mode).id, id);
+    if (mode == EventMode) {
+        return PositionOf(Store.EventRecord, id);
+    }
+    return mode == TaskMode ? PositionOf(Store.TaskRecord, id) : PositionOf(Store.Assignment, id);
 }
 
 void TakeOutReminderRow(ReminderListRows& rows, int row, ReminderFlags& flags) {

@@ -122,7 +122,7 @@ void TellDay(ReminderRow& row, const std::string& date, const Scan& scan) {
 
 void CheckTasks(Scan& scan) {
     const ItemReminderLists items = ItemReminders(TaskMode);
-    for (int position = 1; position <= items.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.TaskRecord); position <= records; ++position) {
         if (!ItemStands(items, position, scan, scan.flags.ReminderTasksChanged)) {
             continue;
         }
@@ -140,7 +140,7 @@ void CheckTasks(Scan& scan) {
 
 void CheckHomework(Scan& scan) {
     const ItemReminderLists items = ItemReminders(HomeworkMode);
-    for (int position = 1; position <= items.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.Assignment); position <= records; ++position) {
         if (!ItemStands(items, position, scan, scan.flags.ReminderHomeworkChanged)) {
             continue;
         }
@@ -213,7 +213,7 @@ Moment MomentOfEvent(int index) {
 
 void CheckEvents(Scan& scan) {
     const EventLists& events = Store.EventRecord;
-    for (int index = 1; index <= events.id.Count(); ++index) {
+    for (int index = 1, records = WholeRecords(events); index <= records; ++index) {
         if (!EventStands(index, scan)) {
             continue;
         }

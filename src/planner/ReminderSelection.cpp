@@ -60,7 +60,7 @@ bool Takes(const ListFilter& filter, std::string_view source) {
 
 void SelectTaskReminders(Date day, bool taken) {
     const TaskLists& tasks = Store.TaskRecord;
-    for (int position = 1; position <= tasks.desc.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(tasks); position <= records; ++position) {
         if (tasks.desc.Item(position) == DeletedRecord || IsTrue(tasks.done.Item(position)) ||
             !IsTrue(tasks.date_exists.Item(position))) {
             continue;
@@ -81,7 +81,7 @@ void SelectTaskReminders(Date day, bool taken) {
 void SelectHomeworkReminders(Date day, bool taken) {
     const AssignmentLists& assignments = Store.Assignment;
     const ClassPositions classes = ClassPositionsById();
-    for (int position = 1; position <= assignments.desc.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) == DeletedRecord || IsTrue(assignments.done.Item(position))) {
             continue;
         }

@@ -22,7 +22,7 @@ RowLook TypeLook(std::string_view category, std::string_view key) {
 ClassPositions ClassPositionsById() {
     const ClassLists& classes = Store.ClassRecord;
     ClassPositions positions;
-    for (int position = 1; position <= classes.id.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         const std::optional<int> id = IdIn(classes.id.Item(position));
         if (id && classes.name.Item(position) != DeletedRecord) {
             positions.emplace(*id, position);

@@ -52,7 +52,7 @@ void RemoveExceptionChildren(const std::string& id) {
         return; // an empty parent is that of every event which is no exception child
     }
     const EventLists& events = Store.EventRecord;
-    for (int index = events.id.Count(); index >= 1; --index) {
+    for (int index = WholeRecords(events); index >= 1; --index) {
         if (events.parent_id.Item(index) == id) {
             RemoveRecord(Store.EventRecord, EventFields, index);
         }

@@ -26,7 +26,7 @@ struct OpenHomework {
 std::vector<OpenHomework> HomeworkNotDone(Date today) {
     const AssignmentLists& assignments = Store.Assignment;
     std::vector<OpenHomework> homework;
-    for (int position = 1; position <= assignments.done.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (!IsTrue(assignments.done.Item(position))) {
             homework.push_back({position, DayDiff(today, DateValue(assignments.date.Item(position)))});
         }

@@ -172,7 +172,7 @@ void AddStudyOfLaterDays(LaterStudy& later, int index) {
 void StudyTimeByDay(Moment now) {
     const TextList& types = Store.EventRecord.type;
     std::vector<int> sessions;
-    for (int index = 1; index <= types.Count(); ++index) {
+    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
         if (types.Item(index) == StudyTimeType) {
             sessions.push_back(index);
         }

@@ -23,7 +23,7 @@ std::vector<OpenWork> OpenWorkFrom(Date day) {
     const AssignmentLists& assignments = Store.Assignment;
     const LoggedMinutes logged = LoggedMinutesById();
     std::vector<OpenWork> work;
-    for (int position = 1; position <= assignments.desc.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) != DeletedRecord && !IsTrue(assignments.done.Item(position))) {
             const int daysLeft = DayDiff(day, DateValue(assignments.date.Item(position)));
             work.push_back({std::max(1, daysLeft), RemainingMinutes(position, logged)});

@@ -60,7 +60,7 @@ void AddTaskRow(int position) {
 void SelectTasks(Date day, const ListFilter& filter) {
     const TextList& descriptions = Store.TaskRecord.desc;
     ClearRowsAndCounters();
-    for (int position = 1; position <= descriptions.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.TaskRecord); position <= records; ++position) {
         if (descriptions.Item(position) == DeletedRecord ||
             !IsInRange(position, day, filter.comboDateRange)) {
             continue;
@@ -76,7 +76,7 @@ TaskBoxes CountTasks(Date day) {
     TaskCount = 0;
     TaskDoneCount = 0;
     UndatedTaskLeftCount = 0;
-    for (int position = 1; position <= Store.TaskRecord.date_exists.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.TaskRecord); position <= records; ++position) {
         if (IsDatedFor(position, day)) {
             CountTask(position);
         } else if (!IsDated(position) && !IsDone(position)) {
@@ -92,7 +92,7 @@ TaskBoxes CountTasks(Date day) {
 
 void SelectTasksForDay(Date day) {
     ClearRowsAndCounters();
-    for (int position = 1; position <= Store.TaskRecord.date.Count(); ++position) {
+    for (int position = 1, records = WholeRecords(Store.TaskRecord); position <= records; ++position) {
         if (day == AllDates || IsDatedFor(position, day)) {
             CountTask(position);
             AddTaskRow(position);

@@ -4,4 +4,5 @@ target_sources(logic_tests PRIVATE
   core/PreferencesTest.cpp
   core/TextFilesTest.cpp
   core/ValuesTest.cpp
+  core/WholeRecordsTest.cpp
 )

@@ -2,15 +2,14 @@
 #include "planner/ClassLink.h"
 #include "core/Module1.h"
 #include "support/ScriptedPlatform.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 void AddClass(const std::string& id, const std::string& term, const std::string& name) {
-    Store.ClassRecord.id.Add(id);
-    Store.ClassRecord.term.Add(term);
-    Store.ClassRecord.name.Add(name);
+    AddClassRecord({.id = id, .term = term, .name = name});
 }
 
 class ClassLinks : public testing::Test {

@@ -3,6 +3,7 @@
 #include "core/RunTimeError.h"
 #include "planner/EventOccursOn.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -48,9 +49,7 @@ std::vector<int> CellsOf(const EventTexts& event) {
 using Cells = std::vector<int>;
 
 void AddClass(const std::string& id, const std::string& term, const std::string& name) {
-    Store.ClassRecord.id.Add(id);
-    Store.ClassRecord.term.Add(term);
-    Store.ClassRecord.name.Add(name);
+    AddClassRecord({.id = id, .term = term, .name = name});
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "core/DateText.h"
 #include "core/Module1.h"
+#include "support/EventRecords.h"
 
 #include <algorithm>
 #include <array>
@@ -252,21 +253,19 @@ OracleSeries RandomSeries(std::mt19937& random, Date anchor) {
 }
 
 void FillStore(const std::vector<OracleSeries>& all) {
-    EventLists& events = Store.EventRecord;
-    events = {};
+    Store.EventRecord = {};
+    NextEventID = 1;
     for (const OracleSeries& series : all) {
-        events.id.Add("1");
-        events.date.Add(series.first.text);
-        events.desc.Add(series.desc);
-        events.type.Add("None");
-        events.recurrence.Add(series.recurrence);
-        events.exceptions.Add(series.exceptions);
-        events.same_date.Add(series.sameDate);
-        events.repeat_number.Add(series.repeatNumber);
-        events.repeat_day.Add(series.repeatDay);
-        events.repeat_daily.Add(series.repeatDaily);
-        events.end.Add(series.end);
-        events.end_date.Add(series.endDate);
-        events.reminder.Add(series.reminder);
+        AddEventRecord({.date = series.first.text,
+                        .desc = series.desc,
+                        .recurrence = series.recurrence,
+                        .exceptions = series.exceptions,
+                        .same_date = series.sameDate,
+                        .repeat_number = series.repeatNumber,
+                        .repeat_day = series.repeatDay,
+                        .repeat_daily = series.repeatDaily,
+                        .end = series.end,
+                        .end_date = series.endDate,
+                        .reminder = series.reminder});
     }
 }

@@ -1,0 +1,136 @@
+// What the rules make of the store: the lists, the marks, the totals, the alerts, the reminders, the grades.
+#include "support/RuleResults.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "mainwindow/MonthMarks.h"
+#include "planner/DayTotals.h"
+#include "planner/EventOccursOn.h"
+#include "planner/EventSelection.h"
+#include "planner/EventWalk.h"
+#include "planner/Grades.h"
+#include "planner/HomeworkSelection.h"
+#include "planner/ReminderEngine.h"
+#include "planner/ReminderSelection.h"
+#include "planner/RowSorts.h"
+#include "planner/StudyTimeAlert.h"
+#include "planner/StudyTimeToday.h"
+#include "planner/TaskSelection.h"
+
+namespace {
+
+using std::chrono::days;
+
+std::string Shown(const std::string& text) {
+    return text;
+}
+
+std::string Shown(int number) {
+    return std::to_string(number);
+}
+
+std::string Shown(Date date) {
+    return StoredDate(date);
+}
+
+std::string Shown(const BoxText& box) {
+    return box.text + "#" + std::to_string(box.backcolor);
+}
+
+template <class... Values>
+void Tell(std::string& results, const Values&... values) {
+    ((results += Shown(values) + "|"), ...);
+    results += '\n';
+}
+
+template <class... Lists>
+void TellLists(std::string& results, const Lists&... lists) {
+    const auto tell = [&results](const auto& list) {
+        for (const auto& value : list) {
+            results += Shown(value) + "|";
+        }
+        results += '\n';
+    };
+    (tell(lists), ...);
+}
+
+void TellHomework(std::string& results, const ListFilter& filter, Date today) {
+    const HomeworkCounts counts = SelectHomeworkRows(filter);
+    SortHomeworkRows({static_cast<int>(HomeworkColumn::Due), Ascending});
+    Tell(results, counts.total, counts.left);
+    TellLists(results, HomeworkRows, RowClass, RowForeColor, RowBackColor, RowTimeLeft);
+    const HomeworkDayBoxes day = HomeworkDayTotals(today);
+    Tell(results, day.TextBoxTotalAssignments, day.TextBoxFinishedAssignments, day.TextBoxTimeRemaining);
+    const StudyTimeBoxes study = StudyTimeToday(today);
+    Tell(results, study.TextBoxMinimum, study.TextBoxSuggested);
+    StudySessionDayList(today);
+}
+
+void TellTasks(std::string& results, const ListFilter& filter, Date today) {
+    SelectTasks(AllDates, filter);
+    SortTaskRows({static_cast<int>(TaskColumn::Day), Ascending});
+    TellLists(results, TaskRows, TaskRowType, TaskRowForeColor, TaskRowBackColor);
+    SelectTasksForDay(today);
+    TellLists(results, TaskRows);
+    const TaskBoxes boxes = CountTasks(today);
+    Tell(results, boxes.TextBoxTotalTasks, boxes.TextBoxFinishedTasks, boxes.TextBoxUndatedTasks);
+}
+
+void TellEvents(std::string& results, const ListFilter& filter, Date today) {
+    SelectEventRows(filter);
+    SortEventRows({static_cast<int>(EventColumn::Name), Ascending});
+    TellLists(results, EventRows, EventRowDate, EventRowForeColor, EventRowBackColor, EventRowType);
+    const std::vector<int> eventsOfDay = EventsOn(today);
+    SelectEventsForDay(today, eventsOfDay, filter);
+    TellLists(results, EventRows);
+    const EventDayBoxes boxes = EventDayTotals(eventsOfDay);
+    Tell(results, boxes.TextBoxSchedStudy, boxes.TextBoxClasses, boxes.TextBoxOtherEvents);
+}
+
+void TellMonth(std::string& results, ListFilter filter, Date today) {
+    SelectReminders(today, filter);
+    TellLists(results, ReminderRows, ReminderRowKind, ReminderRowClass, ReminderRowType, ReminderRowText,
+              ReminderRowDays, ReminderRowDate, ReminderRowForeColor, ReminderRowBackColor);
+    filter.calendarMode = true;
+    CalendarMonth month;
+    MarkMonth(month, today - days{20}, Mode::Calendar, filter);
+    TellLists(results, month.CellMarked, month.HomeworkDoneCount, month.HomeworkLeftCount,
+              month.TaskDoneCountByDay, month.TaskLeftCountByDay, month.EventCountByDay);
+}
+
+void TellAlerts(std::string& results) {
+    TellLists(results, StudyTimeAlertCheck());
+    TellLists(results, AlertDays, AlertNeed, AlertStudy);
+    const GPATable grades = BuildGPATable(true);
+    TellLists(results, grades.GPANames, grades.GPACredits, grades.GPALetters, grades.GPAPercents,
+              grades.GPAAssignments, grades.GPAMinutes);
+}
+
+void TellReminders(std::string& results) {
+    const PlannerStore before = Store;
+    ReminderFlags flags;
+    ReminderListRows rows;
+    CheckReminders(Now(), flags, rows);
+    Store = before;
+    Tell(results, flags.ReminderTasksChanged, flags.ReminderHomeworkChanged, flags.ReminderEventsChanged);
+    TellLists(results, rows.ReminderIds, rows.ReminderModes, rows.ReminderNames, rows.ReminderTypes,
+              rows.ReminderWhens);
+}
+
+} // namespace
+
+std::string RuleResults() {
+    std::string results;
+    const ListFilter filter{"All", "All", Today(), false};
+    SetupActiveClasses();
+    TellLists(results, ActiveClasses.id, ActiveClasses.name, ActiveClasses.credits, ActiveClasses.forecolor,
+              ActiveClasses.backcolor);
+    TellHomework(results, filter, Today());
+    TellTasks(results, filter, Today());
+    TellEvents(results, filter, Today());
+    TellMonth(results, filter, Today());
+    TellAlerts(results);
+    TellReminders(results);
+    return results;
+}
