@@ -1,6 +1,7 @@
 // The application object: the one place that a run-time error reaches which nothing has handled.
 #include "core/Application.h"
 
+#include "persistence/modIO.h"
 #include "platform/MessageBoxes.h"
 
 #include <cstdlib>
@@ -15,16 +16,16 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& error) {
-        EndOnError(error.what());
+        EndOnError(error);
         return false;
     }
 }
 
-void Application::EndOnError(const char* text) {
+void Application::EndOnError(const std::exception& error) {
     if (ending) {
         return;
     }
     ending = true;
-    ShowFatalError(text);
+    ShowFatalError(FaultText(error));
     std::_Exit(EXIT_FAILURE);
 }

@@ -13,5 +13,5 @@ public:
     bool notify(QObject* receiver, QEvent* event) override;
 
     // The same for an error raised outside of the events.
-    static void EndOnError(const char* text);
+    static void EndOnError(const std::exception& error);
 };

@@ -62,7 +62,7 @@ bool LoadBehind(frmSplash& splash, frmMain& window) {
         return loaded;
     } catch (const std::exception& error) {
         splash.close();
-        Application::EndOnError(error.what());
+        Application::EndOnError(error);
         return false;
     }
 }
@@ -101,6 +101,6 @@ int main(int argc, char** argv) {
     try {
         return Run(CommandLine(argc, argv));
     } catch (const std::exception& error) {
-        Application::EndOnError(error.what());
+        Application::EndOnError(error);
     }
 }

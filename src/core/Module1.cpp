@@ -47,6 +47,7 @@ std::filesystem::path DataFolder;
 std::filesystem::path BackupFolder;
 std::filesystem::path HelpFile;
 FileFlags FileWrittenFlags;
+FileReads LastReads;
 std::array<ChosenFilter, 5> ChosenFilters;
 
 bool AssignmentDBFirstOpen = false;

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // --- The store -----------------------------------------------------------------------------------
 
@@ -72,6 +73,21 @@ struct FileFlags {
 };
 
 extern FileFlags FileWrittenFlags;
+
+// How the last read of a file in this run ended.
+struct FileRead {
+    // It was not begun, stopped at a fault, or came to the end of the file within a record or without the
+    // root's closing tag: records are missing, and nobody knows which.
+    bool cutShort = false;
+    bool toBeKept = false;     // the file has to be copied aside before the first save replaces it
+    std::vector<int> finished; // counts of the kind's lists without a record that did not end; else empty
+};
+
+struct FileReads {
+    FileRead terms, classes, assignments, tasks, events;
+};
+
+extern FileReads LastReads;
 
 // --- The filter menus ----------------------------------------------------------------------------
 

@@ -11,5 +11,10 @@ struct RunTimeError : std::runtime_error {
     explicit RunTimeError(std::string_view text, std::string_view offendingValue = {})
         : std::runtime_error(offendingValue.empty()
                                  ? std::string(text)
-                                 : std::string(text) + ": \"" + std::string(offendingValue) + "\"") {}
+                                 : std::string(text) + ": \"" + std::string(offendingValue) + "\""),
+          place(offendingValue.data()) {}
+
+    // Where the value at fault stood. The text there may be gone by now: this is only good for finding out
+    // whether it is one of those that still stand.
+    const char* place;
 };

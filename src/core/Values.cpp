@@ -7,6 +7,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace {
@@ -80,8 +81,7 @@ bool EqualsFolded(std::string_view text, std::string_view lowerCase) {
 } // namespace
 
 std::string_view LeftTrim(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
 std::string_view RightTrim(std::string_view text) {
@@ -132,7 +132,11 @@ int Int32Of(double number) {
 }
 
 int ToInt16(std::string_view text) {
-    return Int16Of(ToNumber(text));
+    const double rounded = std::nearbyint(ToNumber(text)); // as Int16Of rounds
+    if (rounded < LeastInt16 || rounded > GreatestInt16) {
+        throw RunTimeError("Overflow", text);
+    }
+    return static_cast<int>(rounded);
 }
 
 std::optional<int> IdIn(std::string_view text) {
@@ -187,6 +191,11 @@ int CompareFolded(std::string_view first, std::string_view second) {
         }
     }
     return first.size() < second.size() ? -1 : static_cast<int>(first.size() > second.size());
+}
+
+bool LiesIn(std::string_view text, const char* place) {
+    const std::less_equal<const char*> notBehind; // orders the places of different texts too
+    return notBehind(text.data(), place) && notBehind(place, text.data() + text.size());
 }
 
 int NextId(int& counter) {

@@ -60,6 +60,9 @@ char* CopyFolded(std::string_view text, char* to);
 // Below, at or above 0 as the first text sorts before, with or after the second, letters folded.
 int CompareFolded(std::string_view first, std::string_view second);
 
+// True when the place in memory is one of the text's, or that behind its last character.
+bool LiesIn(std::string_view text, const char* place);
+
 // Gives the id of a new record from its kind's counter and raises the counter by one; raises the run-time
 // error when the counter would pass 32767, so 32766 is the greatest id given out.
 int NextId(int& counter);

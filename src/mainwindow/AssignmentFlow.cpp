@@ -92,10 +92,12 @@ void frmMain::NewAssignment() {
     frmAssignment& dialog = *AssignmentDialog;
     dialog.EditMode = "New";
     GiveTerm(dialog, {});
+    dialog.Fill();
     ShowDialog(dialog, AssignmentDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
+    DropUnfinishedRecord(AssignmentFile());
     AppendRecord(Store.Assignment, EnteredFields(dialog), NextAssignmentID);
     WriteAssignments();
     RefreshFor(ReasonNewRecord);
@@ -105,12 +107,13 @@ void frmMain::EditAssignment(int index) {
     frmAssignment& dialog = *AssignmentDialog;
     dialog.EditMode = "Edit";
     GiveTerm(dialog, Store.Assignment.class_.Item(index));
-    GiveRecord(dialog, FilledFields, Store.Assignment, index);
+    FillFromRecord(dialog, FilledFields, Store.Assignment, index);
     ShowDialog(dialog, AssignmentDBFirstOpen);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
+    DropUnfinishedRecord(AssignmentFile());
     if (dialog.DeleteFlag) {
         RemoveRecord(Store.Assignment, AssignmentFields, index);
     } else {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "core/Values.h"
 #include "mainwindow/FirstOpen.h"
 #include "platform/Modal.h"
 
@@ -23,19 +25,30 @@ struct EnteredField {
     std::string text;
 };
 
-// Gives the dialog the record at the position.
+// Fills the dialog from the record at the position. A value that does not convert is told by its place in the
+// record, not in the dialog's copy.
 template <class Dialog, class Lists, std::size_t Count>
-void GiveRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
-                const Lists& lists, int position) {
+void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
+                    const Lists& lists, int position) {
     for (const FilledField<Dialog, Lists>& filled : fields) {
         dialog.*filled.field = (lists.*filled.list).Item(position);
     }
+    try {
+        dialog.Fill();
+    } catch (RunTimeError& error) {
+        for (const FilledField<Dialog, Lists>& filled : fields) {
+            if (LiesIn(dialog.*filled.field, error.place)) {
+                error.place = (lists.*filled.list).Item(position).data();
+                break;
+            }
+        }
+        throw;
+    }
 }
 
-// Fills the dialog and lets the student work in it until it closes.
+// Lets the student work in the filled dialog until it closes.
 template <class Dialog>
 void ShowDialog(Dialog& dialog, bool& firstOpen) {
-    dialog.Fill();
     PlaceAtFirstOpen(dialog, firstOpen);
     RunModally(dialog);
 }

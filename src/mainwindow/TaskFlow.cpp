@@ -52,10 +52,12 @@ constexpr std::array<FilledField<FrmTask, TaskLists>, TaskFields.size() - 1> Fil
 void frmMain::NewTask() {
     FrmTask& dialog = *TaskDialog;
     dialog.EditMode = "New";
+    dialog.Fill();
     ShowDialog(dialog, TaskDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
+    DropUnfinishedRecord(TaskFile());
     AppendRecord(Store.TaskRecord, EnteredFields(dialog), NextTaskID);
     WriteTasks();
     RefreshFor(ReasonNewRecord);
@@ -64,11 +66,12 @@ void frmMain::NewTask() {
 void frmMain::EditTask(int index) {
     FrmTask& dialog = *TaskDialog;
     dialog.EditMode = "Edit";
-    GiveRecord(dialog, FilledFields, Store.TaskRecord, index);
+    FillFromRecord(dialog, FilledFields, Store.TaskRecord, index);
     ShowDialog(dialog, TaskDBFirstOpen);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
+    DropUnfinishedRecord(TaskFile());
     if (dialog.DeleteFlag) {
         RemoveRecord(Store.TaskRecord, TaskFields, index);
     } else {

@@ -53,6 +53,29 @@ void CopyClass(frmCourseSchedule& dialog, int position) {
     }
 }
 
+// Records of these files are missing, and nobody knows which.
+bool TermsOrClassesCutShort() {
+    return LastReads.terms.cutShort || LastReads.classes.cutShort;
+}
+
+// Ids of classes are unique across terms. While classes are missing, no id is given out that is known to be
+// one of theirs: none that was read with a record that did not end, and none that an assignment has.
+int FirstFreeClassId() {
+    int next = 1;
+    for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
+        next = std::max(next, ToInt16(Store.ClassRecord.id.Item(position)) + 1);
+    }
+    if (!TermsOrClassesCutShort()) {
+        return next;
+    }
+    next = std::max(next, NextClassID);
+    for (int position = 1, records = WholeRecords(Store.Assignment); position <= records; ++position) {
+        const int id = IdIn(Store.Assignment.class_.Item(position)).value_or(0);
+        next = id < GreatestInt16 - 1 ? std::max(next, id + 1) : next;
+    }
+    return next;
+}
+
 // Gives the dialog the term and its classes; an id without a record gives an empty term of today.
 void PrepareTermEditor(frmCourseSchedule& dialog, int id) {
     dialog.tempClassTermLinkArray.Clear();
@@ -70,9 +93,8 @@ void PrepareTermEditor(frmCourseSchedule& dialog, int id) {
             dialog.tempTermEnd = ShortDateText(DateValue(Store.Term.end.Item(position)));
         }
     }
-    dialog.NextClassID = 1; // ids of classes are unique across terms
+    dialog.NextClassID = FirstFreeClassId();
     for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
-        dialog.NextClassID = std::max(dialog.NextClassID, ToInt16(Store.ClassRecord.id.Item(position)) + 1);
         if (HasId(Store.ClassRecord.term.Item(position), id)) {
             CopyClass(dialog, position);
         }
@@ -136,8 +158,13 @@ bool TermHasClass(int termId, const std::string& classId) {
 }
 
 // Adds the records again and takes the assignments out whose class has gone; their file is written only then.
+// While classes are missing that nobody took away, none is taken out.
 void ReplaceTermRecords(const frmCourseSchedule& dialog, int id) {
     AddTermRecords(dialog, id);
+    if (TermsOrClassesCutShort()) {
+        return;
+    }
+    DropUnfinishedRecord(AssignmentFile());
     bool removed = false;
     for (int position = WholeRecords(Store.Assignment); position >= 1; --position) {
         if (!TermHasClass(id, Store.Assignment.class_.Item(position))) {
@@ -177,6 +204,8 @@ void frmMain::ClassSchedule() {
     if (!ShowTermEditor(id)) {
         return;
     }
+    DropUnfinishedRecord(TermFile());
+    DropUnfinishedRecord(ClassFile());
     const std::string name = TextOf(dialog.TextBoxTermName);
     if (dialog.EditMode == "New") {
         AddTermRecords(dialog, id);

@@ -19,10 +19,12 @@ RecordFile TermFile() {
     return {.name = "terms.xml",
             .kind = "terms",
             .written = &FileFlags::terms,
+            .read = &FileReads::terms,
             .root = "term_data",
             .record = "term",
             .fields = FieldsOf(Store.Term, TermFields),
             .counted = &Store.Term.name,
+            .named = &Store.Term.name,
             .nextId = &NextTermID};
 }
 
@@ -30,10 +32,12 @@ RecordFile ClassFile() {
     return {.name = "classes.xml",
             .kind = "classes",
             .written = &FileFlags::classes,
+            .read = &FileReads::classes,
             .root = "class_data",
             .record = "class",
             .fields = FieldsOf(Store.ClassRecord, ClassFields),
             .counted = &Store.ClassRecord.name,
+            .named = &Store.ClassRecord.name,
             .nextId = &NextClassID};
 }
 
@@ -41,10 +45,12 @@ RecordFile AssignmentFile() {
     return {.name = "assignments_" + std::to_string(ActiveTermID) + ".xml",
             .kind = "assignments",
             .written = &FileFlags::assignments,
+            .read = &FileReads::assignments,
             .root = "assignment_data",
             .record = "assignment",
             .fields = FieldsOf(Store.Assignment, AssignmentFields),
             .counted = &Store.Assignment.id,
+            .named = &Store.Assignment.desc,
             .nextId = &NextAssignmentID};
 }
 
@@ -52,10 +58,12 @@ RecordFile TaskFile() {
     return {.name = "tasks.xml",
             .kind = "tasks",
             .written = &FileFlags::tasks,
+            .read = &FileReads::tasks,
             .root = "task_data",
             .record = "task",
             .fields = FieldsOf(Store.TaskRecord, TaskFields),
             .counted = &Store.TaskRecord.id,
+            .named = &Store.TaskRecord.desc,
             .nextId = &NextTaskID};
 }
 
@@ -63,10 +71,12 @@ RecordFile EventFile() {
     return {.name = "events.xml",
             .kind = "events",
             .written = &FileFlags::events,
+            .read = &FileReads::events,
             .root = "event_data",
             .record = "event",
             .fields = FieldsOf(Store.EventRecord, EventFields),
             .counted = &Store.EventRecord.id,
+            .named = &Store.EventRecord.desc,
             .nextId = &NextEventID};
 }
 
@@ -77,6 +87,8 @@ std::array<RecordFile, 5> RecordFiles() {
 void ReadTermsAndClasses() {
     if (ScanRecordFile(TermFile())) {
         ScanRecordFile(ClassFile());
+    } else {
+        LastReads.classes = {.cutShort = true, .toBeKept = true, .finished = {}};
     }
 }
 

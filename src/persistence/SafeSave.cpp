@@ -2,6 +2,7 @@
 #include "persistence/RecordFileText.h"
 
 #include "core/TextFiles.h"
+#include "persistence/DamagedFile.h"
 #include "platform/Process.h"
 
 #include <system_error>
@@ -9,6 +10,9 @@
 
 bool SaveRecordFile(const RecordFile& file) {
     if (ShuttingDown || !EnterDataFolder()) {
+        return false;
+    }
+    if (!KeepDamagedFile(file)) {
         return false;
     }
     const std::string temporary = file.name + ".tmp";

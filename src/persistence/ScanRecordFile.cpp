@@ -97,7 +97,14 @@ void ReadField(const RecordFile& file, std::string_view firstLine, std::string_v
     }
 }
 
-void ReadRecords(const RecordFile& file, std::string_view rest) {
+void NoteCounts(const RecordFile& file, std::vector<int>& counts) {
+    for (const RecordField& field : file.fields) {
+        counts.push_back(field.list->Count());
+    }
+}
+
+// Notes the counts of the lists while a record is open. Gives whether the file came to its end.
+bool ReadRecords(const RecordFile& file, std::string_view rest, std::vector<int>& finished) {
     NextLine(rest); // the header is not looked at
     const std::string_view root = Trim(NextLine(rest));
     if (!root.empty() && root != OpeningTag(file.root)) {
@@ -108,29 +115,39 @@ void ReadRecords(const RecordFile& file, std::string_view rest) {
     const std::string recordEnd = ClosingTag(file.record);
     std::string text; // of the field, kept from field to field for its memory
     bool betweenRecords = true;
+    bool rootClosed = false;
     while (const std::optional<std::string_view> line = TakeLine(rest)) {
         const std::string_view trimmed = Trim(*line);
-        if (trimmed.empty() || trimmed == rootEnd) {
-            continue; // the root's end ends nothing: lines behind it are read on
+        if (trimmed.empty()) {
+            continue;
         }
-        if (trimmed == (betweenRecords ? recordStart : recordEnd)) {
+        if (trimmed == rootEnd) {
+            rootClosed = true; // it ends nothing: lines behind it are read on
+        } else if (trimmed == (betweenRecords ? recordStart : recordEnd)) {
             betweenRecords = !betweenRecords;
+            finished.clear();
+            if (!betweenRecords) {
+                NoteCounts(file, finished);
+            }
         } else {
             ReadField(file, LeftTrim(*line), rest, text);
         }
     }
+    return rootClosed && betweenRecords;
 }
 
 } // namespace
 
 bool ScanRecordFile(const RecordFile& file) {
     *file.nextId = 1;
+    FileRead& read = LastReads.*file.read;
+    read = {.cutShort = true, .toBeKept = true, .finished = {}};
     if (ShuttingDown || !EnterDataFolder()) {
         return false;
     }
     try {
         CreateWhereMissing(file);
-        ReadRecords(file, FileBytes(file.name));
+        read.cutShort = read.toBeKept = !ReadRecords(file, FileBytes(file.name), read.finished);
         return true;
     } catch (const RunTimeError&) {
         ShowFileError(file.name, "reading");

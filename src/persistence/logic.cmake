@@ -1,5 +1,7 @@
 target_sources(planovarium_logic PRIVATE
   persistence/Backups.cpp
+  persistence/DamagedFile.cpp
+  persistence/FaultText.cpp
   persistence/FileMessages.cpp
   persistence/Folders.cpp
   persistence/RecordFileText.cpp

@@ -7,6 +7,7 @@
 #include "core/Module1.h"
 
 #include <array>
+#include <exception>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,10 @@ void ShowFileError(std::string_view fileName, std::string_view action);
 // Tells that the data folder could not be entered.
 void ShowDirectoryError();
 
+// What the box says of an error that nothing has handled. A value of the store is told with its file, its
+// record, by place and name, and its field.
+std::string FaultText(const std::exception& error);
+
 // --- Record files ------------------------------------------------------------------------------------------
 
 // A field of a record file: its tag, the store's list that holds its values, and how they are read and
@@ -45,10 +50,12 @@ struct RecordFile {
     std::string name;                // the bare file name
     std::string_view kind;           // what the name begins with
     bool FileFlags::*written;        // the file's flag
+    FileRead FileReads::*read;       // how its last read ended
     std::string root;                // the tag around all records
     std::string record;              // the tag around each
     std::vector<RecordField> fields; // in the order in which they are written
     const TextList* counted;         // the list whose count is the number of records written
+    const TextList* named;           // the list of the texts by which a student knows the records
     int* nextId;                     // the kind's id counter
 };
 
@@ -63,13 +70,17 @@ std::array<RecordFile, 5> RecordFiles();
 
 // Reads the file's records behind those that its lists hold, and sets the id counter from this file alone. A
 // missing file is created without records. False after the reading or the directory message; what was read
-// stays.
+// stays. Tells in LastReads how it ended.
 bool ScanRecordFile(const RecordFile& file);
 
 // Saves the file from its lists so that it is whole at every moment, under its own name or with ".tmp" behind
-// it, and sets its written flag. False after the writing or the directory message; the old file is then
-// untouched.
+// it, and sets its written flag. A file whose read was cut short is copied into the backup folder before.
+// False after the writing or the directory message; the old file is then untouched.
 bool SaveRecordFile(const RecordFile& file);
+
+// Takes the entries of a record that the last read began and did not finish out of the kind's lists, once,
+// so that the next record does not merge with it. Each flow does so before it changes records of the kind.
+void DropUnfinishedRecord(const RecordFile& file);
 
 // Both read and write the terms first; a failure there leaves the classes unread or unwritten.
 void ReadTermsAndClasses();

@@ -1,7 +1,10 @@
 // The flows of an assignment: what each way of closing the editor leaves in the store and on the drive.
 #include "core/DateText.h"
 #include "editors/EditorTest.h"
+
+#include "core/RunTimeError.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "persistence/modIO.h"
 
 namespace {
 
@@ -378,4 +381,42 @@ TEST_F(AssignmentFlow, DeleteAsksAndTakesTheRecordOutOfEveryList) {
     EXPECT_EQ(Assignments.desc.Item(1), "Second");
     EXPECT_EQ(ReadData(FileName).find("First"), std::string::npos);
     EXPECT_NE(ReadData(FileName).find("Second"), std::string::npos);
+}
+
+TEST_F(AssignmentFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
+    AddAssignmentRecord({.desc = "Read", .reminderdate = "some other day"});
+    std::string text;
+    try {
+        window->EditAssignment(1);
+    } catch (const RunTimeError& error) {
+        text = FaultText(error);
+    }
+    EXPECT_EQ(text, "Not a date: \"some other day\"\n\nFile: assignments_1.xml\nRecord: 1, \"Read\"\nField: "
+                    "reminderdate\n"
+                    "Value: \"some other day\"\n\nCopies of the last good files, where there are any, lie in "
+                    "the Backup folder.");
+}
+
+TEST_F(AssignmentFlow, AssignmentBehindOneThatWasCutDoesNotMergeWithIt) {
+    AddAssignmentRecord({.class_ = "4", .desc = "one"});
+    AddAssignmentRecord({.class_ = "4", .desc = "two"});
+    WriteAssignments();
+    const std::string cut =
+        ReadData("assignments_1.xml").substr(0, ReadData("assignments_1.xml").rfind("</desc>"));
+    WriteData("assignments_1.xml", cut);
+    Store.Assignment = {};
+    ReadAssignments();
+    NewAssignment([] {
+        Choose(AssignmentDialog->ComboClassNameList, 1);
+        Type(AssignmentDialog->TextBoxDescription, "three");
+        Ok();
+    });
+    EditAssignment(1, [] {
+        Type(AssignmentDialog->TextBoxDescription, "changed");
+        Ok();
+    });
+    EXPECT_EQ(Store.Assignment.desc.values, (std::vector<std::string>{"changed", "three"}));
+    EXPECT_EQ(Store.Assignment.id.values, (std::vector<std::string>{"1", "3"}));
+    EXPECT_NE(ReadData("assignments_1.xml").find("three"), std::string::npos);
+    EXPECT_EQ(ReadData("Backup/assignments_1_damaged.xml"), cut);
 }

@@ -1,6 +1,9 @@
 // The flows of a task: what each way of closing the editor leaves in the store and on the drive.
 #include "editors/EditorTest.h"
 
+#include "core/RunTimeError.h"
+#include "persistence/modIO.h"
+
 namespace {
 
 class TaskFlow : public EditorTest {
@@ -245,4 +248,40 @@ TEST_F(TaskFlow, ShutdownWhileTheDialogIsOpenWritesNothing) {
     EXPECT_EQ(Tasks.id.Count(), 0);
     EXPECT_EQ(ReadData("tasks.xml"), before);
     EXPECT_TRUE(Script.boxes.empty());
+}
+
+TEST_F(TaskFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
+    AddTaskRecord({.desc = "Read", .reminder_date = "some other day"});
+    std::string text;
+    try {
+        window->EditTask(1);
+    } catch (const RunTimeError& error) {
+        text = FaultText(error);
+    }
+    EXPECT_EQ(text,
+              "Not a date: \"some other day\"\n\nFile: tasks.xml\nRecord: 1, \"Read\"\nField: reminder_date\n"
+              "Value: \"some other day\"\n\nCopies of the last good files, where there are any, lie in "
+              "the Backup folder.");
+}
+
+TEST_F(TaskFlow, TaskBehindOneThatWasCutDoesNotMergeWithIt) {
+    AddTaskRecord({.desc = "one"});
+    AddTaskRecord({.desc = "two"});
+    WriteTasks();
+    const std::string cut = ReadData("tasks.xml").substr(0, ReadData("tasks.xml").rfind("</desc>"));
+    WriteData("tasks.xml", cut);
+    Tasks = {};
+    ReadTasks();
+    NewTask([] {
+        Type(TaskDialog->TextBoxDescription, "three");
+        Ok();
+    });
+    EditTask(1, [] {
+        Type(TaskDialog->TextBoxDescription, "changed");
+        Ok();
+    });
+    EXPECT_EQ(Tasks.desc.values, (std::vector<std::string>{"changed", "three"}));
+    EXPECT_EQ(Tasks.id.values, (std::vector<std::string>{"1", "3"}));
+    EXPECT_NE(ReadData("tasks.xml").find("three"), std::string::npos);
+    EXPECT_EQ(ReadData("Backup/tasks_damaged.xml"), cut);
 }

@@ -3,6 +3,7 @@ target_sources(window_tests PRIVATE
   editors/AssignmentFlowTest.cpp
   editors/AssignmentOpeningTest.cpp
   editors/ClassPanelTest.cpp
+  editors/CutFilesWindowTest.cpp
   editors/DatePickerStepsTest.cpp
   editors/DatePickerTest.cpp
   editors/DialogKeysTest.cpp

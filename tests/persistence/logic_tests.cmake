@@ -1,8 +1,11 @@
 target_sources(logic_tests PRIVATE
   persistence/BackupsTest.cpp
   persistence/CountedListsTest.cpp
+  persistence/CutFilesTest.cpp
   persistence/DamagedFilesTest.cpp
+  persistence/DamagedRecordsTest.cpp
   persistence/DeviceOrderTest.cpp
+  persistence/FaultTextTest.cpp
   persistence/FoldersTest.cpp
   persistence/RecordPropertiesTest.cpp
   persistence/SaveUnderFaultTest.cpp

@@ -60,6 +60,7 @@ int AddTaskRecord(const TaskTexts& record) {
 
 void ResetStore() {
     Store = {};
+    LastReads = {};
     SetDefaultTypeTable();
     NextTermID = NextClassID = NextAssignmentID = NextTaskID = NextEventID = 1;
     ChooseActiveTerm("");

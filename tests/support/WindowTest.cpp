@@ -26,6 +26,7 @@ void ResetStore() {
     ActiveTermID = 0;
     TypeTable = {};
     FileWrittenFlags = {};
+    LastReads = {};
     for (int* counter : {&NextTermID, &NextClassID, &NextAssignmentID, &NextTaskID, &NextEventID}) {
         *counter = 1;
     }
