@@ -6,7 +6,7 @@ HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
 LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 locales"
 StylePackages="clang-format git python3"
 TestPackages="$HeadlessPackages $LogicPackages $StylePackages clang clang-tidy libclang-rt-14-dev trayer faketime
-  x11-utils"
+  x11-utils qt6-base-private-dev"
 BarePackages="debootstrap git"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 

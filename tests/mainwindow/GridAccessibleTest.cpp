@@ -3,7 +3,46 @@
 
 #include <QAccessible>
 
+// Whether a screen reader listens is told to the toolkit from below, by headers that it calls private.
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
 namespace {
+
+struct Telling {
+    QAccessible::Event type;
+    const QObject* object;
+    int child; // only of an event that has an object
+};
+
+std::vector<Telling> Tellings; // since a listener was made
+
+void Remember(QAccessibleEvent* event) {
+    Tellings.push_back({event->type(), event->object(), event->object() != nullptr ? event->child() : -1});
+}
+
+void SetListening(bool listens) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listens);
+}
+
+// Listens as a screen reader does, for as long as it lives.
+struct Listener {
+    Listener() : before(QAccessible::installUpdateHandler(&Remember)) {
+        SetListening(true);
+        Tellings.clear();
+    }
+
+    ~Listener() {
+        SetListening(false);
+        QAccessible::installUpdateHandler(before);
+    }
+
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+    QAccessible::UpdateHandler before;
+};
 
 class GridAccessible : public GridTest {
 protected:
@@ -17,6 +56,24 @@ protected:
             texts.append(Table()->cellAt(row, column)->text(QAccessible::Name));
         }
         return texts;
+    }
+
+    bool ChangeIsTold() const {
+        return std::ranges::any_of(Tellings, [this](const Telling& telling) {
+            return telling.type == QAccessible::TableModelChanged && telling.object == window->picGrid;
+        });
+    }
+
+    // Whether the cell on which the keys stand was told of since the last question.
+    bool MoveIsTold() {
+        const QList<QAccessibleInterface*> cells = Table()->selectedCells();
+        const int child = cells.isEmpty() ? -1 : Grid()->indexOfChild(cells.first());
+        const bool told = std::ranges::any_of(Tellings, [&](const Telling& telling) {
+            return telling.type == QAccessible::Focus && telling.object == window->picGrid &&
+                   telling.child == child;
+        });
+        Tellings.clear();
+        return child >= 0 && told;
     }
 
     QStringList Columns() const {
@@ -176,4 +233,53 @@ TEST_F(GridAccessible, AChangeOfTheViewIsTold) {
     EXPECT_EQ(Table()->rowCount(), 0);
     EXPECT_EQ(Table()->columnCount(), 7);
     QAccessible::setActive(false);
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfAChangedView) {
+    const Listener listener;
+    window->ShowTaskMode();
+    EXPECT_TRUE(ChangeIsTold());
+    Tellings.clear();
+    AddTaskRecord({});
+    Refresh();
+    EXPECT_TRUE(ChangeIsTold());
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfARowThatTheKeysReach) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    const Listener listener;
+    Press(Qt::Key_Down);
+    EXPECT_TRUE(MoveIsTold());
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfARowThatIsClicked) {
+    AddAssignments(3);
+    window->ShowHomeworkMode();
+    const Listener listener;
+    ClickRow(2);
+    EXPECT_TRUE(MoveIsTold());
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfADayThatTheKeysReach) {
+    window->ShowCalendarMode();
+    const Listener listener;
+    Press(Qt::Key_Right);
+    EXPECT_TRUE(MoveIsTold());
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfAnEventThatTheKeysReach) {
+    AddEventRecord({.time = "05:00 AM"});
+    window->ShowEventMode();
+    const Listener listener;
+    Press(Qt::Key_Down);
+    EXPECT_TRUE(MoveIsTold());
+}
+
+TEST_F(GridAccessible, AScreenReaderIsToldOfAnEventThatIsClicked) {
+    AddEventRecord({.time = "05:00 AM", .duration = "1 Hour"});
+    window->ShowEventMode();
+    const Listener listener;
+    Click({300, SlotHeight / 2});
+    EXPECT_TRUE(MoveIsTold());
 }
