@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/DialogLook.h"
+#include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
 #include "planner/AssignmentEntry.h"
 #include "planner/Colors.h"
@@ -32,6 +33,7 @@ FrmTask::FrmTask(QWidget* parent) : QDialog(parent) {
 void FrmTask::SetupControls() {
     LimitToSet(TextBoxDescription);
     LimitToSet(TextBoxNotes);
+    KeepLinesOfField(TextBoxNotes, "notes");
     SetupTypedCombo(ComboPriority);
     AddRows(ComboPriority, PriorityRows);
     SetupTypedCombo(ComboPercentComplete);

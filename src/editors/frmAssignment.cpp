@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/DialogLook.h"
+#include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
 #include "planner/AssignmentEntry.h"
 #include "planner/Colors.h"
@@ -43,6 +44,7 @@ void frmAssignment::SetupControls() {
         LimitToSet(box);
     }
     LimitToSet(TextBoxNotes);
+    KeepLinesOfField(TextBoxNotes, "notes");
     for (QComboBox* combo : {ComboTypeList, ComboPercentComplete, ComboEstTime}) {
         SetupTypedCombo(combo);
     }

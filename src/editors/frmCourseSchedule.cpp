@@ -3,6 +3,7 @@
 
 #include "core/DateText.h"
 #include "editors/DialogLook.h"
+#include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
 #include "planner/TermEntry.h"
 #include "platform/MessageBoxes.h"
@@ -31,6 +32,7 @@ void frmCourseSchedule::SetupControls() {
     SetupDateBoxes({{TextboxTermStart, picButtonStart}, {TextboxTermEnd, picButtonEnd}});
     SetupNames(ComboBoxClassList);
     KeepLines(this);
+    KeepLinesOfField(TextBoxNotes, "notes");
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxTermStart, picButtonStart, tempTermStart);

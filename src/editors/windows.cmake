@@ -7,6 +7,8 @@ target_sources(planovarium_windows PRIVATE
   editors/DialogLook.h
   editors/EditorParts.cpp
   editors/EditorParts.h
+  editors/FieldLines.cpp
+  editors/FieldLines.h
   editors/FrmTask.cpp
   editors/FrmTask.h
   editors/FrmTask.ui

@@ -11,6 +11,7 @@ target_sources(window_tests PRIVATE
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
   editors/FlowRefreshTest.cpp
+  editors/NotesTest.cpp
   editors/RandomWalkTest.cpp
   editors/TaskEditorTest.cpp
   editors/TaskFlowTest.cpp
