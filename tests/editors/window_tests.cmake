@@ -6,6 +6,7 @@ target_sources(window_tests PRIVATE
   editors/CutFilesWindowTest.cpp
   editors/DatePickerStepsTest.cpp
   editors/DatePickerTest.cpp
+  editors/DeletedRecordTest.cpp
   editors/DialogKeysTest.cpp
   editors/DialogLookTest.cpp
   editors/EditorPartsTest.cpp
