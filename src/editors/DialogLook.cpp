@@ -2,6 +2,7 @@
 #include "editors/DialogLook.h"
 
 #include "platform/Formats.h"
+#include "platform/ProgramStyle.h"
 #include "platform/Text.h"
 
 #include <QAbstractItemView>
@@ -96,7 +97,7 @@ private:
 void SetupNames(QComboBox* combo) {
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(NameCharacters);
-    combo->view()->setTextElideMode(Qt::ElideRight);
+    KeepListNarrow(combo);
     new NameTips(combo);
 }
 

@@ -5,6 +5,7 @@
 #include "platform/WindowColors.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr const char* ReadOnlyLook = "readOnlyLook";
+constexpr const char* NarrowList = "narrowList";
 constexpr qreal RingWidth = 2;
 constexpr qreal CornerRadius = 2.5;
 
@@ -74,7 +76,9 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override {
         const bool icons = hint == SH_DialogButtonBox_ButtonsHaveIcons;
-        return icons ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
+        const bool narrowList =
+            hint == SH_ComboBox_Popup && widget != nullptr && widget->property(NarrowList).toBool();
+        return icons || narrowList ? 0 : QProxyStyle::styleHint(hint, option, widget, returned);
     }
 
     QIcon standardIcon(StandardPixmap standard, const QStyleOption* option,
@@ -158,4 +162,8 @@ QPalette ProgramPalette() {
 void ShowAsReadOnly(QLineEdit* box) {
     box->setProperty(ReadOnlyLook, true);
     SetColor(box, QPalette::Base, PanelColor);
+}
+
+void KeepListNarrow(QComboBox* combo) {
+    combo->setProperty(NarrowList, true);
 }

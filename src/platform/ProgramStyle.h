@@ -5,6 +5,7 @@
 
 #include <QPalette>
 
+class QComboBox;
 class QLineEdit;
 class QStyle;
 
@@ -16,3 +17,6 @@ QPalette ProgramPalette();
 
 // Lets the box look like one that shows what has been worked out and is never typed into.
 void ShowAsReadOnly(QLineEdit* box);
+
+// Lets the list of the combo be as wide as the combo, whatever its rows are. To be called before it is used.
+void KeepListNarrow(QComboBox* combo);

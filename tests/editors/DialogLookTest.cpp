@@ -6,6 +6,7 @@
 #include "platform/ElidedLabel.h"
 #include "platform/WindowColors.h"
 
+#include <QAbstractItemView>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QToolTip>
@@ -86,6 +87,15 @@ TEST_F(DialogLook, LongNameEndsInDotsAndIsTheTip) {
     list->setCurrentIndex(1);
     QCoreApplication::sendEvent(list, &ask);
     EXPECT_TRUE(WaitUntil([] { return !QToolTip::isVisible(); })) << "it is seen whole";
+}
+
+TEST_F(DialogLook, ListOfLongNamesIsAsWideAsItsCombo) {
+    ClassName = LongName;
+    OpenTerm();
+    QComboBox* const list = TermDialog->ComboBoxClassList;
+    list->showPopup();
+    EXPECT_LE(list->view()->window()->width(), list->width());
+    list->hidePopup();
 }
 
 TEST_F(DialogLook, DialogsFitASmallScreenAndAFullOneAtTwoHundredPercent) {
