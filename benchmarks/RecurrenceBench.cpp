@@ -1,10 +1,10 @@
 // The events of a month's 42 days out of 10,000 series, by the planner and by two calendar libraries on the
 // same rules. The libraries find their rules parsed; the planner starts from the texts of the store, as at
 // each refresh.
-#include "planner/DateHelpers.h"
-#include "planner/EventMarks.h"
-#include "planner/EventOccursOn.h"
-#include "planner/EventWalk.h"
+#include "planner/dates/DateHelpers.h"
+#include "planner/lists/EventMarks.h"
+#include "planner/recurrence/EventOccursOn.h"
+#include "planner/recurrence/EventWalk.h"
 #include "support/RfcSeries.h"
 #include "support/StoreRecords.h"
 

@@ -1,6 +1,6 @@
 // The scan for reminders and the table of grades, at the greatest number of records that a planner can hold.
 #include "core/DateText.h"
-#include "planner/Grades.h"
+#include "planner/grades/Grades.h"
 #include "support/Reminders.h"
 #include "support/ScriptedPlatform.h"
 

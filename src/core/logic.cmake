@@ -1,5 +1,6 @@
 target_sources(planovarium_logic PRIVATE
   core/DateText.cpp
+  core/Decimal.cpp
   core/Module1.cpp
   core/Preferences.cpp
   core/RowLists.cpp

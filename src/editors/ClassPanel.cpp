@@ -3,9 +3,9 @@
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/frmCourseSchedule.h"
-#include "planner/Colors.h"
-#include "planner/Grades.h"
-#include "planner/TermEntry.h"
+#include "planner/entries/TermEntry.h"
+#include "planner/grades/Grades.h"
+#include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
 
 #include <QSignalBlocker>

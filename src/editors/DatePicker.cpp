@@ -2,11 +2,11 @@
 #include "editors/DatePicker.h"
 
 #include "core/DateText.h"
-#include "planner/Colors.h"
-#include "planner/DateHelpers.h"
-#include "planner/DateTitles.h"
-#include "platform/Pressable.h"
-#include "platform/Text.h"
+#include "planner/dates/DateHelpers.h"
+#include "planner/dates/DateTitles.h"
+#include "planner/rows/Colors.h"
+#include "toolkit/Pressable.h"
+#include "toolkit/Text.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>

@@ -6,8 +6,8 @@
 // field it is.
 #pragma once
 
-#include "planner/MonthGrid.h"
-#include "platform/DayLabels.h"
+#include "planner/dates/MonthGrid.h"
+#include "toolkit/DayLabels.h"
 
 #include <QFrame>
 #include <QTimer>

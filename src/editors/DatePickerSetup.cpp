@@ -1,6 +1,6 @@
 // How the panel of the date picker is put together.
 #include "editors/DatePicker.h"
-#include "platform/WindowColors.h"
+#include "toolkit/WindowColors.h"
 
 #include <QGridLayout>
 

@@ -2,8 +2,8 @@
 #include "editors/DialogLook.h"
 
 #include "platform/Formats.h"
-#include "platform/ProgramStyle.h"
-#include "platform/Text.h"
+#include "toolkit/ProgramStyle.h"
+#include "toolkit/Text.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -2,9 +2,9 @@
 #include "editors/EditorParts.h"
 
 #include "platform/Formats.h"
-#include "platform/HelpTopics.h"
 #include "platform/MessageBoxes.h"
-#include "platform/PictureBox.h"
+#include "toolkit/HelpTopics.h"
+#include "toolkit/PictureBox.h"
 
 #include <QApplication>
 #include <QKeyEvent>

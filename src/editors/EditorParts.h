@@ -4,7 +4,7 @@
 
 #include "platform/Clock.h"
 #include "platform/MessageBoxes.h"
-#include "platform/Text.h"
+#include "toolkit/Text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

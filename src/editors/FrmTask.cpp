@@ -7,11 +7,11 @@
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
-#include "planner/AssignmentEntry.h"
-#include "planner/Colors.h"
-#include "planner/ComboRows.h"
-#include "planner/ReminderEntry.h"
-#include "planner/TypeEntry.h"
+#include "planner/entries/AssignmentEntry.h"
+#include "planner/entries/ComboRows.h"
+#include "planner/entries/ReminderEntry.h"
+#include "planner/entries/TypeEntry.h"
+#include "planner/rows/Colors.h"
 
 namespace {
 

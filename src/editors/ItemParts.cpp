@@ -3,13 +3,13 @@
 #include "editors/EditorParts.h"
 
 #include "core/DateText.h"
-#include "planner/AssignmentEntry.h"
-#include "planner/Colors.h"
-#include "planner/ComboRows.h"
-#include "planner/ReminderEntry.h"
+#include "planner/entries/AssignmentEntry.h"
+#include "planner/entries/ComboRows.h"
+#include "planner/entries/ReminderEntry.h"
+#include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
-#include "platform/PictureBox.h"
-#include "platform/WindowColors.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/WindowColors.h"
 
 #include <QCloseEvent>
 

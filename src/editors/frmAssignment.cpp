@@ -7,13 +7,13 @@
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
-#include "planner/AssignmentEntry.h"
-#include "planner/Colors.h"
-#include "planner/ComboRows.h"
-#include "planner/Grades.h"
-#include "planner/ReminderEntry.h"
+#include "planner/entries/AssignmentEntry.h"
+#include "planner/entries/ComboRows.h"
+#include "planner/entries/ReminderEntry.h"
+#include "planner/grades/Grades.h"
+#include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
-#include "platform/ProgramStyle.h"
+#include "toolkit/ProgramStyle.h"
 
 namespace {
 

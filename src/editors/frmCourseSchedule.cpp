@@ -5,7 +5,7 @@
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
 #include "mainwindow/frmMain.h"
-#include "planner/TermEntry.h"
+#include "planner/entries/TermEntry.h"
 #include "platform/MessageBoxes.h"
 
 namespace {

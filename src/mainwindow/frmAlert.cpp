@@ -1,8 +1,8 @@
 // frmAlert: a small window with one text and an OK button, which the alert buttons show.
 #include "mainwindow/frmAlert.h"
 
-#include "platform/PictureBox.h"
-#include "platform/WindowColors.h"
+#include "toolkit/PictureBox.h"
+#include "toolkit/WindowColors.h"
 
 #include <QCloseEvent>
 

@@ -2,16 +2,16 @@
 // subject in files of their own; other windows read the fields directly.
 #pragma once
 
-#include "mainwindow/LargeCalendarLayout.h"
-#include "mainwindow/Mode.h"
-#include "mainwindow/MonthCells.h"
-#include "mainwindow/PopupCaptions.h"
-#include "mainwindow/StudyTimerClock.h"
-#include "planner/ListFilter.h"
-#include "platform/ClickLabel.h"
+#include "mainwindow/menus/PopupCaptions.h"
+#include "mainwindow/month/MonthCells.h"
+#include "mainwindow/state/LargeCalendarLayout.h"
+#include "mainwindow/state/Mode.h"
+#include "mainwindow/state/StudyTimerClock.h"
+#include "planner/rows/ListFilter.h"
 #include "platform/Clock.h"
-#include "platform/DayLabels.h"
-#include "platform/PictureBox.h"
+#include "toolkit/ClickLabel.h"
+#include "toolkit/DayLabels.h"
+#include "toolkit/PictureBox.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -1,14 +1,14 @@
 target_sources(planovarium_logic PRIVATE
-  mainwindow/DayLayout.cpp
-  mainwindow/GridLayout.cpp
-  mainwindow/GridMoves.cpp
-  mainwindow/LargeCalendarLayout.cpp
-  mainwindow/ModeTables.cpp
-  mainwindow/MonthCells.cpp
-  mainwindow/MonthMarks.cpp
-  mainwindow/PopupCaptions.cpp
-  mainwindow/StartupShortcut.cpp
-  mainwindow/StudyTimerClock.cpp
-  mainwindow/TermStatus.cpp
-  mainwindow/ViewMenuColor.cpp
+  mainwindow/day/DayLayout.cpp
+  mainwindow/grid/GridLayout.cpp
+  mainwindow/grid/GridMoves.cpp
+  mainwindow/menus/PopupCaptions.cpp
+  mainwindow/menus/StartupShortcut.cpp
+  mainwindow/modes/ModeTables.cpp
+  mainwindow/month/MonthCells.cpp
+  mainwindow/month/MonthMarks.cpp
+  mainwindow/month/ViewMenuColor.cpp
+  mainwindow/panels/TermStatus.cpp
+  mainwindow/state/LargeCalendarLayout.cpp
+  mainwindow/state/StudyTimerClock.cpp
 )

@@ -4,6 +4,7 @@ target_sources(planovarium_logic PRIVATE
   persistence/FaultText.cpp
   persistence/FileMessages.cpp
   persistence/Folders.cpp
+  persistence/ProcessMarker.cpp
   persistence/RecordFileText.cpp
   persistence/RecordFiles.cpp
   persistence/SafeSave.cpp

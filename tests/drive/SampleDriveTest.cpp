@@ -1,8 +1,8 @@
 // The sample drive as a whole: its counts and forms, its terms, its assignments and tasks, its colours.
 #include "drive/SampleDrive.h"
 
-#include "planner/ClassLink.h"
-#include "planner/StudyTimeAlert.h"
+#include "planner/rows/ClassLink.h"
+#include "planner/study/StudyTimeAlert.h"
 
 #include <algorithm>
 #include <cmath>

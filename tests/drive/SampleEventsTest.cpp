@@ -2,9 +2,9 @@
 // meetings.
 #include "drive/SampleDrive.h"
 
-#include "planner/ClassLink.h"
-#include "planner/EventOccursOn.h"
-#include "planner/SeriesRule.h"
+#include "planner/recurrence/EventOccursOn.h"
+#include "planner/recurrence/SeriesRule.h"
+#include "planner/rows/ClassLink.h"
 
 #include <optional>
 #include <set>

@@ -3,8 +3,8 @@
 #include "core/DateText.h"
 #include "editors/DialogsFixture.h"
 #include "mainwindow/frmAlert.h"
-#include "platform/ElidedLabel.h"
-#include "platform/WindowColors.h"
+#include "toolkit/ElidedLabel.h"
+#include "toolkit/WindowColors.h"
 
 #include <QAbstractItemView>
 #include <QStyleOptionComboBox>

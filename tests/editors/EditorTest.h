@@ -6,9 +6,9 @@
 #include "editors/EditorParts.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
-#include "platform/PictureBox.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
+#include "toolkit/PictureBox.h"
 
 #include <initializer_list>
 #include <utility>

@@ -1,6 +1,6 @@
 // The editor of tasks: what it shows as it opens and what follows each entry.
 #include "editors/EditorTest.h"
-#include "planner/ComboRows.h"
+#include "planner/entries/ComboRows.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include "core/DateText.h"
 #include "core/RunTimeError.h"
-#include "planner/DateHelpers.h"
+#include "planner/dates/DateHelpers.h"
 #include "support/ScriptedPlatform.h"
 
 #include <cstdint>

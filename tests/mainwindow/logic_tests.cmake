@@ -1,14 +1,14 @@
 target_sources(logic_tests PRIVATE
-  mainwindow/DayLayoutTest.cpp
-  mainwindow/GridLayoutTest.cpp
-  mainwindow/GridMovesTest.cpp
-  mainwindow/LargeCalendarLayoutTest.cpp
-  mainwindow/ModeTablesTest.cpp
-  mainwindow/MonthCellsTest.cpp
-  mainwindow/MonthMarksTest.cpp
-  mainwindow/PopupCaptionsTest.cpp
-  mainwindow/StartupShortcutTest.cpp
-  mainwindow/StudyTimerClockTest.cpp
-  mainwindow/TermStatusTest.cpp
-  mainwindow/ViewMenuColorTest.cpp
+  mainwindow/day/DayLayoutTest.cpp
+  mainwindow/grid/GridLayoutTest.cpp
+  mainwindow/grid/GridMovesTest.cpp
+  mainwindow/menus/PopupCaptionsTest.cpp
+  mainwindow/menus/StartupShortcutTest.cpp
+  mainwindow/modes/ModeTablesTest.cpp
+  mainwindow/month/MonthCellsTest.cpp
+  mainwindow/month/MonthMarksTest.cpp
+  mainwindow/month/ViewMenuColorTest.cpp
+  mainwindow/panels/TermStatusTest.cpp
+  mainwindow/state/LargeCalendarLayoutTest.cpp
+  mainwindow/state/StudyTimerClockTest.cpp
 )

@@ -2,15 +2,15 @@
 #include "persistence/DataFolderTest.h"
 
 #include "core/DateText.h"
+#include "core/Decimal.h"
 #include "core/RunTimeError.h"
 #include "core/Values.h"
-#include "planner/DateHelpers.h"
-#include "planner/Decimal.h"
-#include "planner/DurationEntry.h"
-#include "planner/EventOccursOn.h"
-#include "planner/Grades.h"
-#include "planner/StudyTimeToday.h"
-#include "planner/TaskSelection.h"
+#include "planner/dates/DateHelpers.h"
+#include "planner/entries/DurationEntry.h"
+#include "planner/grades/Grades.h"
+#include "planner/lists/TaskSelection.h"
+#include "planner/recurrence/EventOccursOn.h"
+#include "planner/study/StudyTimeToday.h"
 #include "support/EventRecords.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The files of tasks and events byte for byte: what is written, and that it reads back the same.
 #include "persistence/DataFolderTest.h"
-#include "planner/SeriesEdits.h"
+#include "planner/recurrence/SeriesEdits.h"
 #include "support/EventRecords.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // The main window as the student sees it: each mode at three sizes, at the scale of this process, compared
 // with the stored pictures; and that the comparison would see a column that has moved.
 #include "core/RowLists.h"
-#include "mainwindow/GridLayout.h"
+#include "mainwindow/grid/GridLayout.h"
 #include "pictures/PictureOptions.h"
 #include "pictures/PicturePlanner.h"
 #include "pictures/Pictures.h"

@@ -1,7 +1,7 @@
 // The entry of the tests of the pictures: offscreen, with fixed fonts, at one scale for the whole process.
 //   picture_tests [--scale=N] [--store]
-#include "mainwindow/WindowStyle.h"
 #include "pictures/PictureOptions.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QApplication>
 

@@ -2,8 +2,8 @@
 // are broken into lines however long a name in them is.
 #include "platform/MessageBoxes.h"
 
-#include "platform/ProgramStyle.h"
 #include "support/ChildProcess.h"
+#include "toolkit/ProgramStyle.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,5 +1,5 @@
 // The store's bytes as text of the screen, and back.
-#include "platform/Text.h"
+#include "toolkit/Text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // What a label or a picture looks like, as the student would see it.
 #pragma once
 
-#include "platform/PictureBox.h"
+#include "toolkit/PictureBox.h"
 
 #include <QLabel>
 

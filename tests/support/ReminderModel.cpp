@@ -3,9 +3,9 @@
 
 #include "core/DateText.h"
 #include "core/Module1.h"
-#include "planner/DurationEntry.h"
-#include "planner/EventOccursOn.h"
-#include "planner/ReminderActions.h"
+#include "planner/entries/DurationEntry.h"
+#include "planner/recurrence/EventOccursOn.h"
+#include "planner/reminders/ReminderActions.h"
 
 #include <algorithm>
 #include <stdexcept>

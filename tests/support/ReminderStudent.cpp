@@ -2,13 +2,13 @@
 #include "support/ReminderStudent.h"
 
 #include "core/DateText.h"
-#include "planner/DateHelpers.h"
-#include "planner/DurationEntry.h"
-#include "planner/EventOccursOn.h"
-#include "planner/RecurrenceEntry.h"
-#include "planner/ReminderItems.h"
-#include "planner/SeriesEdits.h"
-#include "planner/SeriesRule.h"
+#include "planner/dates/DateHelpers.h"
+#include "planner/entries/DurationEntry.h"
+#include "planner/entries/RecurrenceEntry.h"
+#include "planner/recurrence/EventOccursOn.h"
+#include "planner/recurrence/SeriesEdits.h"
+#include "planner/recurrence/SeriesRule.h"
+#include "planner/reminders/ReminderItems.h"
 #include "support/ScriptedPlatform.h"
 
 #include <algorithm>

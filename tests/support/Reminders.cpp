@@ -2,7 +2,7 @@
 #include "support/Reminders.h"
 
 #include "core/DateText.h"
-#include "planner/ReminderEntry.h"
+#include "planner/entries/ReminderEntry.h"
 
 TaskTexts ArmedTask(TaskTexts task, const std::string& date, const std::string& time) {
     task.reminder = "True";

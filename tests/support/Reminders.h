@@ -1,8 +1,8 @@
 // Reminders for the tests: records armed as their editors arm them, and a reminder window without a window.
 #pragma once
 
-#include "planner/ReminderActions.h"
-#include "planner/ReminderEngine.h"
+#include "planner/reminders/ReminderActions.h"
+#include "planner/reminders/ReminderEngine.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 

@@ -2,7 +2,7 @@
 #include "support/RfcSeries.h"
 
 #include "core/DateText.h"
-#include "planner/DateHelpers.h"
+#include "planner/dates/DateHelpers.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 // The entry of the window tests: the offscreen platform, and no look or language of the user's.
-#include "mainwindow/WindowStyle.h"
-#include "platform/InputRules.h"
+#include "toolkit/InputRules.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QApplication>
 

@@ -1,0 +1,124 @@
+// The flows of an assignment: asked for, entered, written.
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/Values.h"
+#include "editors/frmAssignment.h"
+#include "mainwindow/flows/RecordFlow.h"
+#include "mainwindow/frmMain.h"
+#include "persistence/modIO.h"
+#include "platform/MessageBoxes.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr std::string_view NoTermQuestion = "There is no Term selected. Do you want to start a new Term?";
+constexpr std::string_view NoClassesQuestion =
+    "This Term has no classes. Do you want to edit the Class Schedule?";
+
+// What the closed dialog has for each field of the record but its id.
+std::array<EnteredField<AssignmentLists>, AssignmentFields.size() - 1>
+EnteredFields(const frmAssignment& dialog) {
+    return {{
+        {&AssignmentLists::class_,
+         dialog.tempAssignmentClassLinkArray.Item(dialog.ComboClassNameList->currentIndex() + 1)},
+        {&AssignmentLists::date, StoredDate(DateValue(dialog.tempAssignmentDate))},
+        {&AssignmentLists::type, TextOf(dialog.ComboTypeList)},
+        {&AssignmentLists::priority, BooleanText(dialog.CheckBoxPriority->isChecked())},
+        {&AssignmentLists::est_time, TextOf(dialog.ComboEstTime)},
+        {&AssignmentLists::time_left, TextOf(dialog.TextBoxTimeLeft)},
+        {&AssignmentLists::desc, TextOf(dialog.TextBoxDescription)},
+        {&AssignmentLists::done, BooleanText(dialog.CheckBoxDone->isChecked())},
+        {&AssignmentLists::percent_complete, TextOf(dialog.ComboPercentComplete)},
+        {&AssignmentLists::score, TextOf(dialog.TextBoxScore)},
+        {&AssignmentLists::total, TextOf(dialog.TextBoxTotal)},
+        {&AssignmentLists::grade, TextOf(dialog.TextBoxPercentage)},
+        {&AssignmentLists::reminder, BooleanText(dialog.CheckboxReminder->isChecked())},
+        {&AssignmentLists::reminderdate, StoredDate(DateValue(dialog.tempAssignmentReminderDate))},
+        {&AssignmentLists::remindertime, TextOf(dialog.ComboReminderTime)},
+        {&AssignmentLists::reminderalarm, dialog.tempAssignmentReminderAlarm},
+        {&AssignmentLists::reminderlist, dialog.tempAssignmentReminderList},
+        {&AssignmentLists::notes, TextOf(dialog.TextBoxNotes)},
+    }};
+}
+
+// The dialog's fields that an assignment's record gives.
+constexpr std::array<FilledField<frmAssignment, AssignmentLists>, AssignmentFields.size() - 2> FilledFields{{
+    {&frmAssignment::tempAssignmentDate, &AssignmentLists::date},
+    {&frmAssignment::tempAssignmentType, &AssignmentLists::type},
+    {&frmAssignment::tempAssignmentPriority, &AssignmentLists::priority},
+    {&frmAssignment::tempAssignmentEstTime, &AssignmentLists::est_time},
+    {&frmAssignment::tempAssignmentTimeLeft, &AssignmentLists::time_left},
+    {&frmAssignment::tempAssignmentPercentComplete, &AssignmentLists::percent_complete},
+    {&frmAssignment::tempAssignmentDescription, &AssignmentLists::desc},
+    {&frmAssignment::tempAssignmentDone, &AssignmentLists::done},
+    {&frmAssignment::tempAssignmentScore, &AssignmentLists::score},
+    {&frmAssignment::tempAssignmentTotal, &AssignmentLists::total},
+    {&frmAssignment::tempAssignmentGrade, &AssignmentLists::grade},
+    {&frmAssignment::tempAssignmentReminder, &AssignmentLists::reminder},
+    {&frmAssignment::tempAssignmentReminderDate, &AssignmentLists::reminderdate},
+    {&frmAssignment::tempAssignmentReminderTime, &AssignmentLists::remindertime},
+    {&frmAssignment::tempAssignmentReminderAlarm, &AssignmentLists::reminderalarm},
+    {&frmAssignment::tempAssignmentReminderList, &AssignmentLists::reminderlist},
+    {&frmAssignment::tempAssignmentNotes, &AssignmentLists::notes},
+}};
+
+// The term's classes and limits. The class of a record is named only when it is one of these classes.
+void GiveTerm(frmAssignment& dialog, std::string_view classId) {
+    dialog.tempClassNameArray = ActiveClasses.name;
+    dialog.tempAssignmentClassLinkArray = ActiveClasses.id;
+    dialog.tempAssignmentClassName.clear();
+    for (int position = 1; position <= ActiveClasses.id.Count(); ++position) {
+        if (ActiveClasses.id.Item(position) == classId) {
+            dialog.tempAssignmentClassName = ActiveClasses.name.Item(position);
+        }
+    }
+    dialog.tempTermStartDate = ActiveTermStart;
+    dialog.tempTermEndDate = ActiveTermEnd;
+}
+
+} // namespace
+
+void frmMain::NewAssignment() {
+    const bool noTerm = ActiveTermName.empty();
+    if (noTerm || ActiveClasses.id.Count() == 0) {
+        const Answer answer =
+            MsgBox(noTerm ? NoTermQuestion : NoClassesQuestion, Buttons::YesNo, Icon::Information);
+        if (answer == Answer::Yes && !ShuttingDown) {
+            ClassSchedule(); // and nothing more, even if there are classes now
+        }
+        return;
+    }
+    frmAssignment& dialog = *AssignmentDialog;
+    dialog.EditMode = "New";
+    GiveTerm(dialog, {});
+    dialog.Fill();
+    ShowDialog(dialog, AssignmentDBFirstOpen);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    DropUnfinishedRecord(AssignmentFile());
+    AppendRecord(Store.Assignment, EnteredFields(dialog), NextAssignmentID);
+    WriteAssignments();
+    RefreshFor(ReasonNewRecord);
+}
+
+void frmMain::EditAssignment(int index) {
+    frmAssignment& dialog = *AssignmentDialog;
+    dialog.EditMode = "Edit";
+    GiveTerm(dialog, Store.Assignment.class_.Item(index));
+    FillFromRecord(dialog, FilledFields, Store.Assignment, index);
+    ShowDialog(dialog, AssignmentDBFirstOpen);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (dialog.CancelledFlag || ShuttingDown) {
+        return;
+    }
+    DropUnfinishedRecord(AssignmentFile());
+    if (dialog.DeleteFlag) {
+        RemoveRecord(Store.Assignment, AssignmentFields, index);
+    } else {
+        ReplaceRecord(Store.Assignment, EnteredFields(dialog), index);
+    }
+    WriteAssignments();
+    RefreshFor(ReasonNewRecord);
+}

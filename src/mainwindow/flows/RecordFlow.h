@@ -1,0 +1,71 @@
+// What the flows of all kinds of record share: a dialog filled from a record, shown, and its entries written
+// into the lists of the kind.
+#pragma once
+
+#include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "core/Values.h"
+#include "mainwindow/flows/FirstOpen.h"
+#include "toolkit/Modal.h"
+
+#include <array>
+#include <string>
+
+// A field of a dialog and the list of the record's field that fills it.
+template <class Dialog, class Lists>
+struct FilledField {
+    std::string Dialog::*field;
+    TextList Lists::*list;
+};
+
+// What a closed dialog has for a field of the record.
+template <class Lists>
+struct EnteredField {
+    TextList Lists::*list;
+    std::string text;
+};
+
+// Fills the dialog from the record at the position. A value that does not convert is told by its place in the
+// record, not in the dialog's copy.
+template <class Dialog, class Lists, std::size_t Count>
+void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
+                    const Lists& lists, int position) {
+    for (const FilledField<Dialog, Lists>& filled : fields) {
+        dialog.*filled.field = (lists.*filled.list).Item(position);
+    }
+    try {
+        dialog.Fill();
+    } catch (RunTimeError& error) {
+        for (const FilledField<Dialog, Lists>& filled : fields) {
+            if (LiesIn(dialog.*filled.field, error.place)) {
+                error.place = (lists.*filled.list).Item(position).data();
+                break;
+            }
+        }
+        throw;
+    }
+}
+
+// Lets the student work in the filled dialog until it closes.
+template <class Dialog>
+void ShowDialog(Dialog& dialog, bool& firstOpen) {
+    PlaceAtFirstOpen(dialog, firstOpen);
+    RunModally(dialog);
+}
+
+// Adds a record with the next id.
+template <class Lists, std::size_t Count>
+void AppendRecord(Lists& lists, const std::array<EnteredField<Lists>, Count>& fields, int& nextId) {
+    lists.id.Add(std::to_string(NextId(nextId)));
+    for (const EnteredField<Lists>& field : fields) {
+        (lists.*field.list).Add(field.text);
+    }
+}
+
+// Overwrites the record at the position, which keeps its id.
+template <class Lists, std::size_t Count>
+void ReplaceRecord(Lists& lists, const std::array<EnteredField<Lists>, Count>& fields, int position) {
+    for (const EnteredField<Lists>& field : fields) {
+        (lists.*field.list).Replace(position, field.text);
+    }
+}

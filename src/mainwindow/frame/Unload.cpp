@@ -1,0 +1,51 @@
+// The ordered shutdown, asked for by the tray menu, a termination signal or the end of the desktop session.
+// Record files are not written here: each change was saved when it was made.
+#include "core/Module1.h"
+#include "core/RunTimeError.h"
+#include "mainwindow/frmMain.h"
+#include "persistence/ProcessMarker.h"
+#include "persistence/modIO.h"
+#include "platform/Tray.h"
+
+#include <QApplication>
+
+namespace {
+
+// An error leaves the rest of the steps undone, and the process goes on ending.
+void RunShutdownSteps(const frmMain& window) {
+    for (QTimer* timer : {window.Timer1, window.TimerButton, window.TimerStatusBar}) {
+        timer->stop();
+    }
+    try {
+        DeleteProcessMarker();
+        if (window.PreferencesWereRead) {
+            window.WritePreferences();
+        }
+        RotateBackups();
+        RemoveTrayIcon();
+    } catch (const RunTimeError&) {
+        return;
+    }
+}
+
+// The dialogs and boxes, and the main window last.
+void HideAllWindows(frmMain& window) {
+    for (QWidget* other : QApplication::topLevelWidgets()) {
+        if (other != &window) {
+            other->hide();
+        }
+    }
+    window.hide();
+}
+
+} // namespace
+
+void frmMain::Unload() {
+    if (ShuttingDown) {
+        return;
+    }
+    ShuttingDown = true;
+    RunShutdownSteps(*this);
+    HideAllWindows(*this);
+    QApplication::exit();
+}

@@ -1,0 +1,252 @@
+// The grid as the table that a screen reader is told of.
+#include "mainwindow/grid/GridTable.h"
+
+#include "core/DateText.h"
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "core/Values.h"
+#include "mainwindow/day/DayLayout.h"
+#include "mainwindow/frmMain.h"
+#include "mainwindow/list/ListRows.h"
+#include "toolkit/Text.h"
+
+namespace {
+
+struct SpokenMark {
+    std::string_view mark;
+    const char* spoken;
+};
+
+// What is said in place of a mark.
+constexpr std::array<SpokenMark, 3> SpokenMarks{{
+    {"#", "Number"},
+    {ReminderMark, "Reminder"},
+    {PriorityMark, "Priority"},
+}};
+
+// The columns of the day's schedule.
+enum DayColumn { TimeColumn, LengthColumn, EventColumn, DayColumnCount };
+
+constexpr std::array<const char*, DayColumnCount> DayTitles{"Time", "Length", "Event"};
+
+QRect InPixels(const UnitRect& rect) {
+    return {rect.left / UnitsPerPixel, rect.top / UnitsPerPixel, rect.width / UnitsPerPixel,
+            rect.height / UnitsPerPixel};
+}
+
+std::size_t CellIndex(int row, int column) {
+    const int cell = row * DaysPerWeek + column;
+    return static_cast<std::size_t>(cell);
+}
+
+// --- The lists ---
+
+// The word for the title of a column; nothing where that is no mark.
+std::optional<QString> SpokenMarkOf(ListKind kind, int column) {
+    const std::string_view title = Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title);
+    const auto* const mark = std::ranges::find(SpokenMarks, title, &SpokenMark::mark);
+    return mark == SpokenMarks.end() ? std::nullopt : std::optional<QString>(QLatin1String(mark->spoken));
+}
+
+QString ListTitle(ListKind kind, int column) {
+    return SpokenMarkOf(kind, column)
+        .value_or(FromStore(Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title)));
+}
+
+const GridCell& ListCell(const GridRow& row, int column) {
+    return row.cells[static_cast<std::size_t>(column - 1)];
+}
+
+QString ListText(ListKind kind, int row, int column) {
+    if (column == 0) {
+        return QString::number(row + 1);
+    }
+    const GridRow shown = RowOfList(kind, row + 1);
+    const GridCell& cell = ListCell(shown, column);
+    switch (cell.kind) {
+    case CellKind::Checked:
+        return QStringLiteral("Done");
+    case CellKind::Unchecked:
+        return QStringLiteral("Not done");
+    case CellKind::Text:
+        break;
+    }
+    const QString text = cell.text.trimmed();
+    return text.isEmpty() ? text
+                          : SpokenMarkOf(kind, column).value_or(text); // what is marked, in place of the mark
+}
+
+QRect ListPlace(const frmMain& window, ListKind kind, int row, int column) {
+    const ColumnPlace place =
+        PlaceColumns(ColumnsOf(kind), window.picGrid->WidthInUnits())[static_cast<std::size_t>(column)];
+    if (row == TitleRow) {
+        return InPixels({place.left, 0, place.width, TitleUnits});
+    }
+    if (row + 1 < window.FirstRow) {
+        return {};
+    }
+    return InPixels(CellRect(place, row + 2 - window.FirstRow));
+}
+
+// --- The month ---
+
+QString CountText(const char* what, int done, int left) {
+    return done + left == 0
+               ? QString()
+               : QStringLiteral(", %1 %2").arg(QLatin1String(what), FromStore(DoneOfAll(done, left)));
+}
+
+QString DayText(const CalendarMonth& month, std::size_t cell) {
+    const int events = month.EventCountByDay[cell];
+    return FromScreen(FormatDate(month.CellDate[cell], "dddd, MMMM d")) +
+           CountText("homework", month.HomeworkDoneCount[cell], month.HomeworkLeftCount[cell]) +
+           CountText("tasks", month.TaskDoneCountByDay[cell], month.TaskLeftCountByDay[cell]) +
+           (events == 0 ? QString() : QStringLiteral(", events %1").arg(events));
+}
+
+// --- The day ---
+
+QString EventText(int eventRow, int column) {
+    const EventLists& store = Store.EventRecord;
+    const int index = EventRows.Item(eventRow);
+    switch (column) {
+    case TimeColumn:
+        return TimeCell(store.time.Item(index)).text;
+    case LengthColumn:
+        return FromStore(store.duration.Item(index));
+    default:
+        return FromStore(EventBoxText(eventRow)).trimmed();
+    }
+}
+
+// --- What can be pressed without being on the screen ---
+
+void PressRow(frmMain& window, int row) {
+    window.CurrentRow = row;
+    window.ShowRow(row);
+    window.OpenRow(row);
+}
+
+void PressEvent(frmMain& window, int row) {
+    window.CurrentHalfHour = HalfHourOfEvent(row, 0);
+    window.CurrentEvent = row;
+    window.ShowRow(window.CurrentHalfHour + 1);
+    window.OpenEventBox(row, window.CurrentHalfHour);
+}
+
+} // namespace
+
+std::optional<ListKind> ListOf(Mode mode) {
+    switch (mode) {
+    case Mode::Homework:
+        return ListKind::Homework;
+    case Mode::StudySessions:
+        return ListKind::StudySessions;
+    case Mode::Tasks:
+        return ListKind::Tasks;
+    case Mode::Reminders:
+        return ListKind::Reminders;
+    default:
+        return std::nullopt;
+    }
+}
+
+GridTable TableOf(const frmMain& window) {
+    const Mode mode = window.CurrentMode();
+    if (const auto kind = ListOf(mode)) {
+        return {window.RowCount, static_cast<int>(ColumnsOf(*kind).size())};
+    }
+    switch (mode) {
+    case Mode::Calendar:
+        return {MonthCells / DaysPerWeek, DaysPerWeek};
+    case Mode::Events:
+        return {EventRows.Count(), DayColumnCount};
+    default:
+        return {};
+    }
+}
+
+QString TableTitle(const frmMain& window, int column) {
+    const Mode mode = window.CurrentMode();
+    if (const auto kind = ListOf(mode)) {
+        return ListTitle(*kind, column);
+    }
+    const auto index = static_cast<std::size_t>(column);
+    return mode == Mode::Calendar ? FromStore(WeekdayHeads(window.StartDayOfWeek)[index])
+                                  : QLatin1String(DayTitles[index]);
+}
+
+QString TableText(const frmMain& window, int row, int column) {
+    const Mode mode = window.CurrentMode();
+    if (const auto kind = ListOf(mode)) {
+        return ListText(*kind, row, column);
+    }
+    return mode == Mode::Calendar ? DayText(window.Month, CellIndex(row, column))
+                                  : EventText(row + 1, column);
+}
+
+TableCheck TableCheckOf(const frmMain& window, int row, int column) {
+    const auto kind = ListOf(window.CurrentMode());
+    if (!kind || row < 0 || column == 0) {
+        return {};
+    }
+    const CellKind shown = ListCell(RowOfList(*kind, row + 1), column).kind;
+    return {shown != CellKind::Text, shown == CellKind::Checked};
+}
+
+QRect TablePlace(const frmMain& window, int row, int column) {
+    const Mode mode = window.CurrentMode();
+    QRect place;
+    if (const auto kind = ListOf(mode)) {
+        place = ListPlace(window, *kind, row, column);
+    } else if (mode == Mode::Calendar) {
+        place = InPixels(row < 0 ? window.CalendarGrid.head[static_cast<std::size_t>(column)]
+                                 : window.CalendarGrid.cell[CellIndex(row, column)].area);
+    } else if (row >= 0) {
+        place = InPixels(EventBoxOf(row + 1, window.FirstRow));
+    }
+    return place.intersected(window.picGrid->rect());
+}
+
+TableCell CurrentTableCell(const frmMain& window) {
+    switch (window.CurrentMode()) {
+    case Mode::Calendar: {
+        const auto cell = static_cast<int>(SelectedCellOf(window.Month));
+        return cell < MonthCells ? TableCell{cell / DaysPerWeek, cell % DaysPerWeek} : TableCell{};
+    }
+    case Mode::Events:
+        return {window.CurrentEvent - 1, EventColumn};
+    default:
+        return {window.CurrentRow - 1, 0};
+    }
+}
+
+TableCell TableCellAt(const frmMain& window, QPoint point) {
+    const GridTable size = TableOf(window);
+    const bool scrolls = ListOf(window.CurrentMode()).has_value();
+    const int first = scrolls ? window.FirstRow - 1 : 0;
+    const int end = scrolls ? std::min(size.rows, window.FirstRow + window.RowsVisible) : size.rows;
+    for (int column = 0; column < size.columns; ++column) {
+        if (TablePlace(window, TitleRow, column).contains(point)) {
+            return {TitleRow, column};
+        }
+        for (int row = first; row < end; ++row) {
+            if (TablePlace(window, row, column).contains(point)) {
+                return {row, column};
+            }
+        }
+    }
+    return {TitleRow, -1};
+}
+
+void PressTableCell(frmMain& window, int row, int column) {
+    const Mode mode = window.CurrentMode();
+    if (ListOf(mode)) {
+        return row < 0 ? window.ColumnClicked(column) : PressRow(window, row + 1);
+    }
+    if (mode == Mode::Calendar && row >= 0) {
+        window.GoToDate(window.Month.CellDate[CellIndex(row, column)]);
+    } else if (mode == Mode::Events && row >= 0) {
+        PressEvent(window, row + 1);
+    }
+}

@@ -1,0 +1,32 @@
+// The list of events. Events mode shows the schedule of a day instead; the list is part of the design all the
+// same.
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "mainwindow/frmMain.h"
+#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/list/ListRows.h"
+#include "planner/lists/EventSelection.h"
+#include "planner/lists/RowSorts.h"
+#include "planner/rows/RowLook.h"
+#include "toolkit/Text.h"
+
+GridRow EventGridRow(int row) {
+    const EventLists& store = Store.EventRecord;
+    const int index = EventRows.Item(row);
+    return {EventRowForeColor.Item(row),
+            EventRowBackColor.Item(row),
+            {NameCell(store.desc.Item(index), NewEventText(store.type.Item(index))),
+             TextCell(EventRowType.Item(row)), DateCell(EventRowDate.Item(row)),
+             TimeCell(store.time.Item(index)), TextCell(ShownChoice(store.recurrence.Item(index)))}};
+}
+
+void frmMain::LayoutEventList() {
+    LayoutList(*this, ListKind::Events);
+}
+
+void frmMain::FillEventList() {
+    ShowTopTitlesOfDay(*this, "Events for ");
+    SelectEventRows(CurrentFilter());
+    SortEventRows(CurrentSort());
+    ShowList(*this, ListKind::Events);
+}

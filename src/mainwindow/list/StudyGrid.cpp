@@ -1,0 +1,35 @@
+// The Study Sessions list.
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "mainwindow/frmMain.h"
+#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/list/ListRows.h"
+#include "mainwindow/panels/ShowBox.h"
+#include "planner/lists/HomeworkSelection.h"
+#include "planner/lists/RowSorts.h"
+#include "planner/rows/RowLook.h"
+
+GridRow StudyGridRow(int row) {
+    const AssignmentLists& store = Store.Assignment;
+    const StudySessionLists& log = Store.StudySessionRecord;
+    const int index = HomeworkRows.Item(row);
+    return {RowForeColor.Item(row),
+            RowBackColor.Item(row),
+            {NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(index)),
+             NameCell(store.desc.Item(index), NewAssignmentText), PriorityCell(store.priority.Item(index)),
+             ClockCell(log.time.Item(StudyRowTime.Item(row))),
+             DateCell(log.date.Item(StudyRowDate.Item(row))), DateCell(store.date.Item(index))}};
+}
+
+void frmMain::LayoutStudyGrid() {
+    LayoutList(*this, ListKind::StudySessions);
+}
+
+void frmMain::FillStudyList() {
+    ShowTopTitlesOfTerm(*this, "Study on ", "Study for ");
+    const StudySessionBoxes boxes = SelectStudyRows(CurrentFilter());
+    SortStudyRows(CurrentSort());
+    ShowBox(TextBoxStudySessions, boxes.TextBoxStudySessions);
+    ShowBox(TextboxStudyTime, boxes.TextboxStudyTime);
+    ShowList(*this, ListKind::StudySessions);
+}

@@ -1,0 +1,54 @@
+// The Tasks list.
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "core/Values.h"
+#include "mainwindow/frmMain.h"
+#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/list/ListRows.h"
+#include "mainwindow/panels/ShowBox.h"
+#include "planner/lists/RowSorts.h"
+#include "planner/lists/TaskSelection.h"
+#include "planner/rows/RowLook.h"
+
+namespace {
+
+void ShowTaskTitles(frmMain& window) {
+    const std::string range = window.CurrentFilter().comboDateRange;
+    if (range == "Day") {
+        ShowTopTitlesOfDay(window, "Tasks for ");
+    } else if (range == "All") {
+        ShowTopTitles(window, QStringLiteral("All Tasks"));
+    } else if (range == "With Date") {
+        ShowTopTitles(window, QStringLiteral("All Tasks with Dates"));
+    } else {
+        ShowTopTitles(window, QStringLiteral("All Tasks without Dates"));
+    }
+}
+
+} // namespace
+
+GridRow TaskGridRow(int row) {
+    const TaskLists& store = Store.TaskRecord;
+    const int index = TaskRows.Item(row);
+    const bool dated = IsTrue(store.date_exists.Item(index));
+    return {TaskRowForeColor.Item(row),
+            TaskRowBackColor.Item(row),
+            {ReminderCell(store.reminder.Item(index)), NameCell(store.desc.Item(index), NewTaskText),
+             NameCell(ShownChoice(TaskRowType.Item(row))), TextCell(ShownChoice(store.priority.Item(index))),
+             dated ? DateCell(store.date.Item(index)) : GridCell{}, CheckCell(store.done.Item(index))}};
+}
+
+void frmMain::LayoutTaskGrid() {
+    LayoutList(*this, ListKind::Tasks);
+}
+
+void frmMain::FillTaskList() {
+    ShowTaskTitles(*this);
+    SelectTasks(ClickedDate, CurrentFilter());
+    SortTaskRows(CurrentSort());
+    const TaskBoxes boxes = CountTasks(ClickedDate);
+    ShowBox(TextBoxTotalTasks, boxes.TextBoxTotalTasks);
+    ShowBox(TextBoxFinishedTasks, boxes.TextBoxFinishedTasks);
+    ShowBox(TextBoxUndatedTasks, boxes.TextBoxUndatedTasks);
+    ShowList(*this, ListKind::Tasks);
+}

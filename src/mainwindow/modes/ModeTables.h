@@ -1,0 +1,137 @@
+// What each mode says, shows, enables and offers, and the steps of a refresh: tables of one row a mode.
+#pragma once
+
+#include "mainwindow/state/Mode.h"
+
+#include <array>
+#include <string_view>
+
+// What a mode entry does to a control.
+enum class Turn { Kept, Off, On };
+
+struct ModeRow {
+    Mode mode;
+    std::string_view caption;             // the status bar's left text
+    int gridTopic, rangeTopic, listTopic; // help topics of the list and of the two filter menus; 0 is kept
+    int firstSort;                        // column of the first sort; 0 keeps the sort as it is
+    bool leavesCalendar;                  // Calendar stays checked, and the mode bar's words as they are
+};
+
+// Study Sessions and Reminders leave Calendar alone: entered from it both are checked, and the window counts
+// as in Calendar mode, as is meant.
+inline constexpr std::array<ModeRow, ModeCount> ModeRows{{
+    {Mode::Homework, "Homework Mode", 153, 112, 114, 8, false},
+    {Mode::Calendar, "Calendar Mode", 154, 0, 0, 0, false},
+    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, 6, true},
+    {Mode::Tasks, "Task Mode", 156, 113, 115, 5, false},
+    {Mode::Events, "Event Mode", 155, 0, 0, 3, false},
+    {Mode::Reminders, "Today's Reminders", 0, 0, 0, 5, true},
+}};
+
+struct PanelRow {
+    Mode mode;
+    Turn term, viewMenus, studySessions, reminders, studyTime;
+};
+
+inline constexpr std::array<PanelRow, ModeCount> PanelRows{{
+    {Mode::Homework, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Calendar, Turn::On, Turn::Off, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::StudySessions, Turn::On, Turn::Kept, Turn::On, Turn::Off, Turn::Off},
+    {Mode::Tasks, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Events, Turn::Off, Turn::Off, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Reminders, Turn::Off, Turn::Kept, Turn::Off, Turn::On, Turn::On},
+}};
+
+struct NewButtonRow {
+    Mode mode;
+    Turn assignmentSmall, eventSmall, taskSmall, assignment, event, task;
+};
+
+inline constexpr std::array<NewButtonRow, ModeCount> NewButtonRows{{
+    {Mode::Homework, Turn::On, Turn::Off, Turn::Off, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Calendar, Turn::On, Turn::On, Turn::On, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::StudySessions, Turn::Kept, Turn::Kept, Turn::Kept, Turn::On, Turn::Off, Turn::Off},
+    {Mode::Tasks, Turn::Off, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Events, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off, Turn::Off},
+    {Mode::Reminders, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Off, Turn::Off, Turn::Off},
+}};
+
+// Which items of the Edit menu are enabled.
+struct EditMenuRow {
+    Mode mode;
+    bool classSchedule, newAssignment, newTask, newEvent;
+};
+
+inline constexpr std::array<EditMenuRow, ModeCount> EditMenuRows{{
+    {Mode::Homework, true, true, false, false},
+    {Mode::Calendar, true, true, true, true},
+    {Mode::StudySessions, false, false, false, false},
+    {Mode::Tasks, false, false, true, false},
+    {Mode::Events, false, false, false, true},
+    {Mode::Reminders, false, false, false, false},
+}};
+
+// The items of the export menu, and the captions of its two hidden ones, where an empty one is kept.
+struct ExportRow {
+    Mode mode;
+    Turn calendarAS, calendarEV, calendarTA, listAS, listTA;
+    std::string_view calendarCaption, listCaption;
+};
+
+inline constexpr std::array<ExportRow, ModeCount> ExportRows{{
+    {Mode::Homework, Turn::On, Turn::Off, Turn::Off, Turn::On, Turn::Off, "", ""},
+    {Mode::Calendar, Turn::On, Turn::On, Turn::On, Turn::Off, Turn::Off, "", ""},
+    {Mode::StudySessions, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, "Homework Calendar...",
+     "This Study List..."},
+    {Mode::Tasks, Turn::Off, Turn::Off, Turn::On, Turn::Off, Turn::On, "", ""},
+    {Mode::Events, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off, "Event Calendar...",
+     "This Event List..."},
+    {Mode::Reminders, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, "Homework Calendar...",
+     "This Reminder List..."},
+}};
+
+// The words before the three counters; without one the counter is hidden.
+struct CounterRow {
+    Mode mode;
+    std::array<std::string_view, 3> labels;
+};
+
+inline constexpr std::array<CounterRow, ModeCount> CounterRows{{
+    {Mode::Homework, {"Total Assignments:", "Assignments Left:", "Study Time Left:"}},
+    {Mode::Calendar, {"", "", ""}},
+    {Mode::StudySessions, {"Study Sessions:", "", "Study Time:"}},
+    {Mode::Tasks, {"Total Tasks:", "Tasks Left:", "Undated Tasks Left:"}},
+    {Mode::Events, {"Classes:", "Other Events:", "Study Time:"}},
+    {Mode::Reminders, {"Assignments:", "Tasks:", "Events:"}},
+}};
+
+// The items of the two filter menus, with empty ones behind the last, and those chosen at the start. The rows
+// stand in the order in which the filters are saved and restored; Calendar has none.
+struct FilterRow {
+    Mode mode;
+    std::array<std::string_view, 4> list, range;
+    std::string_view startList, startRange;
+};
+
+inline constexpr std::array<FilterRow, 5> FilterRows{{
+    {Mode::Homework, {"All", "Done", "Not Done"}, {"Day", "Term"}, "All", "Term"},
+    {Mode::StudySessions, {"All"}, {"Day", "Term"}, "All", "Term"},
+    {Mode::Tasks, {"All", "Done", "Not Done"}, {"Day", "All", "With Date", "Without Date"}, "All", "All"},
+    {Mode::Events, {"All", "Classes", "Other Events"}, {"Day", "Week", "Month", "Year"}, "All", "Month"},
+    {Mode::Reminders, {"All", "Homework", "Tasks", "Events"}, {"Today"}, "All", "Today"},
+}};
+
+// The row of the mode in a table of all modes; not for Mode::None.
+template <class Row>
+constexpr const Row& RowOf(const std::array<Row, ModeCount>& rows, Mode mode) {
+    return rows[static_cast<std::size_t>(mode)];
+}
+
+// The steps of a refresh, in their order, as letters:
+//   C  the clicked day is the selected one         L  the layout of the mode
+//   D  the clicked day is today                    F  its fill
+//   M  the month's marks are to be made anew       A  the study time alerts
+//   b  the month is built                          T  the study time of the clicked day
+//   B  C, M and b                                  S  the day's schedule opens at the morning
+// Empty for a reason that asks for nothing, and while no mode is checked.
+std::string_view RefreshSteps(std::string_view reason, Mode mode);

@@ -1,0 +1,245 @@
+// The mode entries: what each mode checks, shows and hides.
+#include "mainwindow/frmMain.h"
+#include "mainwindow/modes/ModeBarEntry.h"
+#include "mainwindow/modes/ModeTables.h"
+#include "toolkit/HelpTopics.h"
+#include "toolkit/Pressable.h"
+#include "toolkit/Text.h"
+#include "toolkit/WindowColors.h"
+#include "toolkit/WindowStyle.h"
+
+namespace {
+
+struct BarPictures {
+    Mode mode;
+    const char* up;
+    const char* down;
+};
+
+constexpr std::array<BarPictures, ModeCount> BarPictureNames{{
+    {Mode::Homework, "picStashHomeworkUp.svg", "picStashHomeworkDown.svg"},
+    {Mode::Calendar, "picStashCalendarUp.svg", "picStashCalendarDown.svg"},
+    {Mode::StudySessions, "picStashSessionsUp.svg", "picStashSessionsDown.svg"},
+    {Mode::Tasks, "picStashTasksUp.svg", "picStashTasksDown.svg"},
+    {Mode::Events, "picStashEventsUp.svg", "picStashEventsDown.svg"},
+    {Mode::Reminders, "picStashRemindersUp.svg", "picStashRemindersDown.svg"},
+}};
+
+void SetTopics(const frmMain& window, const ModeRow& row) {
+    const std::array<std::pair<QWidget*, int>, 3> topics{{
+        {window.picGrid, row.gridTopic},
+        {window.ComboDateRange, row.rangeTopic},
+        {window.ComboList, row.listTopic},
+    }};
+    for (const auto& [control, topic] : topics) {
+        if (topic != 0) {
+            SetHelpTopic(control, topic);
+        }
+    }
+}
+
+// Checks the item of the mode, shows its picture pressed and its word bright, and the rest otherwise.
+void CheckMode(const frmMain& window, const ModeRow& row) {
+    const auto controls = window.AllModeControls();
+    for (const BarPictures& pictures : BarPictureNames) {
+        if (row.leavesCalendar && pictures.mode == Mode::Calendar) {
+            continue;
+        }
+        const ModeControls& mode = RowOf(controls, pictures.mode);
+        const bool active = pictures.mode == row.mode;
+        mode.item->setChecked(active);
+        mode.picture->ShowPicture(QLatin1String(active ? pictures.down : pictures.up));
+        RowOf(window.BarEntries, pictures.mode)->ShowActive(active);
+        if (mode.word != nullptr && !row.leavesCalendar) {
+            SetLabelForeColor(mode.word, active ? ActiveWordColor : WordColor);
+        }
+        if (mode.word != nullptr) {
+            DescribeChosen(mode.word, active);
+        }
+    }
+}
+
+void EnableEditItems(const frmMain& window, const EditMenuRow& row) {
+    window.MenuClassSchedule->setEnabled(row.classSchedule);
+    window.MenuNewAssignment->setEnabled(row.newAssignment);
+    window.MenuNewTask->setEnabled(row.newTask);
+    window.MenuNewEvent->setEnabled(row.newEvent);
+}
+
+void TurnExportItems(const frmMain& window, const ExportRow& row) {
+    const std::array<std::pair<QAction*, Turn>, 5> items{{
+        {window.MenuExportCalendarAS, row.calendarAS},
+        {window.MenuExportCalendarEV, row.calendarEV},
+        {window.MenuExportCalendarTA, row.calendarTA},
+        {window.MenuExportListAS, row.listAS},
+        {window.MenuExportListTA, row.listTA},
+    }};
+    for (const auto& [item, turn] : items) {
+        if (turn != Turn::Kept) {
+            item->setEnabled(turn == Turn::On);
+            item->setVisible(turn == Turn::On);
+        }
+    }
+    if (!row.calendarCaption.empty()) {
+        window.MenuExportCalendar->setText(FromStore(row.calendarCaption));
+        window.MenuExportList->setText(FromStore(row.listCaption));
+    }
+}
+
+void TurnControl(QWidget* control, Turn turn) {
+    if (turn != Turn::Kept) {
+        control->setVisible(turn == Turn::On);
+    }
+}
+
+void TurnPanels(const frmMain& window, const PanelRow& row) {
+    TurnControl(window.PictureBoxTerm, row.term);
+    TurnControl(window.PictureBoxViewMenus, row.viewMenus);
+    TurnControl(window.PictureBoxStudySessions, row.studySessions);
+    TurnControl(window.PictureBoxReminders, row.reminders);
+    TurnControl(window.PictureBoxStudyTime, row.studyTime);
+}
+
+// A button that stands alone says what it does.
+void ShowNewButton(QToolButton* button, bool alone) {
+    button->setToolButtonStyle(alone ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    button->setFixedWidth(alone ? LeftPanelWidth : SmallButtonWidth);
+}
+
+void TurnNewButtons(const frmMain& window, const NewButtonRow& row) {
+    const std::array<std::pair<QToolButton*, Turn>, 3> smallButtons{{
+        {window.ButtonNewAssignmentSmall, row.assignmentSmall},
+        {window.ButtonNewEventSmall, row.eventSmall},
+        {window.ButtonNewTaskSmall, row.taskSmall},
+    }};
+    int shown = 0;
+    for (const auto& [button, turn] : smallButtons) {
+        TurnControl(button, turn);
+        button->setEnabled(!button->isHidden());
+        shown += button->isHidden() ? 0 : 1;
+    }
+    for (const auto& [button, turn] : smallButtons) {
+        ShowNewButton(button, shown == 1);
+    }
+    TurnControl(window.ButtonNewAssignment, row.assignment);
+    TurnControl(window.ButtonNewEvent, row.event);
+    TurnControl(window.ButtonNewTask, row.task);
+}
+
+void ShowCounters(const frmMain& window, const CounterRow& row) {
+    const auto labels = window.CounterLabels();
+    const auto controls = window.AllModeControls();
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        for (const ModeControls& mode : controls) {
+            if (mode.boxes[i] != nullptr) {
+                mode.boxes[i]->hide();
+            }
+        }
+        const bool shown = !row.labels[i].empty();
+        labels[i]->setText(FromStore(row.labels[i]));
+        labels[i]->setVisible(shown);
+        if (shown) {
+            RowOf(controls, row.mode).boxes[i]->show();
+        }
+    }
+    labels.front()->parentWidget()->setHidden(row.labels.front().empty()); // no counters, no gap for them
+}
+
+} // namespace
+
+std::array<ModeControls, ModeCount> frmMain::AllModeControls() const {
+    return {{
+        {MenuHomework,
+         PictureBarHomework,
+         LabelBarHomework,
+         {TextBoxTotalAssignments, TextBoxFinishedAssignments, TextBoxTimeRemaining}},
+        {MenuCalendar, PictureBarCalendar, LabelBarCalendar, {nullptr, nullptr, nullptr}},
+        {MenuStudySessions,
+         PictureBarStudySessions,
+         nullptr,
+         {TextBoxStudySessions, nullptr, TextboxStudyTime}},
+        {MenuTasks,
+         PictureBarTasks,
+         LabelBarTasks,
+         {TextBoxTotalTasks, TextBoxFinishedTasks, TextBoxUndatedTasks}},
+        {MenuEvents,
+         PictureBarEvents,
+         LabelBarEvents,
+         {TextBoxClasses, TextBoxOtherEvents, TextBoxSchedStudy}},
+        {MenuReminders, PictureBarReminders, nullptr, {TextboxAssignments, TextBoxTasks, TextBoxEvents}},
+    }};
+}
+
+std::array<QLabel*, 3> frmMain::CounterLabels() const {
+    return {LabelTotalAssignments, LabelFinishedAssignments, LabelTimeRemaining};
+}
+
+Mode frmMain::CurrentMode() const {
+    const auto controls = AllModeControls();
+    for (const ModeRow& row : ModeRows) {
+        if (RowOf(controls, row.mode).item->isChecked()) {
+            return row.mode;
+        }
+    }
+    return Mode::None;
+}
+
+void frmMain::EnterMode(Mode mode) {
+    const ModeRow& row = RowOf(ModeRows, mode);
+    const QWidget* focused = focusWidget();
+    ChangingMode = true;
+    SaveViewMenus();
+    SetTopics(*this, row);
+    CheckMode(*this, row);
+    EnableEditItems(*this, RowOf(EditMenuRows, mode));
+    TurnExportItems(*this, RowOf(ExportRows, mode));
+    TurnPanels(*this, RowOf(PanelRows, mode));
+    TurnNewButtons(*this, RowOf(NewButtonRows, mode));
+    FillViewMenus(mode);
+    ShowCounters(*this, RowOf(CounterRows, mode));
+    ModeCaption = row.caption;
+    PaintStatusBar();
+    if (row.firstSort != 0) {
+        SortColumn = row.firstSort;
+        SortDirection = Ascending;
+    }
+    CurrentRow = 0; // the keys stand nowhere yet
+    CurrentHalfHour = -1;
+    CurrentEvent = 0;
+    ChangingMode = false;
+    RefreshFor(ReasonModeChange);
+    picLock->setVisible(mode == Mode::Reminders);
+    if (focused != nullptr && !focused->isVisibleTo(this)) {
+        picGrid->setFocus(); // and not whatever control comes next
+    }
+}
+
+void frmMain::ShowCalendarMode() {
+    EnterMode(Mode::Calendar);
+}
+
+void frmMain::ShowHomeworkMode() {
+    EnterMode(Mode::Homework);
+}
+
+void frmMain::ShowStudySessionsMode() {
+    EnterMode(Mode::StudySessions);
+}
+
+void frmMain::ShowTaskMode() {
+    EnterMode(Mode::Tasks);
+}
+
+void frmMain::ShowEventMode() {
+    EnterMode(Mode::Events);
+}
+
+void frmMain::ShowReminderMode() {
+    EnterMode(Mode::Reminders);
+}
+
+void frmMain::ChooseMode(Mode mode) {
+    if (!RowOf(AllModeControls(), mode).item->isChecked()) {
+        EnterMode(mode);
+    }
+}

@@ -1,0 +1,44 @@
+// The one place where the store's bytes become text of the screen and back.
+#include "toolkit/Text.h"
+
+#include "platform/CharacterSet.h"
+
+#include <algorithm>
+
+QString FromStore(std::string_view text) {
+    QString result(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
+    std::ranges::transform(text, result.begin(),
+                           [](char byte) { return QChar(CharacterOf(static_cast<unsigned char>(byte))); });
+    return result;
+}
+
+QString FromScreen(const ScreenText& text) {
+    return QString::fromStdString(text.utf8);
+}
+
+QString MenuText(std::string_view text) {
+    return FromStore(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString WithoutMnemonics(const QString& caption) {
+    QString said;
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+        i += caption[i] == QLatin1Char('&') ? 1 : 0; // and whatever follows is said
+        if (i < caption.size()) {
+            said += caption[i];
+        }
+    }
+    return said;
+}
+
+QString PlainTip(const QString& text) {
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+std::string ToStore(const QString& text) {
+    return StoreText({QStringView(text).utf16(), static_cast<std::size_t>(text.size())});
+}
+
+QString WithinSet(const QString& text) {
+    return FromStore(ToStore(text));
+}

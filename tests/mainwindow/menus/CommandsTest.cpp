@@ -1,0 +1,211 @@
+// The commands of the menu bar, the mode bar and the buttons.
+#include "mainwindow/grid/GridTest.h"
+#include "toolkit/Text.h"
+
+#include <QMenuBar>
+
+namespace {
+
+class Commands : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        LoadWindow();
+    }
+
+    // Each item, a submenu by its caption and what it holds in brackets; "-" is a separator.
+    static QString Captions(const QMenu* menu) {
+        QStringList captions;
+        for (const QAction* item : menu->actions()) {
+            if (item->isSeparator()) {
+                captions.append("-");
+            } else if (item->isVisible()) {
+                const QString caption = WithoutMnemonics(item->text());
+                captions.append(item->menu() == nullptr ? caption
+                                                        : caption + " [" + Captions(item->menu()) + "]");
+            }
+        }
+        return captions.join(", ");
+    }
+
+    void Press(Qt::Key key) { QTest::keyClick(window->picGrid, key, Qt::ControlModifier); }
+};
+
+using NewItems = GridTest; // with a term and a class
+
+} // namespace
+
+TEST_F(Commands, FileMenu) {
+    EXPECT_EQ(Captions(window->mnuFile),
+              "Calendar, Homework, Events, Tasks, Reminders, -, GPA, -, Print Screen..., Export for Printing "
+              "[Homework Calendar..., Event Calendar..., Task Calendar...], -, Exit");
+    EXPECT_EQ(WithoutMnemonics(window->MenuReminders->text()), "Today's Reminders");
+    EXPECT_EQ(WithoutMnemonics(window->MenuStudySessions->text()), "Study Sessions");
+    EXPECT_EQ(WithoutMnemonics(window->MenuExportCalendar->text()), "Calendar...");
+    EXPECT_EQ(WithoutMnemonics(window->MenuExportList->text()), "Current List...");
+}
+
+TEST_F(Commands, EditMenu) {
+    EXPECT_EQ(Captions(window->MenuEdit),
+              "New Assignment..., New Event..., New Task..., -, Class Schedule...");
+}
+
+TEST_F(Commands, OptionsMenu) {
+    EXPECT_EQ(Captions(window->MenuOptions),
+              "Colors and Names..., Start Day of Week [Saturday, Sunday, Monday]");
+    EXPECT_EQ(Captions(window->MenuStartup),
+              "Yes - Open Full, Yes - Open Minimized, Yes - Stay in System Tray, No");
+}
+
+TEST_F(Commands, HelpMenu) {
+    EXPECT_EQ(Captions(window->MenuHelp),
+              "Help, Online Homework Help, Show Tips at Startup..., About Planovarium..., -");
+    EXPECT_EQ(WithoutMnemonics(window->MenuData->text()), "Open Planovarium Data Folder");
+}
+
+TEST_F(Commands, ModeItemsEnterTheirModes) {
+    window->MenuHomework->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::Homework);
+    window->MenuTasks->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
+    window->MenuEvents->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::Events);
+    window->MenuStudySessions->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::StudySessions);
+    window->MenuReminders->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::Reminders);
+    window->MenuCalendar->trigger();
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
+
+TEST_F(Commands, ModeItemsFindTheMarksAsTheyWere) {
+    window->MenuHomework->trigger();
+    window->ComboList->setCurrentText("Done");
+    window->MenuTasks->trigger(); // must still see Homework checked, to keep its filter
+    EXPECT_EQ(ChosenFilters[0].list, "Done");
+}
+
+TEST_F(Commands, CheckedModeItemDoesNothing) {
+    window->MenuHomework->trigger();
+    window->SortColumn = 3;
+    window->MenuHomework->trigger();
+    EXPECT_TRUE(window->MenuHomework->isChecked());
+    EXPECT_EQ(window->SortColumn, 3);
+}
+
+TEST_F(Commands, PicturesAndWordsOfTheModeBarEnterTheirModes) {
+    const std::array<std::pair<PictureBox*, Mode>, 5> pictures{{
+        {window->PictureBarHomework, Mode::Homework},
+        {window->PictureBarTasks, Mode::Tasks},
+        {window->PictureBarEvents, Mode::Events},
+        {window->PictureBarCalendar, Mode::Calendar},
+        {window->PictureBarStudySessions, Mode::Calendar}, // which stays checked and is tested first
+    }};
+    for (const auto& [picture, mode] : pictures) {
+        QTest::mouseClick(picture, Qt::LeftButton);
+        EXPECT_EQ(window->CurrentMode(), mode);
+    }
+    EXPECT_TRUE(window->MenuStudySessions->isChecked());
+    const std::array<std::pair<ClickLabel*, Mode>, 4> words{{
+        {window->LabelBarHomework, Mode::Homework},
+        {window->LabelBarTasks, Mode::Tasks},
+        {window->LabelBarEvents, Mode::Events},
+        {window->LabelBarCalendar, Mode::Calendar},
+    }};
+    for (const auto& [word, mode] : words) {
+        QTest::mouseClick(word, Qt::LeftButton);
+        EXPECT_EQ(window->CurrentMode(), mode);
+    }
+}
+
+TEST_F(Commands, RemindersInTheModeBarDoNotChangeTheMode) {
+    QTest::mouseClick(window->PictureBarReminders, Qt::LeftButton);
+    QTest::mouseClick(window->LabelBarReminders, Qt::LeftButton);
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+    EXPECT_FALSE(window->MenuReminders->isChecked());
+}
+
+TEST_F(Commands, ModeBarIsPressedAndReleasedOnOneThing) {
+    QTest::mousePress(window->LabelBarTasks, Qt::LeftButton);
+    QTest::mouseRelease(window->LabelBarTasks, Qt::LeftButton, {}, QPoint(-20, 5));
+    QTest::mouseClick(window->PictureBarTasks, Qt::RightButton);
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
+
+TEST_F(Commands, StudySessionsAreNotShownInTheModeBar) {
+    for (const auto& enter : {&frmMain::ShowStudySessionsMode, &frmMain::ShowTaskMode}) {
+        (window.get()->*enter)();
+        EXPECT_TRUE(window->PictureBarStudySessions->isHidden());
+    }
+    EXPECT_FALSE(window->MenuStudySessions->isVisible());
+    EXPECT_FALSE(window->MenuReminders->isVisible());
+}
+
+TEST_F(Commands, KeysChooseTheModes) {
+    Press(Qt::Key_2);
+    EXPECT_EQ(window->CurrentMode(), Mode::Homework);
+    Press(Qt::Key_3);
+    EXPECT_EQ(window->CurrentMode(), Mode::Events);
+    Press(Qt::Key_4);
+    EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
+    Press(Qt::Key_1);
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
+
+TEST_F(Commands, NewEventsStartAtNine) {
+    for (const auto& act : std::vector<std::function<void()>>{
+             [this] { window->MenuNewEvent->trigger(); },
+             [this] { QTest::mouseClick(window->ButtonNewEventSmall, Qt::LeftButton); },
+             [this] { window->ButtonNewEvent->click(); }}) {
+        window->EventClickedStartTime = "11:30PM";
+        act();
+        EXPECT_EQ(window->EventClickedStartTime, "9:00 AM");
+    }
+}
+
+TEST_F(NewItems, ItemsAndButtonsAskForTheSame) {
+    window->MenuNewAssignment->trigger();
+    QTest::mouseClick(window->ButtonNewAssignmentSmall, Qt::LeftButton);
+    window->ButtonNewAssignment->click();
+    EXPECT_EQ(Opened, QStringList(3, "Planovarium - New Assignment: "));
+    Opened.clear();
+    window->MenuNewTask->trigger();
+    QTest::mouseClick(window->ButtonNewTaskSmall, Qt::LeftButton);
+    window->ButtonNewTask->click();
+    EXPECT_EQ(Opened, QStringList(3, "Planovarium - New Task: "));
+}
+
+TEST_F(NewItems, KeysAskForThem) {
+    window->EventClickedStartTime = "11:30PM";
+    for (const Qt::Key key : {Qt::Key_N, Qt::Key_T, Qt::Key_E}) {
+        ASSERT_TRUE(WaitUntil([this] { return window->isActiveWindow(); })); // after a dialog as well
+        Press(key, Qt::ControlModifier);
+    }
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
+    EXPECT_EQ(window->EventClickedStartTime, "9:00 AM"); // as of every new event of a menu
+}
+
+TEST_F(NewItems, ClassScheduleAsksForTheTerm) {
+    window->MenuClassSchedule->trigger();
+    window->ButtonSelectTerm->click();
+    EXPECT_EQ(Opened, QStringList(2, "Planovarium - Select a Term"));
+}
+
+TEST_F(Commands, EditClassScheduleGivesTheGridTheFocus) {
+    CancelDialogsAsTheyOpen(window.get());
+    window->ButtonSelectTerm->setFocus();
+    QTest::mouseClick(window->ButtonSelectTerm, Qt::LeftButton);
+    EXPECT_EQ(window->focusWidget(), window->picGrid);
+}
+
+TEST_F(Commands, DataFolderOpensInTheFileBrowser) {
+    window->MenuData->setEnabled(true); // a drive does not offer it
+    window->MenuData->trigger();
+    ASSERT_EQ(Script.processes.size(), 1U);
+    EXPECT_EQ(Script.processes[0].program, "explorer");
+    EXPECT_EQ(Script.processes[0].arguments, std::vector<std::string>{DataFolder.string()});
+}
+
+TEST_F(Commands, GridHasTheFocusAfterTheLoad) {
+    EXPECT_TRUE(window->picGrid->hasFocus());
+}
