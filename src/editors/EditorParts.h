@@ -154,6 +154,8 @@ struct EditorState {
     bool CloseOK = false;       // the dialog may hide
     bool DeleteFlag = false;    // the answer is Delete
     std::string EditMode;       // "New" or "Edit"
+    Date tempClickedDate{};     // the day of a new item
+    std::string tempStartDayOfWeek = "Sunday";
 };
 
 // Asks the student; true for Yes. Enter alone presses No, unless told that Yes gives up nothing that is

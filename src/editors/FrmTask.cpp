@@ -6,7 +6,6 @@
 #include "core/Values.h"
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
-#include "mainwindow/frmMain.h"
 #include "planner/entries/AssignmentEntry.h"
 #include "planner/entries/ComboRows.h"
 #include "planner/entries/ReminderEntry.h"
@@ -104,7 +103,7 @@ void FrmTask::Fill() {
     UpdateEstimateFlag = false;
     PaintDeadline();
     PaintReminder(ReminderOf(*this));
-    Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
+    Picker->SetCalendarHeads(tempStartDayOfWeek);
     TextBoxDescription->setFocus();
     ClearFlags(*this);
 }
@@ -122,7 +121,7 @@ void FrmTask::FillNew() {
     CheckBoxDeadline->setChecked(true);
     CheckboxReminder->setChecked(false);
     tempTaskReminderList = BooleanText(false);
-    FillDates(MainWindow->ClickedDate, MainWindow->ClickedDate);
+    FillDates(tempClickedDate, tempClickedDate);
 }
 
 void FrmTask::FillEdit() {

@@ -13,7 +13,7 @@ class FrmTask : public QDialog, public Ui::FrmTask, public EditorState {
 public:
     explicit FrmTask(QWidget* parent);
 
-    // Fills all controls, for "New" from the main window's ClickedDate, for "Edit" from the fields; to be
+    // Fills all controls, for "New" from tempClickedDate, for "Edit" from the fields; to be
     // called before each opening. Raises the run-time error where a field holds no date or neither "True" nor
     // "False".
     void Fill();

@@ -6,7 +6,6 @@
 #include "core/Values.h"
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
-#include "mainwindow/frmMain.h"
 #include "planner/entries/AssignmentEntry.h"
 #include "planner/entries/ComboRows.h"
 #include "planner/entries/ReminderEntry.h"
@@ -117,7 +116,7 @@ void frmAssignment::Fill() {
     }
     UpdateEstimateFlag = false;
     PaintReminder(ReminderOf(*this));
-    Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
+    Picker->SetCalendarHeads(tempStartDayOfWeek);
     ComboClassNameList->setFocus();
     ClearFlags(*this);
 }
@@ -148,7 +147,7 @@ void frmAssignment::FillNew() {
     ShowTimeLeft(NewEstimate);
     CheckboxReminder->setChecked(false);
     tempAssignmentReminderList = BooleanText(false);
-    FillDates(MainWindow->ClickedDate, MainWindow->ClickedDate);
+    FillDates(tempClickedDate, tempClickedDate);
 }
 
 void frmAssignment::FillEdit() {

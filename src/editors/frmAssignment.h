@@ -15,7 +15,7 @@ class frmAssignment : public QDialog, public Ui::frmAssignment, public EditorSta
 public:
     explicit frmAssignment(QWidget* parent);
 
-    // Fills all controls, for "New" from the main window's ClickedDate, for "Edit" from the fields; to be
+    // Fills all controls, for "New" from tempClickedDate, for "Edit" from the fields; to be
     // called before each opening. Raises the run-time error where a field holds no date or neither "True" nor
     // "False".
     void Fill();

@@ -4,7 +4,6 @@
 #include "core/DateText.h"
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
-#include "mainwindow/frmMain.h"
 #include "planner/entries/TermEntry.h"
 #include "platform/MessageBoxes.h"
 
@@ -95,7 +94,7 @@ void frmCourseSchedule::Fill() {
     TextBoxTermName->setFocus();
     ClassEditMode.clear();
     ResetClassPanel();
-    Picker->SetCalendarHeads(MainWindow->StartDayOfWeek);
+    Picker->SetCalendarHeads(tempStartDayOfWeek);
     ChangeFlag = EditMode == "NewBasedOn";
     DeleteFlag = false;
     CancelledFlag = true;

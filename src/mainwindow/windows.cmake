@@ -4,7 +4,6 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp
   mainwindow/flows/EventFlow.cpp
-  mainwindow/flows/FirstOpen.cpp
   mainwindow/flows/PreferencesFlow.cpp
   mainwindow/flows/TaskFlow.cpp
   mainwindow/flows/TermFlow.cpp

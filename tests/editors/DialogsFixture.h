@@ -17,7 +17,7 @@ protected:
         TermDialog->tempClassForeColorArray.values = {"0", "0"};
         TermDialog->tempClassBackColorArray.values = {"16777215", "16777215"};
         TermDialog->tempClassNotesArray.values = {"", ""};
-        TermDialog->EditMode = "Edit";
+        PrepareEditor(*TermDialog, *window, "Edit");
         TermDialog->Fill();
         ShowAlone(*TermDialog);
     }

@@ -41,7 +41,7 @@ void EditorTest::ShowAlone(QDialog& dialog) {
 }
 
 void EditorTest::Open(frmAssignment& dialog, const std::string& mode) {
-    dialog.EditMode = mode;
+    PrepareEditor(dialog, *window, mode);
     dialog.tempClassNameArray = ActiveClasses.name;
     dialog.tempAssignmentClassLinkArray = ActiveClasses.id;
     dialog.Fill();
@@ -49,7 +49,7 @@ void EditorTest::Open(frmAssignment& dialog, const std::string& mode) {
 }
 
 void EditorTest::Open(FrmTask& dialog, const std::string& mode) {
-    dialog.EditMode = mode;
+    PrepareEditor(dialog, *window, mode);
     dialog.Fill();
     ShowAlone(dialog);
 }

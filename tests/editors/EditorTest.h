@@ -6,6 +6,7 @@
 #include "editors/EditorParts.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
+#include "mainwindow/flows/RecordFlow.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 #include "toolkit/PictureBox.h"

@@ -12,7 +12,7 @@ protected:
     }
 
     void Show(const std::string& mode) {
-        dialog->EditMode = mode;
+        PrepareEditor(*dialog, *window, mode);
         dialog->Fill();
         ShowAlone(*dialog);
     }

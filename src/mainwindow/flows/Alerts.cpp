@@ -1,9 +1,9 @@
 // The alert buttons and the message that each explains itself with.
 #include "core/Module1.h"
-#include "mainwindow/flows/FirstOpen.h"
 #include "mainwindow/frmAlert.h"
 #include "mainwindow/frmMain.h"
 #include "planner/study/AlertMessage.h"
+#include "toolkit/FirstOpen.h"
 #include "toolkit/Modal.h"
 #include "toolkit/Text.h"
 
@@ -26,7 +26,7 @@ void frmMain::ShowAlertMessage(int index) {
     const auto message = AlertMessage(static_cast<Alert>(index));
     AlertDialog->setWindowTitle(FromStore(message.title));
     AlertDialog->TextBoxAlert->setPlainText(FromScreen(message.text));
-    PlaceAtFirstOpen(*AlertDialog, AlertDBFirstOpen, AlertBelow);
+    PlaceAtFirstOpen(*AlertDialog, AlertDBFirstOpen, *this, AlertBelow);
     RunModally(*AlertDialog);
     picGrid->setFocus();
 }

@@ -90,10 +90,10 @@ void frmMain::NewAssignment() {
         return;
     }
     frmAssignment& dialog = *AssignmentDialog;
-    dialog.EditMode = "New";
+    PrepareEditor(dialog, *this, "New");
     GiveTerm(dialog, {});
     dialog.Fill();
-    ShowDialog(dialog, AssignmentDBFirstOpen);
+    ShowDialog(dialog, AssignmentDBFirstOpen, *this);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
@@ -105,10 +105,10 @@ void frmMain::NewAssignment() {
 
 void frmMain::EditAssignment(int index) {
     frmAssignment& dialog = *AssignmentDialog;
-    dialog.EditMode = "Edit";
+    PrepareEditor(dialog, *this, "Edit");
     GiveTerm(dialog, Store.Assignment.class_.Item(index));
     FillFromRecord(dialog, FilledFields, Store.Assignment, index);
-    ShowDialog(dialog, AssignmentDBFirstOpen);
+    ShowDialog(dialog, AssignmentDBFirstOpen, *this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;

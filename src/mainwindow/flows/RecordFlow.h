@@ -5,7 +5,9 @@
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "core/Values.h"
-#include "mainwindow/flows/FirstOpen.h"
+#include "editors/EditorParts.h"
+#include "mainwindow/frmMain.h"
+#include "toolkit/FirstOpen.h"
 #include "toolkit/Modal.h"
 
 #include <array>
@@ -24,6 +26,13 @@ struct EnteredField {
     TextList Lists::*list;
     std::string text;
 };
+
+// Gives the editor, before it is filled, its mode and what it needs of the window that it opens over.
+inline void PrepareEditor(EditorState& editor, const frmMain& window, std::string_view mode) {
+    editor.EditMode = mode;
+    editor.tempClickedDate = window.ClickedDate;
+    editor.tempStartDayOfWeek = window.StartDayOfWeek;
+}
 
 // Fills the dialog from the record at the position. A value that does not convert is told by its place in the
 // record, not in the dialog's copy.
@@ -46,10 +55,9 @@ void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>,
     }
 }
 
-// Lets the student work in the filled dialog until it closes.
-template <class Dialog>
-void ShowDialog(Dialog& dialog, bool& firstOpen) {
-    PlaceAtFirstOpen(dialog, firstOpen);
+// Lets the student work in the filled dialog, beside the window at its first opening, until it closes.
+inline void ShowDialog(QDialog& dialog, bool& firstOpen, const QWidget& window) {
+    PlaceAtFirstOpen(dialog, firstOpen, window);
     RunModally(dialog);
 }
 

@@ -51,9 +51,9 @@ constexpr std::array<FilledField<FrmTask, TaskLists>, TaskFields.size() - 1> Fil
 
 void frmMain::NewTask() {
     FrmTask& dialog = *TaskDialog;
-    dialog.EditMode = "New";
+    PrepareEditor(dialog, *this, "New");
     dialog.Fill();
-    ShowDialog(dialog, TaskDBFirstOpen);
+    ShowDialog(dialog, TaskDBFirstOpen, *this);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
@@ -65,9 +65,9 @@ void frmMain::NewTask() {
 
 void frmMain::EditTask(int index) {
     FrmTask& dialog = *TaskDialog;
-    dialog.EditMode = "Edit";
+    PrepareEditor(dialog, *this, "Edit");
     FillFromRecord(dialog, FilledFields, Store.TaskRecord, index);
-    ShowDialog(dialog, TaskDBFirstOpen);
+    ShowDialog(dialog, TaskDBFirstOpen, *this);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }

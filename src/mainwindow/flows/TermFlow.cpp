@@ -4,10 +4,9 @@
 #include "core/Values.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
-#include "mainwindow/flows/FirstOpen.h"
+#include "mainwindow/flows/RecordFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
-#include "toolkit/Modal.h"
 
 namespace {
 
@@ -37,12 +36,11 @@ void FillChooser(frmSelectCourseSchedule& chooser) {
 }
 
 // Gives false when the student cancelled.
-bool ShowChooser() {
+bool ShowChooser(const frmMain& window) {
     frmSelectCourseSchedule& chooser = *TermChooser;
     FillChooser(chooser);
     chooser.ClearAnswer();
-    PlaceAtFirstOpen(chooser, SelectCourseScheduleDBFirstOpen);
-    RunModally(chooser);
+    ShowDialog(chooser, SelectCourseScheduleDBFirstOpen, window);
     return !chooser.Cancelled && !ShuttingDown;
 }
 
@@ -178,32 +176,31 @@ void ReplaceTermRecords(const frmCourseSchedule& dialog, int id) {
 }
 
 // Gives false when the student cancelled.
-bool ShowTermEditor(int id) {
+bool ShowTermEditor(const frmMain& window, std::string_view mode, int id) {
     frmCourseSchedule& dialog = *TermDialog;
+    PrepareEditor(dialog, window, mode);
     PrepareTermEditor(dialog, id);
     FillPreviousTerms(dialog, id);
     dialog.Fill();
-    PlaceAtFirstOpen(dialog, CourseScheduleDBFirstOpen);
-    RunModally(dialog);
+    ShowDialog(dialog, CourseScheduleDBFirstOpen, window);
     return !dialog.CancelledFlag && !ShuttingDown;
 }
 
 } // namespace
 
 void frmMain::ClassSchedule() {
-    if (!ShowChooser()) {
+    if (!ShowChooser(*this)) {
         return;
     }
     if (TermChooser->MakeActive) {
         SetActiveTerm(TermChooser->SelectedCourse);
         return;
     }
-    frmCourseSchedule& dialog = *TermDialog;
-    dialog.EditMode = TermChooser->NewCourse ? "New" : "Edit";
     const int id = TermChooser->NewCourse ? NextId(NextTermID) : ActiveTermID;
-    if (!ShowTermEditor(id)) {
+    if (!ShowTermEditor(*this, TermChooser->NewCourse ? "New" : "Edit", id)) {
         return;
     }
+    const frmCourseSchedule& dialog = *TermDialog;
     DropUnfinishedRecord(TermFile());
     DropUnfinishedRecord(ClassFile());
     const std::string name = TextOf(dialog.TextBoxTermName);

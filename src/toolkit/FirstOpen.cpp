@@ -1,0 +1,11 @@
+// Where a dialog stands when it opens for the first time in a run.
+#include "toolkit/FirstOpen.h"
+
+#include <QWidget>
+
+void PlaceAtFirstOpen(QWidget& dialog, bool& firstOpen, const QWidget& beside, int below) {
+    if (firstOpen) {
+        dialog.move(beside.pos() + QPoint(FirstOpenRight, below));
+        firstOpen = false;
+    }
+}
