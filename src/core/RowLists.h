@@ -6,6 +6,8 @@
 #include "core/TextList.h"
 #include "platform/Clock.h"
 
+#include <tuple>
+
 // Homework and Study Sessions.
 extern NumberList HomeworkRows; // position of the assignment
 extern TextList RowClass;       // name of its class
@@ -32,6 +34,35 @@ extern TextList ReminderRowKind, ReminderRowClass, ReminderRowType,
 extern NumberList ReminderRowDays; // whole days to the item
 extern List<Date> ReminderRowDate;
 extern NumberList ReminderRowForeColor, ReminderRowBackColor;
+
+// --- The lists of each kind of rows --------------------------------------------------------------
+
+// All lists of a kind have one entry for each of its rows; what goes over them all walks its table.
+inline constexpr auto HomeworkRowLists =
+    std::tie(HomeworkRows, RowClass, RowForeColor, RowBackColor, RowTimeLeft);
+inline constexpr auto StudyRowLists =
+    std::tie(StudyRowTime, StudyRowDate, HomeworkRows, RowClass, RowForeColor, RowBackColor);
+inline constexpr auto TaskRowLists = std::tie(TaskRows, TaskRowType, TaskRowForeColor, TaskRowBackColor);
+inline constexpr auto EventRowLists =
+    std::tie(EventRows, EventRowDate, EventRowForeColor, EventRowBackColor, EventRowType);
+inline constexpr auto EventBoxLists = // empty until the boxes of a day are placed
+    std::tie(EventBoxLeft, EventBoxTop, EventBoxWidth, EventBoxHeight, EventBoxColumn);
+inline constexpr auto ReminderRowLists =
+    std::tie(ReminderRows, ReminderRowKind, ReminderRowClass, ReminderRowType, ReminderRowText,
+             ReminderRowDays, ReminderRowDate, ReminderRowForeColor, ReminderRowBackColor);
+
+// Calls the action with each of the lists.
+template <class... Lists, class Action>
+void ForEachList(const std::tuple<Lists&...>& table, Action action) {
+    std::apply([&action](Lists&... lists) { (action(lists), ...); }, table);
+}
+
+template <class... Lists>
+void ClearLists(const std::tuple<Lists&...>& table) {
+    ForEachList(table, [](auto& list) { list.Clear(); });
+}
+
+// --- Counters ------------------------------------------------------------------------------------
 
 // Counters of the selections.
 extern int TaskCount, TaskDoneCount, TaskLeftCount, UndatedTaskLeftCount;

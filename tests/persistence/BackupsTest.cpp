@@ -14,7 +14,6 @@ protected:
     // One run of the program: reads the tasks, does the work, and rotates the backups at its end.
     void Run(const std::function<void()>& work) {
         ResetStore();
-        FileWrittenFlags = {};
         ASSERT_TRUE(SetupFolders());
         ReadTasks();
         work();

@@ -18,7 +18,6 @@ protected:
     void SetUp() override {
         ResetScript();
         ResetStore();
-        FileWrittenFlags = {};
         ASSERT_TRUE(SetupFolders());
     }
 

@@ -17,7 +17,6 @@ protected:
     void SetUp() override {
         ResetScript();
         ResetStore();
-        FileWrittenFlags = {};
     }
 
     TemporaryDrive drive;

@@ -55,11 +55,16 @@ void TellLists(std::string& results, const Lists&... lists) {
     (tell(lists), ...);
 }
 
+template <class... Lists>
+void TellRows(std::string& results, const std::tuple<Lists&...>& table) {
+    ForEachList(table, [&results](const auto& list) { TellLists(results, list); });
+}
+
 void TellHomework(std::string& results, const ListFilter& filter, Date today) {
     const HomeworkCounts counts = SelectHomeworkRows(filter);
     SortHomeworkRows({static_cast<int>(HomeworkColumn::Due), Ascending});
     Tell(results, counts.total, counts.left);
-    TellLists(results, HomeworkRows, RowClass, RowForeColor, RowBackColor, RowTimeLeft);
+    TellRows(results, HomeworkRowLists);
     const HomeworkDayBoxes day = HomeworkDayTotals(today);
     Tell(results, day.TextBoxTotalAssignments, day.TextBoxFinishedAssignments, day.TextBoxTimeRemaining);
     const StudyTimeBoxes study = StudyTimeToday(today);
@@ -70,7 +75,7 @@ void TellHomework(std::string& results, const ListFilter& filter, Date today) {
 void TellTasks(std::string& results, const ListFilter& filter, Date today) {
     SelectTasks(AllDates, filter);
     SortTaskRows({static_cast<int>(TaskColumn::Day), Ascending});
-    TellLists(results, TaskRows, TaskRowType, TaskRowForeColor, TaskRowBackColor);
+    TellRows(results, TaskRowLists);
     SelectTasksForDay(today);
     TellLists(results, TaskRows);
     const TaskBoxes boxes = CountTasks(today);
@@ -80,7 +85,7 @@ void TellTasks(std::string& results, const ListFilter& filter, Date today) {
 void TellEvents(std::string& results, const ListFilter& filter, Date today) {
     SelectEventRows(filter);
     SortEventRows({static_cast<int>(EventColumn::Name), Ascending});
-    TellLists(results, EventRows, EventRowDate, EventRowForeColor, EventRowBackColor, EventRowType);
+    TellRows(results, EventRowLists);
     const std::vector<int> eventsOfDay = EventsOn(today);
     SelectEventsForDay(today, eventsOfDay, filter);
     TellLists(results, EventRows);
@@ -90,8 +95,7 @@ void TellEvents(std::string& results, const ListFilter& filter, Date today) {
 
 void TellMonth(std::string& results, ListFilter filter, Date today) {
     SelectReminders(today, filter);
-    TellLists(results, ReminderRows, ReminderRowKind, ReminderRowClass, ReminderRowType, ReminderRowText,
-              ReminderRowDays, ReminderRowDate, ReminderRowForeColor, ReminderRowBackColor);
+    TellRows(results, ReminderRowLists);
     filter.calendarMode = true;
     CalendarMonth month;
     MarkMonth(month, today - days{20}, Mode::Calendar, filter);

@@ -1,6 +1,7 @@
 // Classes, assignments and tasks for the tests, and their way into the store.
 #include "support/StoreRecords.h"
 
+#include "core/RowLists.h"
 #include "core/Values.h"
 
 int AddClassRecord(const ClassTexts& record) {
@@ -60,9 +61,20 @@ int AddTaskRecord(const TaskTexts& record) {
 
 void ResetStore() {
     Store = {};
+    FileWrittenFlags = {};
     LastReads = {};
     SetDefaultTypeTable();
     NextTermID = NextClassID = NextAssignmentID = NextTaskID = NextEventID = 1;
     ChooseActiveTerm("");
     SetupActiveClasses();
+    SetFirstOpenFlags();
+    StartupComplete = false;
+    CalledFromReminders = false;
+    ShuttingDown = false;
+    ClearLists(HomeworkRowLists);
+    ClearLists(StudyRowLists);
+    ClearLists(TaskRowLists);
+    ClearLists(EventRowLists);
+    ClearLists(EventBoxLists);
+    ClearLists(ReminderRowLists);
 }

@@ -58,5 +58,6 @@ int AddClassRecord(const ClassTexts& record);
 int AddAssignmentRecord(const AssignmentTexts& record);
 int AddTaskRecord(const TaskTexts& record);
 
-// An empty store with the type table's defaults, no active term, and the ids from 1 on.
+// All that is global as at a start on an empty drive: the store and the row lists empty, the type table's
+// defaults, no active term, the ids from 1 on, no file read or written.
 void ResetStore();

@@ -84,12 +84,10 @@ DayColumns ColumnsOfDay(std::span<const DaySpan> spans) {
 }
 
 void LayoutDayEvents(int gridWidth) {
-    for (NumberList* list : {&EventBoxLeft, &EventBoxTop, &EventBoxWidth, &EventBoxHeight, &EventBoxColumn}) {
-        list->Clear();
-    }
+    ClearLists(EventBoxLists);
     std::vector<DaySpan> spans;
-    for (const int index : EventRows) {
-        spans.push_back(SpanOf(Store.EventRecord.time.Item(index), Store.EventRecord.duration.Item(index)));
+    for (const int event : EventRows) {
+        spans.push_back(SpanOf(Store.EventRecord.time.Item(event), Store.EventRecord.duration.Item(event)));
     }
     const DayColumns day = ColumnsOfDay(spans);
     const int width = RoomForBoxes(gridWidth) / std::max(day.count, 1);

@@ -12,16 +12,8 @@
 namespace {
 
 void ClearRowsAndCounters() {
-    EventRows.Clear();
-    EventRowDate.Clear();
-    EventRowForeColor.Clear();
-    EventRowBackColor.Clear();
-    EventRowType.Clear();
-    EventBoxLeft.Clear();
-    EventBoxTop.Clear();
-    EventBoxWidth.Clear();
-    EventBoxHeight.Clear();
-    EventBoxColumn.Clear();
+    ClearLists(EventRowLists);
+    ClearLists(EventBoxLists);
     EventClassCount = 0;
     EventOtherCount = 0;
     EventTotalCount = 0;

@@ -15,13 +15,12 @@
 
 namespace {
 
+// Clears the rows of both kinds. The names of the classes stay allocated: AddClassLooks writes over them.
 void ClearRows() {
-    HomeworkRows.Clear();
-    RowForeColor.Clear();
-    RowBackColor.Clear();
-    RowTimeLeft.Clear();
-    StudyRowTime.Clear();
-    StudyRowDate.Clear();
+    TextList names = std::move(RowClass);
+    ClearLists(HomeworkRowLists);
+    ClearLists(StudyRowLists);
+    RowClass = std::move(names);
 }
 
 bool IsOfDay(std::string_view date, Date day) {
@@ -50,7 +49,7 @@ std::vector<int> ClassOfRows() {
 }
 
 // Gives each of HomeworkRows the name and colours of its class. The names are written over those of the last
-// selection, which spares their allocation.
+// selection.
 void AddClassLooks() {
     const std::vector<int> positions = ClassOfRows();
     // Of the classes met so far, by their positions.

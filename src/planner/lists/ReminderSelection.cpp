@@ -24,15 +24,7 @@ struct ReminderRow {
 };
 
 void ClearRowsAndCounters() {
-    ReminderRows.Clear();
-    ReminderRowKind.Clear();
-    ReminderRowClass.Clear();
-    ReminderRowType.Clear();
-    ReminderRowText.Clear();
-    ReminderRowDays.Clear();
-    ReminderRowDate.Clear();
-    ReminderRowForeColor.Clear();
-    ReminderRowBackColor.Clear();
+    ClearLists(ReminderRowLists);
     ReminderHomeworkCount = 0;
     ReminderTaskCount = 0;
     ReminderEventCount = 0;

@@ -208,45 +208,41 @@ RowOrder ReminderOrder(SortOrder order) {
 }
 
 template <class... Lists>
-void ReorderAll(const RowOrder& order, Lists&... lists) {
-    (Reorder(lists, order), ...);
+void ReorderLists(const std::tuple<Lists&...>& table, const RowOrder& order) {
+    ForEachList(table, [&order](auto& list) { Reorder(list, order); });
 }
 
 } // namespace
 
 void SortHomeworkRows(SortOrder order) {
-    ReorderAll(HomeworkOrder(order), HomeworkRows, RowClass, RowForeColor, RowBackColor, RowTimeLeft);
+    ReorderLists(HomeworkRowLists, HomeworkOrder(order));
 }
 
 void SortStudyRows(SortOrder order) {
-    ReorderAll(StudyOrder(order), StudyRowTime, StudyRowDate, HomeworkRows, RowClass, RowForeColor,
-               RowBackColor);
+    ReorderLists(StudyRowLists, StudyOrder(order));
 }
 
 void SortTaskRows(SortOrder order) {
-    ReorderAll(TaskOrder(order), TaskRows, TaskRowForeColor, TaskRowBackColor, TaskRowType);
+    ReorderLists(TaskRowLists, TaskOrder(order));
 }
 
 void SortEventRows(SortOrder order) {
-    ReorderAll(EventOrder(order), EventRows, EventRowDate, EventRowForeColor, EventRowBackColor,
-               EventRowType);
+    ReorderLists(EventRowLists, EventOrder(order));
 }
 
 void SortReminderRows(SortOrder order) {
-    ReorderAll(ReminderOrder(order), ReminderRows, ReminderRowKind, ReminderRowClass, ReminderRowType,
-               ReminderRowText, ReminderRowDays, ReminderRowDate, ReminderRowForeColor, ReminderRowBackColor);
+    ReorderLists(ReminderRowLists, ReminderOrder(order));
 }
 
 void SortEventRowsByDuration(int direction) {
-    const RowOrder order = OrderByNumber(EventRows.Count(), direction, [](int row) {
-        return EventLength(Store.EventRecord.duration.Item(EventRows.Item(row)));
-    });
-    ReorderAll(order, EventRows, EventRowDate, EventRowForeColor, EventRowBackColor, EventRowType);
+    ReorderLists(EventRowLists, OrderByNumber(EventRows.Count(), direction, [](int row) {
+                     return EventLength(Store.EventRecord.duration.Item(EventRows.Item(row)));
+                 }));
 }
 
 void SortEventRowsByColumn() {
     const RowOrder order = OrderByNumber(EventRows.Count(), Ascending,
                                          [](int row) -> double { return EventBoxColumn.Item(row); });
-    ReorderAll(order, EventRows, EventRowDate, EventRowForeColor, EventRowBackColor, EventRowType,
-               EventBoxLeft, EventBoxTop, EventBoxWidth, EventBoxHeight, EventBoxColumn);
+    ReorderLists(EventRowLists, order);
+    ReorderLists(EventBoxLists, order);
 }

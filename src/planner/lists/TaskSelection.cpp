@@ -13,10 +13,7 @@
 namespace {
 
 void ClearRowsAndCounters() {
-    TaskRows.Clear();
-    TaskRowType.Clear();
-    TaskRowForeColor.Clear();
-    TaskRowBackColor.Clear();
+    ClearLists(TaskRowLists);
     TaskCount = 0;
     TaskDoneCount = 0;
     TaskLeftCount = 0;

@@ -23,8 +23,6 @@ protected:
     void SetUp() override {
         ResetScript();
         ResetStore();
-        EventRows.Clear();
-        LayoutDayEvents(GridWidth);
     }
 
     // Puts an event into the store and onto the day.

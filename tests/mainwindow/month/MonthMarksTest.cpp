@@ -20,14 +20,9 @@ using Cells = std::vector<int>;
 
 class MonthMarks : public testing::Test {
 protected:
-    void SetUp() override {
-        ResetStore();
-        ReminderRowKind.Clear();
-        ReminderRowDate.Clear();
-        ReminderRows.Clear();
-    }
+    void SetUp() override { ResetStore(); }
 
-    void TearDown() override { SetUp(); }
+    void TearDown() override { ResetStore(); }
 
     void Mark(Mode mode, const std::string& comboList, bool calendarMode = false) {
         ListFilter filter;

@@ -15,13 +15,9 @@ constexpr Date FirstCell{2009y / 9 / 27}; // of October 2009 in a week from Sund
 
 class Marks : public testing::Test {
 protected:
-    void SetUp() override {
-        Store = {};
-        NextEventID = 1;
-        ActiveTermID = 0;
-    }
+    void SetUp() override { ResetStore(); }
 
-    void TearDown() override { SetUp(); }
+    void TearDown() override { ResetStore(); }
 };
 
 EventMarks MarksIn(std::string_view comboList) {

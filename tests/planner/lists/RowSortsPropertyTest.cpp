@@ -251,7 +251,7 @@ class RandomRowSorts : public RowSorts {};
 
 TEST_F(RandomRowSorts, OfHomeworkAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddHomeworkRow(RandomHomework(), "class " + std::to_string(row % 3));
@@ -262,7 +262,7 @@ TEST_F(RandomRowSorts, OfHomeworkAreThoseOfABubbleSort) {
 
 TEST_F(RandomRowSorts, OfStudySessionsAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddStudyRow(RandomHomework(), "class " + std::to_string(row % 3), RandomClock(), RandomDate());
@@ -274,7 +274,7 @@ TEST_F(RandomRowSorts, OfStudySessionsAreThoseOfABubbleSort) {
 
 TEST_F(RandomRowSorts, OfTasksAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddRandomTask();
@@ -285,7 +285,7 @@ TEST_F(RandomRowSorts, OfTasksAreThoseOfABubbleSort) {
 
 TEST_F(RandomRowSorts, OfEventsAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddRandomEvent();
@@ -296,7 +296,7 @@ TEST_F(RandomRowSorts, OfEventsAreThoseOfABubbleSort) {
 
 TEST_F(RandomRowSorts, OfEventsByDurationAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddRandomEvent();
@@ -312,7 +312,7 @@ TEST_F(RandomRowSorts, OfEventsByDurationAreThoseOfABubbleSort) {
 
 TEST_F(RandomRowSorts, OfRemindersAreThoseOfABubbleSort) {
     EXPECT_TRUE(rc::check([] {
-        ClearRowLists();
+        ResetStore();
         const int count = RandomCount();
         for (int row = 1; row <= count; ++row) {
             AddRandomEvent();

@@ -1,24 +1,6 @@
 // Rows in the row lists for the tests of the sorts.
 #include "planner/lists/SortedRows.h"
 
-void ClearRowLists() {
-    ResetStore();
-    for (TextList* list : {&RowClass, &RowTimeLeft, &TaskRowType, &EventRowType, &ReminderRowKind,
-                           &ReminderRowClass, &ReminderRowType, &ReminderRowText}) {
-        list->Clear();
-    }
-    for (NumberList* list :
-         {&HomeworkRows, &RowForeColor,      &RowBackColor,         &StudyRowTime,
-          &StudyRowDate, &TaskRows,          &TaskRowForeColor,     &TaskRowBackColor,
-          &EventRows,    &EventRowForeColor, &EventRowBackColor,    &EventBoxLeft,
-          &EventBoxTop,  &EventBoxWidth,     &EventBoxHeight,       &EventBoxColumn,
-          &ReminderRows, &ReminderRowDays,   &ReminderRowForeColor, &ReminderRowBackColor}) {
-        list->Clear();
-    }
-    EventRowDate.Clear();
-    ReminderRowDate.Clear();
-}
-
 void AddHomeworkRow(const AssignmentTexts& assignment, const std::string& className) {
     HomeworkRows.Add(AddAssignmentRecord(assignment));
     RowClass.Add(className);

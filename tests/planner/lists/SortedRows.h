@@ -11,14 +11,11 @@
 
 inline constexpr Date Wednesday{std::chrono::year{2009} / 10 / 14};
 
-// Empties the store and all row lists.
-void ClearRowLists();
-
 class RowSorts : public testing::Test {
 protected:
-    void SetUp() override { ClearRowLists(); }
+    void SetUp() override { ResetStore(); }
 
-    void TearDown() override { ClearRowLists(); }
+    void TearDown() override { ResetStore(); }
 };
 
 void AddHomeworkRow(const AssignmentTexts& assignment, const std::string& className = "Algebra");

@@ -3,6 +3,7 @@
 #include "core/DateText.h"
 #include "core/RunTimeError.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +16,7 @@ namespace {
 
 class Occurrence : public testing::Test {
 protected:
-    void SetUp() override {
-        Store = {};
-        NextEventID = 1;
-    }
+    void SetUp() override { ResetStore(); }
 };
 
 bool OccursOn(const EventTexts& event, Date day) {

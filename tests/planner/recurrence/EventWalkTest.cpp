@@ -4,6 +4,7 @@
 #include "core/RunTimeError.h"
 #include "planner/recurrence/EventOccursOn.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +16,7 @@ using Texts = std::vector<std::string>;
 
 class Walk : public testing::Test {
 protected:
-    void SetUp() override {
-        Store = {};
-        NextEventID = 1;
-    }
+    void SetUp() override { ResetStore(); }
 };
 
 class ReminderWalk : public Walk {};

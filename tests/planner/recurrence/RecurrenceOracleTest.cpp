@@ -7,6 +7,7 @@
 #include "planner/lists/EventMarks.h"
 #include "planner/recurrence/EventOccursOn.h"
 #include "planner/recurrence/EventWalk.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ void ForEachBatch(int count, const std::function<void(std::mt19937&, const Batch
         FillStore(batch.all);
         check(random, batch);
     }
-    Store = {};
+    ResetStore();
 }
 
 std::vector<EventOccurrence> ExpectedWalk(const Batch& batch, Date last) {

@@ -5,6 +5,7 @@
 #include "core/Values.h"
 #include "planner/recurrence/EventOccursOn.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -35,7 +36,7 @@ void ExpectEachListToHold(int count) {
 class SeriesEdits : public testing::Test {
 protected:
     void SetUp() override {
-        Store = {};
+        ResetStore();
         NextEventID = 6;
         AddEventRecord({.desc = "First"});
         AddEventRecord({.desc = "Series",

@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "core/RunTimeError.h"
 #include "support/EventRecords.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,7 @@ namespace {
 
 class SeriesFields : public testing::Test {
 protected:
-    void SetUp() override { Store = {}; }
+    void SetUp() override { ResetStore(); }
 };
 
 } // namespace

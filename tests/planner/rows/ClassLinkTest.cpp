@@ -15,7 +15,7 @@ void AddClass(const std::string& id, const std::string& term, const std::string&
 class ClassLinks : public testing::Test {
 protected:
     void SetUp() override {
-        Store = {};
+        ResetStore();
         AddClass("10", "4", "Chemistry");
         AddClass("11", "4", "DELETED RECORD");
         AddClass("12", "5", "Algebra");
@@ -24,10 +24,7 @@ protected:
         ActiveTermID = 4;
     }
 
-    void TearDown() override {
-        Store = {};
-        ActiveTermID = 0;
-    }
+    void TearDown() override { ResetStore(); }
 };
 
 } // namespace
