@@ -2,11 +2,11 @@
 // subject in files of their own; other windows read the fields directly.
 #pragma once
 
-#include "mainwindow/menus/PopupCaptions.h"
-#include "mainwindow/month/MonthCells.h"
 #include "mainwindow/state/LargeCalendarLayout.h"
 #include "mainwindow/state/Mode.h"
+#include "mainwindow/state/PopupItem.h"
 #include "mainwindow/state/StudyTimerClock.h"
+#include "planner/lists/MonthCells.h"
 #include "planner/rows/ListFilter.h"
 #include "platform/Clock.h"
 #include "toolkit/ClickLabel.h"

@@ -5,9 +5,7 @@ target_sources(planovarium_logic PRIVATE
   mainwindow/menus/PopupCaptions.cpp
   mainwindow/menus/StartupShortcut.cpp
   mainwindow/modes/ModeTables.cpp
-  mainwindow/month/MonthCells.cpp
   mainwindow/month/MonthMarks.cpp
-  mainwindow/month/ViewMenuColor.cpp
   mainwindow/panels/TermStatus.cpp
   mainwindow/state/LargeCalendarLayout.cpp
   mainwindow/state/StudyTimerClock.cpp

@@ -1,5 +1,8 @@
 target_sources(planovarium_windows PRIVATE
   mainwindow/day/DaySchedule.cpp
+  mainwindow/dialogs/frmAlert.cpp
+  mainwindow/dialogs/frmAlert.h
+  mainwindow/dialogs/frmAlert.ui
   mainwindow/flows/ActiveTerm.cpp
   mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp
@@ -12,20 +15,19 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/frame/Load.cpp
   mainwindow/frame/RefreshView.cpp
   mainwindow/frame/Unload.cpp
-  mainwindow/frmAlert.cpp
-  mainwindow/frmAlert.h
-  mainwindow/frmAlert.ui
   mainwindow/frmMain.h
-  mainwindow/grid/GridAccessible.cpp
-  mainwindow/grid/GridClicks.cpp
-  mainwindow/grid/GridKeys.cpp
-  mainwindow/grid/GridPointer.cpp
-  mainwindow/grid/GridScroll.cpp
-  mainwindow/grid/GridTable.cpp
-  mainwindow/grid/ListGrid.cpp
+  mainwindow/grid/ViewParts.cpp
+  mainwindow/input/GridAccessible.cpp
+  mainwindow/input/GridClicks.cpp
+  mainwindow/input/GridKeys.cpp
+  mainwindow/input/GridPointer.cpp
+  mainwindow/input/GridScroll.cpp
+  mainwindow/input/GridTable.cpp
   mainwindow/list/EventList.cpp
   mainwindow/list/HomeworkGrid.cpp
+  mainwindow/list/ListGrid.cpp
   mainwindow/list/ListRows.cpp
+  mainwindow/list/ListTitles.cpp
   mainwindow/list/ReminderGrid.cpp
   mainwindow/list/StudyGrid.cpp
   mainwindow/list/TaskGrid.cpp

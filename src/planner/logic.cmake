@@ -15,9 +15,11 @@ target_sources(planovarium_logic PRIVATE
   planner/lists/EventMarks.cpp
   planner/lists/EventSelection.cpp
   planner/lists/HomeworkSelection.cpp
+  planner/lists/MonthCells.cpp
   planner/lists/ReminderSelection.cpp
   planner/lists/RowSorts.cpp
   planner/lists/TaskSelection.cpp
+  planner/lists/ViewMenuColor.cpp
   planner/recurrence/EventOccursOn.cpp
   planner/recurrence/EventWalk.cpp
   planner/recurrence/SeriesEdits.cpp

@@ -2,7 +2,7 @@
 // typed into and where the keys go.
 #include "core/DateText.h"
 #include "editors/DialogsFixture.h"
-#include "mainwindow/frmAlert.h"
+#include "mainwindow/dialogs/frmAlert.h"
 #include "toolkit/ElidedLabel.h"
 #include "toolkit/WindowColors.h"
 

@@ -5,9 +5,7 @@ target_sources(logic_tests PRIVATE
   mainwindow/menus/PopupCaptionsTest.cpp
   mainwindow/menus/StartupShortcutTest.cpp
   mainwindow/modes/ModeTablesTest.cpp
-  mainwindow/month/MonthCellsTest.cpp
   mainwindow/month/MonthMarksTest.cpp
-  mainwindow/month/ViewMenuColorTest.cpp
   mainwindow/panels/TermStatusTest.cpp
   mainwindow/state/LargeCalendarLayoutTest.cpp
   mainwindow/state/StudyTimerClockTest.cpp

@@ -6,12 +6,12 @@ target_sources(window_tests PRIVATE
   mainwindow/frame/RefreshViewTest.cpp
   mainwindow/frame/WindowLooksTest.cpp
   mainwindow/frame/WindowWalkTest.cpp
-  mainwindow/grid/GridAccessibleTest.cpp
-  mainwindow/grid/GridClicksTest.cpp
-  mainwindow/grid/GridKeysTest.cpp
-  mainwindow/grid/GridPointerTest.cpp
-  mainwindow/grid/GridScrollTest.cpp
-  mainwindow/grid/GridTest.cpp
+  mainwindow/input/GridAccessibleTest.cpp
+  mainwindow/input/GridClicksTest.cpp
+  mainwindow/input/GridKeysTest.cpp
+  mainwindow/input/GridPointerTest.cpp
+  mainwindow/input/GridScrollTest.cpp
+  mainwindow/input/GridTest.cpp
   mainwindow/list/ListGridTest.cpp
   mainwindow/menus/AutoStartTest.cpp
   mainwindow/menus/CommandsTest.cpp

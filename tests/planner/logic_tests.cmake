@@ -17,11 +17,13 @@ target_sources(logic_tests PRIVATE
   planner/lists/EventSelectionTest.cpp
   planner/lists/EventSortsTest.cpp
   planner/lists/HomeworkSelectionTest.cpp
+  planner/lists/MonthCellsTest.cpp
   planner/lists/ReminderSelectionTest.cpp
   planner/lists/RowSortsPropertyTest.cpp
   planner/lists/RowSortsTest.cpp
   planner/lists/SortedRows.cpp
   planner/lists/TaskSelectionTest.cpp
+  planner/lists/ViewMenuColorTest.cpp
   planner/recurrence/EventOccursOnTest.cpp
   planner/recurrence/EventWalkTest.cpp
   planner/recurrence/RecurrenceOracle.cpp

@@ -1,8 +1,10 @@
 // The schedule of a day in Events mode: half hours from midnight on, and the boxes of the events over them.
+#include "mainwindow/day/DaySchedule.h"
+
 #include "core/RowLists.h"
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/grid/ViewParts.h"
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/lists/DayTotals.h"
 #include "planner/lists/EventSelection.h"

@@ -1,6 +1,6 @@
 // The alert buttons and the message that each explains itself with.
 #include "core/Module1.h"
-#include "mainwindow/frmAlert.h"
+#include "mainwindow/dialogs/frmAlert.h"
 #include "mainwindow/frmMain.h"
 #include "planner/study/AlertMessage.h"
 #include "toolkit/FirstOpen.h"

@@ -1,7 +1,7 @@
 // The main window put together: the menu bar over the mode bar, the left panel beside the view, the status
 // bar.
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridAccessible.h"
+#include "mainwindow/input/GridAccessible.h"
 #include "toolkit/ElidedLabel.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/WindowStyle.h"

@@ -1,7 +1,8 @@
 // The Reminders list.
 #include "core/RowLists.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/grid/ViewParts.h"
+#include "mainwindow/list/ListGrid.h"
 #include "mainwindow/list/ListRows.h"
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/dates/DaysAway.h"

@@ -1,19 +1,7 @@
 // The items of the context menus and of the tray menu: their captions and the commands behind them.
 #pragma once
 
-#include <string>
-#include <vector>
-
-// A caption and the two words of the command, subject and verb; both in the characters of the store. A
-// caption of "-" is a separator and has no command.
-struct PopupItem {
-    std::string caption;
-    std::string tag;
-
-    friend bool operator==(const PopupItem&, const PopupItem&) = default;
-};
-
-using PopupItems = std::vector<PopupItem>;
+#include "mainwindow/state/PopupItem.h"
 
 PopupItems CalendarMenuItems();
 PopupItems HomeworkListMenuItems();

@@ -3,6 +3,7 @@
 #include "core/RowLists.h"
 #include "core/Values.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/PopupCaptions.h"
 #include "planner/lists/EventSelection.h"
 #include "planner/lists/HomeworkSelection.h"
 #include "planner/lists/RowSorts.h"

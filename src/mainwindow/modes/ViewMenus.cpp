@@ -2,7 +2,7 @@
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeTables.h"
-#include "mainwindow/month/ViewMenuColor.h"
+#include "planner/lists/ViewMenuColor.h"
 #include "toolkit/PictureBox.h"
 #include "toolkit/Text.h"
 

@@ -1,6 +1,6 @@
 // The large calendar, painted on the grid in Calendar mode.
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/grid/ViewParts.h"
 #include "mainwindow/state/LargeCalendarLayout.h"
 #include "planner/dates/DateTitles.h"
 #include "toolkit/Text.h"

@@ -5,9 +5,9 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
-#include "mainwindow/month/ViewMenuColor.h"
 #include "planner/dates/DateHelpers.h"
 #include "planner/lists/EventMarks.h"
+#include "planner/lists/ViewMenuColor.h"
 #include "planner/reminders/ReminderItems.h"
 #include "planner/rows/ViewFilter.h"
 

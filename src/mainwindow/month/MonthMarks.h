@@ -2,8 +2,8 @@
 // A record belongs to a cell when its date is 0 to 41 days after that of the first cell.
 #pragma once
 
-#include "mainwindow/month/MonthCells.h"
 #include "mainwindow/state/Mode.h"
+#include "planner/lists/MonthCells.h"
 #include "planner/rows/ListFilter.h"
 
 // Clears the marks and sets those of the mode; Mode::None has none. Counters that the mode does not count

@@ -1,7 +1,7 @@
 // Where everything of the large calendar stands on the grid, for its painting and for the clicks on it.
 #pragma once
 
-#include "mainwindow/month/MonthCells.h"
+#include "planner/lists/MonthCells.h"
 #include "platform/Units.h"
 
 #include <array>

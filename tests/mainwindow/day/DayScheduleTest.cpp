@@ -1,5 +1,5 @@
 // The schedule of a day as painted.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
 

@@ -1,6 +1,6 @@
 // How the main window looks where that is more than colours of records: long names, the buttons for new
 // records, the sort arrow, the ground of the small calendar, lines at fractions of a scale, tips.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 #include "support/Looks.h"
 #include "toolkit/WindowStyle.h"
 

@@ -3,7 +3,7 @@
 // Every run takes ShortWalk steps of each seed; with PLANOVARIUM_LONG_WALK set it takes LongWalk, three times
 // 5,000.
 #include "core/DateText.h"
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include <QApplication>
 #include <QWheelEvent>

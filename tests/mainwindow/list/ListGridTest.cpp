@@ -1,5 +1,5 @@
 // The lists of the grid: their titles, their rows as painted, and the texts over them.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
 

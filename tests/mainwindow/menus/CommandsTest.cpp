@@ -1,5 +1,5 @@
 // The commands of the menu bar, the mode bar and the buttons.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 #include "toolkit/Text.h"
 
 #include <QMenuBar>

@@ -1,5 +1,5 @@
 // The keys of the menus' items: each item has one, and no two of a menu share it.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include <QMenuBar>
 

@@ -1,5 +1,5 @@
 // The context menus: what opens where, and what their commands do.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
 #include "toolkit/Text.h"

@@ -1,7 +1,7 @@
 // The tables of the modes: the words of the filter menus, the steps of a refresh.
 #include "mainwindow/modes/ModeTables.h"
 
-#include "mainwindow/month/ViewMenuColor.h"
+#include "planner/lists/ViewMenuColor.h"
 #include "support/CaseName.h"
 
 #include <gtest/gtest.h>

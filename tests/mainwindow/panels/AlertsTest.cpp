@@ -1,6 +1,6 @@
 // The alert buttons, and the window behind each.
 #include "core/Module1.h"
-#include "mainwindow/frmAlert.h"
+#include "mainwindow/dialogs/frmAlert.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 #include "toolkit/Modal.h"

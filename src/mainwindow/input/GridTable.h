@@ -2,20 +2,12 @@
 // events of the day, each with the texts that are painted. Rows and columns count from 0 here.
 #pragma once
 
-#include "mainwindow/grid/GridLayout.h"
-#include "mainwindow/state/Mode.h"
-
 #include <QRect>
 #include <QString>
-
-#include <optional>
 
 class frmMain;
 
 inline constexpr int TitleRow = -1;
-
-// The list that the mode shows; nothing where it shows none.
-std::optional<ListKind> ListOf(Mode mode);
 
 struct GridTable {
     int rows = 0;

@@ -2,8 +2,8 @@
 #include "core/RowLists.h"
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridAccessible.h"
-#include "mainwindow/grid/GridPointer.h"
+#include "mainwindow/input/GridAccessible.h"
+#include "mainwindow/input/GridPointer.h"
 #include "planner/reminders/ReminderItems.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // The scroll bar of the grid, the wheel, and which layout and fill the mode has.
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridAccessible.h"
 #include "mainwindow/grid/GridLayout.h"
-#include "mainwindow/grid/GridPointer.h"
+#include "mainwindow/input/GridAccessible.h"
+#include "mainwindow/input/GridPointer.h"
 
 #include <QSignalBlocker>
 #include <QWheelEvent>

@@ -1,6 +1,6 @@
 // What the pointer is shown on the grid as it passes: what a click opens, and the tips.
-#include "mainwindow/grid/GridPointer.h"
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridPointer.h"
+#include "mainwindow/input/GridTest.h"
 #include "toolkit/Text.h"
 
 #include <QHelpEvent>

@@ -1,5 +1,5 @@
 // frmAlert: a small window with one text and an OK button, which the alert buttons show.
-#include "mainwindow/frmAlert.h"
+#include "mainwindow/dialogs/frmAlert.h"
 
 #include "toolkit/PictureBox.h"
 #include "toolkit/WindowColors.h"

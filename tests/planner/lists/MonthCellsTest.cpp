@@ -1,5 +1,5 @@
 // The cells of the month, their colours, and where the controls of the calendar go.
-#include "mainwindow/month/MonthCells.h"
+#include "planner/lists/MonthCells.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,13 @@
 // What the pointer is shown on the grid as it passes.
-#include "mainwindow/grid/GridPointer.h"
+#include "mainwindow/input/GridPointer.h"
 
 #include "core/RowLists.h"
 #include "mainwindow/day/DayLayout.h"
+#include "mainwindow/day/DaySchedule.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridTable.h"
-#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/input/GridTable.h"
+#include "mainwindow/list/ListGrid.h"
+#include "mainwindow/list/ListTitles.h"
 #include "toolkit/Text.h"
 #include "toolkit/WindowStyle.h"
 

@@ -1,5 +1,5 @@
 // Sorting and clicking on the grid.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
 

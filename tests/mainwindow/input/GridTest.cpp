@@ -1,5 +1,5 @@
 // A test of the grid: the main window with a term and a class, and what stands on the grid read back.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "toolkit/Text.h"
 

@@ -1,5 +1,5 @@
 // The grid as the table that a screen reader is told of.
-#include "mainwindow/grid/GridTable.h"
+#include "mainwindow/input/GridTable.h"
 
 #include "core/DateText.h"
 #include "core/Module1.h"
@@ -8,21 +8,10 @@
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/list/ListRows.h"
+#include "mainwindow/list/ListTitles.h"
 #include "toolkit/Text.h"
 
 namespace {
-
-struct SpokenMark {
-    std::string_view mark;
-    const char* spoken;
-};
-
-// What is said in place of a mark.
-constexpr std::array<SpokenMark, 3> SpokenMarks{{
-    {"#", "Number"},
-    {ReminderMark, "Reminder"},
-    {PriorityMark, "Priority"},
-}};
 
 // The columns of the day's schedule.
 enum DayColumn { TimeColumn, LengthColumn, EventColumn, DayColumnCount };
@@ -40,18 +29,6 @@ std::size_t CellIndex(int row, int column) {
 }
 
 // --- The lists ---
-
-// The word for the title of a column; nothing where that is no mark.
-std::optional<QString> SpokenMarkOf(ListKind kind, int column) {
-    const std::string_view title = Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title);
-    const auto* const mark = std::ranges::find(SpokenMarks, title, &SpokenMark::mark);
-    return mark == SpokenMarks.end() ? std::nullopt : std::optional<QString>(QLatin1String(mark->spoken));
-}
-
-QString ListTitle(ListKind kind, int column) {
-    return SpokenMarkOf(kind, column)
-        .value_or(FromStore(Trim(ColumnsOf(kind)[static_cast<std::size_t>(column)].title)));
-}
 
 const GridCell& ListCell(const GridRow& row, int column) {
     return row.cells[static_cast<std::size_t>(column - 1)];
@@ -135,21 +112,6 @@ void PressEvent(frmMain& window, int row) {
 }
 
 } // namespace
-
-std::optional<ListKind> ListOf(Mode mode) {
-    switch (mode) {
-    case Mode::Homework:
-        return ListKind::Homework;
-    case Mode::StudySessions:
-        return ListKind::StudySessions;
-    case Mode::Tasks:
-        return ListKind::Tasks;
-    case Mode::Reminders:
-        return ListKind::Reminders;
-    default:
-        return std::nullopt;
-    }
-}
 
 GridTable TableOf(const frmMain& window) {
     const Mode mode = window.CurrentMode();

@@ -4,8 +4,8 @@
 // tomorrow.
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridAccessible.h"
 #include "mainwindow/grid/GridMoves.h"
+#include "mainwindow/input/GridAccessible.h"
 
 #include <QKeyEvent>
 

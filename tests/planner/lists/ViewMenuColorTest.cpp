@@ -1,5 +1,5 @@
 // The colours of the words in the view menu.
-#include "mainwindow/month/ViewMenuColor.h"
+#include "planner/lists/ViewMenuColor.h"
 #include "planner/rows/Colors.h"
 
 #include <gtest/gtest.h>

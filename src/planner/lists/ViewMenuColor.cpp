@@ -1,5 +1,5 @@
 // The colour by which the view menus' panel and the marked days tell which word is chosen in ComboList.
-#include "mainwindow/month/ViewMenuColor.h"
+#include "planner/lists/ViewMenuColor.h"
 
 #include "planner/rows/Colors.h"
 

@@ -1,5 +1,5 @@
 // The month that the small and the large calendar show, computed once for both.
-#include "mainwindow/month/MonthCells.h"
+#include "planner/lists/MonthCells.h"
 
 #include "planner/dates/DateHelpers.h"
 

@@ -1,8 +1,8 @@
 // The keys of the grid.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
-#include "mainwindow/grid/ListGrid.h"
+#include "mainwindow/grid/ViewParts.h"
 
 using namespace std::chrono_literals;
 

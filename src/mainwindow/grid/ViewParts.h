@@ -1,8 +1,7 @@
-// What the layouts and the fills of all lists share.
+// What the views on the grid share: the texts over them, the scroll bar, the font and the colours of the
+// rows.
 #pragma once
 
-#include "mainwindow/grid/GridLayout.h"
-#include "mainwindow/list/ListRows.h"
 #include "toolkit/PictureBox.h"
 #include "toolkit/WindowColors.h"
 
@@ -14,18 +13,6 @@ class frmMain;
 inline constexpr SurfaceFont ListFont{Face::List, 9, false};
 inline constexpr int EdgeLineColor = 0x808080;   // over and left of the data area
 inline constexpr int CurrentColor = AccentColor; // the frame of what the keys stand on
-
-// Places the titles of the list and the scroll bar and leaves an empty grid of its lines.
-void LayoutList(frmMain& window, ListKind kind);
-
-// What is painted of a cell's text in a column of that width.
-QString ShownCellText(const GridCell& cell, const ColumnPlace& column);
-
-// What is painted of the text of an event row in a box of that width.
-QString ShownEventText(int eventRow, int boxWidth);
-
-// Shows the rows that the selection and the sort have left, under their titles.
-void ShowList(frmMain& window, ListKind kind);
 
 // The two texts over the view: what it shows, and the selected day.
 void ShowTopTitles(frmMain& window, const QString& top);

@@ -1,5 +1,5 @@
 // The scroll bar of the grid and the mouse wheel.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include "core/RowLists.h"
 

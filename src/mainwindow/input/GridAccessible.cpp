@@ -1,8 +1,8 @@
 // The painted grid as a table for screen readers.
-#include "mainwindow/grid/GridAccessible.h"
+#include "mainwindow/input/GridAccessible.h"
 
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridTable.h"
+#include "mainwindow/input/GridTable.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

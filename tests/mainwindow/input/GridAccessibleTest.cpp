@@ -1,5 +1,5 @@
 // The grid as a screen reader is told of it.
-#include "mainwindow/grid/GridTest.h"
+#include "mainwindow/input/GridTest.h"
 
 #include <QAccessible>
 

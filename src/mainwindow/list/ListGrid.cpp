@@ -1,10 +1,9 @@
-// What the layouts and the fills of all lists share.
-#include "mainwindow/grid/ListGrid.h"
+// The layout and the fill of the lists on the grid.
+#include "mainwindow/list/ListGrid.h"
 
-#include "core/Module1.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridTable.h"
-#include "planner/dates/DateTitles.h"
+#include "mainwindow/grid/ViewParts.h"
+#include "mainwindow/list/ListTitles.h"
 #include "planner/rows/Colors.h"
 #include "toolkit/Text.h"
 #include "toolkit/WindowStyle.h"
@@ -76,8 +75,8 @@ void DrawTitle(PictureBox& header, const QString& title, bool sorted, int direct
 }
 
 // A digit sorts by the column of that number.
-QString SortTip(const frmMain& window, int column) {
-    return TipWithKey(QStringLiteral("Sort by %1").arg(TableTitle(window, column)), Qt::Key_0 + column);
+QString SortTip(ListKind kind, int column) {
+    return TipWithKey(QStringLiteral("Sort by %1").arg(ListTitle(kind, column)), Qt::Key_0 + column);
 }
 
 void DrawTitles(frmMain& window, ListKind kind) {
@@ -86,7 +85,7 @@ void DrawTitles(frmMain& window, ListKind kind) {
         const int column = static_cast<int>(i);
         DrawTitle(*window.picColHeader[i], FromStore(columns[i].title), column == window.SortColumn,
                   window.SortDirection);
-        window.picColHeader[i]->setToolTip(i == 0 ? QString() : SortTip(window, column));
+        window.picColHeader[i]->setToolTip(i == 0 ? QString() : SortTip(kind, column));
     }
 }
 
@@ -159,37 +158,6 @@ void ShowList(frmMain& window, ListKind kind) {
     window.CurrentRow = std::min(window.CurrentRow, window.RowCount);
     DrawTitles(window, kind);
     DrawRows(window, kind);
-}
-
-void ShowTopTitles(frmMain& window, const QString& top) {
-    window.LabelTop->setText(top);
-    window.LabelInfoTitle->setText(FromScreen(DayTitle(window.ClickedDate)));
-}
-
-void ShowTopTitlesOfDay(frmMain& window, const char* words) {
-    ShowTopTitles(window, QLatin1String(words) + FromScreen(FormatDate(window.ClickedDate, "Long Date")));
-}
-
-void ShowTopTitlesOfTerm(frmMain& window, const char* dayWords, const char* termWords) {
-    if (!ActiveTermIsLiving()) {
-        ShowTopTitles(window, {});
-    } else if (window.CurrentFilter().comboDateRange == "Day") {
-        ShowTopTitlesOfDay(window, dayWords);
-    } else {
-        ShowTopTitles(window, QLatin1String(termWords) + FromStore(ActiveTermName));
-    }
-}
-
-void HideColumnTitles(frmMain& window) {
-    for (PictureBox* header : window.picColHeader) {
-        header->hide();
-    }
-}
-
-void PlaceScrollBar(frmMain& window) {
-    const int width = ScrollStripWidth / UnitsPerPixel;
-    window.VSGridScroll->setGeometry(window.picGrid->width() - width, 0, width, window.picGrid->height());
-    window.VSGridScroll->show();
 }
 
 void frmMain::HighlightRow(int row, bool on) {
