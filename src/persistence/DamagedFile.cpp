@@ -16,8 +16,7 @@ std::string FreeName(const std::string& fileName) {
     const std::string stem = fs::path(fileName).stem().string() + "_damaged";
     std::string name = stem + ".xml";
     std::error_code error;
-    for (int number = 2; fs::symlink_status(BackupFolder / name, error).type() != fs::file_type::not_found;
-         ++number) {
+    for (int number = 2; fs::exists(fs::symlink_status(BackupFolder / name, error)); ++number) {
         name = stem + std::to_string(number) + ".xml";
     }
     return name;

@@ -161,6 +161,33 @@ TEST_F(DamagedRecords, WithoutACopyTheFileIsNotReplaced) {
     EXPECT_TRUE(FileWrittenFlags.tasks);
 }
 
+// A device that has gone tells of each name in it neither that it is there nor that it is not.
+TEST_F(DamagedRecords, AFolderThatTellsNothingOfItsNamesEndsInTheWritingBox) {
+    ReadCutBefore("</desc>");
+    fs::remove(BackupFolder);
+    fs::create_symlink(BackupFolder, BackupFolder);
+    AddAfterDrop("four");
+    EXPECT_EQ(Script.boxes.back(), FileErrorBox("tasks_damaged.xml", "writing"));
+    EXPECT_EQ(DataFile("tasks.xml"), cut);
+}
+
+TEST_F(DamagedRecords, TheWriterAloneTakesNothingOut) {
+    ReadCutBefore("</desc>");
+    WriteTasks();
+    EXPECT_EQ(Script.boxes.back(), FileErrorBox("tasks.xml.tmp", "writing"));
+    EXPECT_EQ(Store.TaskRecord.id.Count(), 3);
+    EXPECT_EQ(DataFile("tasks.xml"), cut);
+}
+
+TEST_F(DamagedRecords, ARootThatClosesWithinARecordIsACutToo) {
+    std::string bytes = whole;
+    bytes.erase(bytes.rfind("</task>\r\n"), std::string("</task>\r\n").size());
+    ReadInsteadOfTasks(bytes);
+    AddAfterDrop("four");
+    EXPECT_EQ(Descriptions(), (Texts{"one", "two", "three", "four"}));
+    EXPECT_EQ(BackupFile("tasks_damaged.xml"), bytes);
+}
+
 TEST_F(DamagedRecords, AFileThatHasGoneIsSavedAnew) {
     ReadCutBefore("</desc>");
     fs::remove("tasks.xml");
