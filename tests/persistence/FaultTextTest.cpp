@@ -11,7 +11,9 @@
 #include "planner/lists/TaskSelection.h"
 #include "planner/recurrence/EventOccursOn.h"
 #include "planner/study/StudyTimeToday.h"
+#include "support/CutDrive.h"
 #include "support/EventRecords.h"
+#include "support/RuleResults.h"
 
 namespace {
 
@@ -87,6 +89,28 @@ TEST_F(Fault, IsFoundByEachConversionAndFromAnyPartOfItsText) {
         EXPECT_NE(TextOf(uses[i]).find("\nField: duration\nValue: \"" + value + "\""), std::string::npos)
             << i;
     }
+}
+
+// The first record of each kind is met by all rules.
+TEST_F(Fault, FromWhicheverRuleIsFoundByItsPlace) {
+    FillCutDrive(2);
+    const PlannerStore whole = Store;
+    int faults = 0;
+    for (const RecordFile& file : RecordFiles()) {
+        for (const RecordField& field : file.fields) {
+            Store = whole;
+            field.list->Replace(1, "not so");
+            const std::string text = TextOf([] { RuleResults(); });
+            if (text != "no error") {
+                ++faults;
+                EXPECT_NE(text.find("\n\nFile: " + file.name + "\nRecord: 1, \""), std::string::npos) << text;
+                EXPECT_NE(text.find("\nField: " + std::string(field.tag) + "\nValue: \"not so\""),
+                          std::string::npos)
+                    << file.name << ' ' << field.tag << ": " << text;
+            }
+        }
+    }
+    EXPECT_GE(faults, 15);
 }
 
 TEST_F(Fault, OfANumberThatDoesNotFitIsFoundToo) {

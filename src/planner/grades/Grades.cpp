@@ -191,6 +191,18 @@ std::string StudyTimeText(int minutes) {
     return text.starts_with('0') ? text.substr(1) : text;
 }
 
+// Where the store has the credits of which the table's copy lies at the place; other places stay as they are.
+const char* PlaceInStore(const GPATable& table, const char* place) {
+    const ClassLists& classes = Store.ClassRecord;
+    int row = TotalRow;
+    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
+        if (IsActiveClass(position) && LiesIn(table.GPACredits.Item(++row), place)) {
+            return classes.credits.Item(position).data();
+        }
+    }
+    return place;
+}
+
 int RowNamed(const GPATable& table, std::string_view name) {
     for (int row = TotalRow; row <= table.GPANames.Count(); ++row) {
         if (table.GPANames.Item(row) == name) {
@@ -224,7 +236,12 @@ GPATable BuildGPATable(bool chroma) {
         AddRow(table, ActiveClasses.name.Item(position), ActiveClasses.id.Item(position),
                ActiveClasses.credits.Item(position));
     }
-    ComputeGPA(table, chroma);
+    try {
+        ComputeGPA(table, chroma);
+    } catch (RunTimeError& error) {
+        error.place = PlaceInStore(table, error.place);
+        throw;
+    }
     return table;
 }
 
