@@ -5,6 +5,7 @@
 #include "planner/recurrence/SeriesEdits.h"
 #include "planner/reminders/ReminderActions.h"
 #include "planner/reminders/ReminderItems.h"
+#include "planner/rows/ClassLink.h"
 #include "support/Reminders.h"
 #include "support/RuleResults.h"
 #include "support/ScriptedPlatform.h"
@@ -114,6 +115,13 @@ TEST_F(WholeRecordsTest, AloneAreFoundByTheirIds) {
         EXPECT_EQ(ReminderPosition(mode, "3"), 3);
     }
     EXPECT_EQ(ReminderPosition(EventMode, "8"), 0);
+}
+
+TEST_F(WholeRecordsTest, AloneAreMetByTheirLinks) {
+    EXPECT_EQ(ClassPosition({1, 3}), 3);
+    Store.ClassRecord.notes.Remove(3);
+    EXPECT_EQ(ClassPosition({1, 3}), 0);
+    EXPECT_EQ(ClassPosition({1, 2}), 2);
 }
 
 TEST_F(WholeRecordsTest, AloneGoWithTheirSeries) {
