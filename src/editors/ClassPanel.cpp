@@ -127,7 +127,7 @@ void frmCourseSchedule::ShowClassColors() {
 
 // A field that still has the focus is validated first, as it would be in losing it.
 void frmCourseSchedule::AcceptClass() {
-    if (focusWidget() == TextBoxCredits && !ValidateCredits(false)) {
+    if (!ValidateField(focusWidget(), false)) {
         return;
     }
     ValidateClassPanel();
@@ -228,9 +228,6 @@ bool frmCourseSchedule::ValidateCredits(bool quiet) {
     return false;
 }
 
-bool frmCourseSchedule::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != TextBoxCredits || CloseOK || ShuttingDown || !EntryEnds(event)) {
-        return QDialog::eventFilter(watched, event);
-    }
-    return EndEntry(event, ButtonCancelClass, [this](bool quiet) { return ValidateCredits(quiet); });
+bool frmCourseSchedule::ValidateField(const QObject* field, bool quiet) {
+    return field != TextBoxCredits || ValidateCredits(quiet);
 }

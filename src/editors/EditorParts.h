@@ -156,6 +156,7 @@ struct EditorState {
     std::string EditMode;       // "New" or "Edit"
     Date tempClickedDate{};     // the day of a new item
     std::string tempStartDayOfWeek = "Sunday";
+    std::function<void()> BeforeHide; // where there is one, called before an answer hides the dialog
 };
 
 // Asks the student; true for Yes. Enter alone presses No, unless told that Yes gives up nothing that is
@@ -165,6 +166,9 @@ bool IsYes(std::string_view question, Preset preset = Preset::No);
 // Clears the four flags, as the last step of filling an editor.
 void ClearFlags(EditorState& state);
 
+// Hides the dialog with the answer that its flags hold.
+void HideEditor(QDialog& dialog, EditorState& state);
+
 // Hides the dialog with OK as the answer.
 void AcceptEditor(QDialog& dialog, EditorState& state);
 
@@ -172,11 +176,12 @@ void AcceptEditor(QDialog& dialog, EditorState& state);
 // question has it.
 std::string CancelQuestion(const EditorState& state, std::string_view item);
 
-// Hides the dialog with Cancel as the answer, after the question if something has changed.
-void CancelEditor(QDialog& dialog, EditorState& state, std::string_view question);
+// Hides the dialog with Cancel as the answer, after the question if something has changed. Gives whether it
+// did.
+bool CancelEditor(QDialog& dialog, EditorState& state, std::string_view question);
 
-// Hides the dialog with Delete as the answer, after a question that names the item.
-void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item);
+// Hides the dialog with Delete as the answer, after a question that names the item. Gives whether it did.
+bool DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item);
 
 // The close box counts as Cancel; a close that is not the student's passes.
 void CloseEditor(QDialog& dialog, EditorState& state, std::string_view question, QCloseEvent& event);

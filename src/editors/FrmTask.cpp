@@ -2,13 +2,11 @@
 #include "editors/FrmTask.h"
 
 #include "core/DateText.h"
-#include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/DialogLook.h"
 #include "editors/FieldLines.h"
 #include "planner/entries/AssignmentEntry.h"
 #include "planner/entries/ComboRows.h"
-#include "planner/entries/ReminderEntry.h"
 #include "planner/entries/TypeEntry.h"
 #include "planner/rows/Colors.h"
 
@@ -22,7 +20,7 @@ constexpr int ColorNoDeadlineText = 0xC0C0C0; // 0xBBGGRR
 
 FrmTask* TaskDialog = nullptr;
 
-FrmTask::FrmTask(QWidget* parent) : QDialog(parent) {
+FrmTask::FrmTask(QWidget* parent) : ItemEditor(parent) {
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -37,13 +35,10 @@ void FrmTask::SetupControls() {
     AddRows(ComboPriority, PriorityRows);
     SetupTypedCombo(ComboPercentComplete);
     AddRows(ComboPercentComplete, PercentRows);
-    SetupReminder(ReminderOf(*this));
-    SetupDateBoxes({{TextboxTaskDate, picButtonTaskDate}, {TextboxReminderDate, PicButtonReminderDate}});
+    SetupItem({DoneOf(*this), ReminderOf(*this), TextboxTaskDate, picButtonTaskDate, &tempTaskDate,
+               &tempTaskReminderDate, &tempTaskReminderAlarm, &tempTaskReminderList});
     SetupNames(ComboType);
     SetupHelpButton(picHelp);
-    Picker = new DatePicker(this);
-    Picker->AddField(true, TextboxTaskDate, picButtonTaskDate, tempTaskDate);
-    Picker->AddField(false, TextboxReminderDate, PicButtonReminderDate, tempTaskReminderDate);
 }
 
 void FrmTask::SetTopics() {
@@ -67,26 +62,24 @@ void FrmTask::SetTopics() {
 }
 
 void FrmTask::BindControls() {
+    BindItem();
+    BindAnswers(ButtonOK, ButtonCancel, ButtonDelete, ItemName);
+    WatchEntries(ButtonCancel, {ComboPriority, ComboPercentComplete, ComboReminderTime});
     const auto changed = [this] { ChangeFlag = true; };
     connect(TextBoxDescription, &QLineEdit::textChanged, this, changed);
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
     connect(ComboType, &QComboBox::activated, this, changed);
     connect(ComboPriority, &QComboBox::activated, this, changed);
-    connect(ComboPercentComplete, &QComboBox::activated, this, &FrmTask::TakePercent);
-    connect(CheckBoxDone, &QCheckBox::toggled, this, &FrmTask::DoneClicked);
-    connect(CheckboxReminder, &QCheckBox::toggled, this, &FrmTask::ReminderClicked);
     connect(CheckBoxDeadline, &QCheckBox::toggled, this, [this] {
         PaintDeadline();
         ChangeFlag = true;
     });
     connect(LabelDeadline, &ClickLabel::Clicked, CheckBoxDeadline, &QCheckBox::click);
-    connect(Picker, &DatePicker::DatePicked, this, &FrmTask::TakeDate);
-    for (QComboBox* combo : {ComboPriority, ComboPercentComplete, ComboReminderTime}) {
-        combo->installEventFilter(this);
-    }
-    connect(ButtonOK, &QPushButton::clicked, this, &FrmTask::accept);
-    connect(ButtonCancel, &QPushButton::clicked, this, &FrmTask::reject);
-    connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
+    connect(Picker, &DatePicker::DatePicked, this, [this] {
+        if (Picker->DateTarget) {
+            CheckBoxDeadline->setChecked(true);
+        }
+    });
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
@@ -139,12 +132,6 @@ void FrmTask::FillEdit() {
     FillDates(DateValue(tempTaskDate), DateValue(tempTaskReminderDate));
 }
 
-void FrmTask::FillDates(Date date, Date reminderDate) {
-    ShowDateField(tempTaskDate, TextboxTaskDate, date);
-    ShowDateField(tempTaskReminderDate, TextboxReminderDate, reminderDate);
-    SetAlarm();
-}
-
 // --- What follows an entry ---------------------------------------------------------------------------------
 
 void FrmTask::PaintDeadline() {
@@ -152,63 +139,15 @@ void FrmTask::PaintDeadline() {
     SetLabelColors(LabelDeadline, on ? ColorWhite : ColorNoDeadlineText, on ? ColorBlack : ColorNoDeadline);
 }
 
-// A percent was chosen or typed.
-void FrmTask::TakePercent() {
-    UpdateEstimateFlag = true;
-    ValidatePercentEntry(DoneOf(*this));
-    UpdateEstimateFlag = false;
-    ChangeFlag = true;
-}
-
-void FrmTask::DoneClicked() {
-    if (UpdateEstimateFlag) {
-        return;
-    }
-    PercentFollowsDone(DoneOf(*this));
-    ChangeFlag = true;
-}
-
-void FrmTask::ReminderClicked() {
-    PaintReminder(ReminderOf(*this));
-    if (CheckboxReminder->isChecked()) {
-        SetAlarm();
-    }
-    ChangeFlag = true;
-}
-
-void FrmTask::SetAlarm() {
-    tempTaskReminderAlarm = AlarmOf(tempTaskReminderDate, ComboReminderTime);
-}
-
-void FrmTask::TakeDate(Date date) {
-    if (Picker->DateTarget) {
-        ShowDateField(tempTaskDate, TextboxTaskDate, date);
-        CheckBoxDeadline->setChecked(true);
-    } else {
-        ShowDateField(tempTaskReminderDate, TextboxReminderDate, date);
-        SetAlarm();
-    }
-    ChangeFlag = true;
-}
-
-void FrmTask::ValidateField(const QObject* field) {
+bool FrmTask::ValidateField(const QObject* field, bool /*quiet*/) {
     if (field == ComboPercentComplete) {
         TakePercent();
     } else if (field == ComboPriority) {
         ShowComboText(ComboPriority, CutToLimit(TextOf(ComboPriority)));
     } else if (field == ComboReminderTime) {
-        ShowComboText(ComboReminderTime, ValidateTime(TextOf(ComboReminderTime)));
-        SetAlarm();
-        ChangeFlag = true;
+        ValidateReminderTime();
     }
-}
-
-bool FrmTask::eventFilter(QObject* watched, QEvent* event) {
-    if (CloseOK || ShuttingDown || !EntryEnds(event)) {
-        return QDialog::eventFilter(watched, event);
-    }
-    ValidateField(watched);
-    return event->type() == QEvent::KeyPress; // Enter does not press OK as well
+    return true;
 }
 
 // --- Closing -----------------------------------------------------------------------------------------------
@@ -216,18 +155,12 @@ bool FrmTask::eventFilter(QObject* watched, QEvent* event) {
 // Nothing is required of a task. A field that still has the focus is validated first, as it would be in
 // losing it.
 void FrmTask::accept() {
-    ValidateField(focusWidget());
+    ValidateField(focusWidget(), false);
     tempTaskType = ResolveTaskType(TextOf(ComboType), tempTaskType);
-    if (CheckboxReminder->isChecked()) {
-        tempTaskReminderList = BooleanText(false); // armed again
-    }
+    ArmReminder();
     AcceptEditor(*this, *this);
 }
 
-void FrmTask::reject() {
-    CancelEditor(*this, *this, CancelQuestion(*this, ItemName));
-}
-
-void FrmTask::closeEvent(QCloseEvent* event) {
-    CloseEditor(*this, *this, CancelQuestion(*this, ItemName), *event);
+std::string FrmTask::CancelQuestion() const {
+    return ::CancelQuestion(*this, ItemName);
 }

@@ -2,12 +2,11 @@
 // EditTask of the main window fill its fields, show it, read its controls and write the record.
 #pragma once
 
-#include "editors/DatePicker.h"
-#include "editors/EditorParts.h"
+#include "editors/ItemEditor.h"
 
 #include "ui_FrmTask.h"
 
-class FrmTask : public QDialog, public Ui::FrmTask, public EditorState {
+class FrmTask : public ItemEditor, public Ui::FrmTask {
     Q_OBJECT
 
 public:
@@ -32,15 +31,11 @@ public:
     std::string tempTaskReminderList;
     std::string tempTaskNotes;
 
-    DatePicker* Picker = nullptr;
-
-    // OK, and Cancel, which Escape counts as.
     void accept() override;
-    void reject() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    bool ValidateField(const QObject* field, bool quiet) override;
+    std::string CancelQuestion() const override;
 
 private:
     void SetupControls();
@@ -48,16 +43,7 @@ private:
     void SetTopics();
     void FillNew();
     void FillEdit();
-    void FillDates(Date date, Date reminderDate);
     void PaintDeadline();
-    void TakePercent();
-    void DoneClicked();
-    void ReminderClicked();
-    void SetAlarm();
-    void TakeDate(Date date);
-    void ValidateField(const QObject* field);
-
-    bool UpdateEstimateFlag = false; // the program sets the done box, which is no click
 };
 
 // The one dialog, from the load of the main window on, which owns it.

@@ -80,11 +80,18 @@ void ClearFlags(EditorState& state) {
     state.DeleteFlag = false;
 }
 
+void HideEditor(QDialog& dialog, EditorState& state) {
+    if (state.BeforeHide) {
+        state.BeforeHide();
+    }
+    state.CloseOK = true;
+    dialog.hide();
+}
+
 void AcceptEditor(QDialog& dialog, EditorState& state) {
     state.CancelledFlag = false;
     state.DeleteFlag = false;
-    state.CloseOK = true;
-    dialog.hide();
+    HideEditor(dialog, state);
 }
 
 std::string CancelQuestion(const EditorState& state, std::string_view item) {
@@ -92,21 +99,22 @@ std::string CancelQuestion(const EditorState& state, std::string_view item) {
     return what + std::string(item) + "?";
 }
 
-void CancelEditor(QDialog& dialog, EditorState& state, std::string_view question) {
+bool CancelEditor(QDialog& dialog, EditorState& state, std::string_view question) {
     if (state.ChangeFlag && !IsYes(question)) {
-        return;
+        return false;
     }
     state.CancelledFlag = true;
-    state.CloseOK = true;
-    dialog.hide();
+    HideEditor(dialog, state);
+    return true;
 }
 
-void DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item) {
-    if (IsYes("Are you sure you want to Delete this " + std::string(item) + "?")) {
-        state.DeleteFlag = true;
-        state.CloseOK = true;
-        dialog.hide();
+bool DeleteInEditor(QDialog& dialog, EditorState& state, std::string_view item) {
+    if (!IsYes("Are you sure you want to Delete this " + std::string(item) + "?")) {
+        return false;
     }
+    state.DeleteFlag = true;
+    HideEditor(dialog, state);
+    return true;
 }
 
 void CloseEditor(QDialog& dialog, EditorState& state, std::string_view question, QCloseEvent& event) {

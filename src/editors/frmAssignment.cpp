@@ -8,7 +8,6 @@
 #include "editors/FieldLines.h"
 #include "planner/entries/AssignmentEntry.h"
 #include "planner/entries/ComboRows.h"
-#include "planner/entries/ReminderEntry.h"
 #include "planner/grades/Grades.h"
 #include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
@@ -30,12 +29,11 @@ constexpr int ColorNoGrade = 0x808080;
 
 frmAssignment* AssignmentDialog = nullptr;
 
-frmAssignment::frmAssignment(QWidget* parent) : QDialog(parent) {
+frmAssignment::frmAssignment(QWidget* parent) : ItemEditor(parent) {
     setupUi(this);
     SetupControls();
     SetTopics();
     BindControls();
-    BindCombos();
 }
 
 void frmAssignment::SetupControls() {
@@ -50,8 +48,8 @@ void frmAssignment::SetupControls() {
     AddRows(ComboTypeList, AssignmentTypeRows);
     AddRows(ComboPercentComplete, PercentRows);
     AddRows(ComboEstTime, EstimateRows());
-    SetupReminder(ReminderOf(*this));
-    SetupDateBoxes({{TextboxDateDue, picButtonDateDue}, {TextboxReminderDate, PicButtonReminderDate}});
+    SetupItem({DoneOf(*this), ReminderOf(*this), TextboxDateDue, picButtonDateDue, &tempAssignmentDate,
+               &tempAssignmentReminderDate, &tempAssignmentReminderAlarm, &tempAssignmentReminderList});
     SetupNames(ComboClassNameList);
     LabelClass->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     LabelClass->Elision = Qt::ElideMiddle; // the name may be long, the word behind it stays
@@ -59,9 +57,6 @@ void frmAssignment::SetupControls() {
         ShowAsReadOnly(box);
     }
     SetupHelpButton(picHelp);
-    Picker = new DatePicker(this);
-    Picker->AddField(true, TextboxDateDue, picButtonDateDue, tempAssignmentDate);
-    Picker->AddField(false, TextboxReminderDate, PicButtonReminderDate, tempAssignmentReminderDate);
 }
 
 void frmAssignment::SetTopics() {
@@ -76,32 +71,21 @@ void frmAssignment::SetTopics() {
 }
 
 void frmAssignment::BindControls() {
+    BindItem();
+    BindAnswers(ButtonOK, ButtonCancel, ButtonDelete, ItemName);
+    WatchEntries(ButtonCancel, {ComboTypeList, ComboPercentComplete, ComboEstTime, ComboReminderTime,
+                                TextBoxScore, TextBoxTotal});
     const auto changed = [this] { ChangeFlag = true; };
     for (QLineEdit* box : {TextBoxDescription, TextBoxScore, TextBoxTotal}) {
         connect(box, &QLineEdit::textChanged, this, changed);
     }
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
-    connect(CheckBoxDone, &QCheckBox::toggled, this, &frmAssignment::DoneClicked);
-    connect(CheckboxReminder, &QCheckBox::toggled, this, &frmAssignment::ReminderClicked);
-    connect(Picker, &DatePicker::DatePicked, this, &frmAssignment::TakeDate);
-    connect(ButtonOK, &QPushButton::clicked, this, &frmAssignment::accept);
-    connect(ButtonCancel, &QPushButton::clicked, this, &frmAssignment::reject);
-    connect(ButtonDelete, &QPushButton::clicked, this, [this] { DeleteInEditor(*this, *this, ItemName); });
-}
-
-void frmAssignment::BindCombos() {
-    const auto changed = [this] { ChangeFlag = true; };
     connect(ComboTypeList, &QComboBox::activated, this, changed);
     connect(ComboClassNameList, &QComboBox::activated, this, changed);
-    connect(ComboPercentComplete, &QComboBox::activated, this, &frmAssignment::TakePercent);
     connect(ComboEstTime, &QComboBox::activated, this, [this] {
         UpdateTimeLeft();
         ChangeFlag = true;
     });
-    for (QWidget* field : std::initializer_list<QWidget*>{ComboTypeList, ComboPercentComplete, ComboEstTime,
-                                                          ComboReminderTime, TextBoxScore, TextBoxTotal}) {
-        field->installEventFilter(this);
-    }
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
@@ -170,12 +154,6 @@ void frmAssignment::FillEdit() {
     FillDates(DateValue(tempAssignmentDate), DateValue(tempAssignmentReminderDate));
 }
 
-void frmAssignment::FillDates(Date date, Date reminderDate) {
-    ShowDateField(tempAssignmentDate, TextboxDateDue, date);
-    ShowDateField(tempAssignmentReminderDate, TextboxReminderDate, reminderDate);
-    SetAlarm();
-}
-
 // --- What follows an entry ---------------------------------------------------------------------------------
 
 // Work is finished by the done box or the percent, also where the time left says otherwise.
@@ -199,49 +177,12 @@ void frmAssignment::UpdateGrade() {
     SetColor(LabelGrade, QPalette::WindowText, color);
 }
 
-// A percent was chosen or typed.
-void frmAssignment::TakePercent() {
-    UpdateEstimateFlag = true;
-    ValidatePercentEntry(DoneOf(*this));
-    UpdateEstimateFlag = false;
+void frmAssignment::WorkChanged() {
     UpdateTimeLeft();
-    ChangeFlag = true;
-}
-
-void frmAssignment::DoneClicked() {
-    if (UpdateEstimateFlag) {
-        return;
-    }
-    PercentFollowsDone(DoneOf(*this));
-    UpdateTimeLeft();
-    ChangeFlag = true;
-}
-
-void frmAssignment::ReminderClicked() {
-    PaintReminder(ReminderOf(*this));
-    if (CheckboxReminder->isChecked()) {
-        SetAlarm();
-    }
-    ChangeFlag = true;
-}
-
-void frmAssignment::SetAlarm() {
-    tempAssignmentReminderAlarm = AlarmOf(tempAssignmentReminderDate, ComboReminderTime);
-}
-
-void frmAssignment::TakeDate(Date date) {
-    if (Picker->DateTarget) {
-        ShowDateField(tempAssignmentDate, TextboxDateDue, date);
-    } else {
-        ShowDateField(tempAssignmentReminderDate, TextboxReminderDate, date);
-        SetAlarm();
-    }
-    ChangeFlag = true;
 }
 
 // --- The end of an entry -----------------------------------------------------------------------------------
 
-// False when the field is to be entered again. Quietly, nothing is asked for.
 bool frmAssignment::ValidateField(const QObject* field, bool quiet) {
     if (field == TextBoxScore) {
         return ValidateNumber(TextBoxScore, ScoreWanted, quiet);
@@ -267,12 +208,6 @@ void frmAssignment::ValidateEstimate() {
     ChangeFlag = true;
 }
 
-void frmAssignment::ValidateReminderTime() {
-    ShowComboText(ComboReminderTime, ValidateTime(TextOf(ComboReminderTime)));
-    SetAlarm();
-    ChangeFlag = true;
-}
-
 bool frmAssignment::ValidateNumber(QLineEdit* box, std::string_view wanted, bool quiet) {
     const std::string text(Trim(TextOf(box)));
     const bool accepted = IsAcceptedNumber(text);
@@ -284,14 +219,6 @@ bool frmAssignment::ValidateNumber(QLineEdit* box, std::string_view wanted, bool
     return accepted;
 }
 
-bool frmAssignment::eventFilter(QObject* watched, QEvent* event) {
-    if (CloseOK || ShuttingDown || !EntryEnds(event)) {
-        return QDialog::eventFilter(watched, event);
-    }
-    return EndEntry(event, ButtonCancel,
-                    [this, watched](bool quiet) { return ValidateField(watched, quiet); });
-}
-
 // --- Closing -----------------------------------------------------------------------------------------------
 
 // A field that still has the focus is validated first, as it would be in losing it.
@@ -299,9 +226,7 @@ void frmAssignment::accept() {
     if (!ValidateField(focusWidget(), false)) {
         return;
     }
-    if (CheckboxReminder->isChecked()) {
-        tempAssignmentReminderList = BooleanText(false); // armed again
-    }
+    ArmReminder();
     if (ComboClassNameList->currentText().isEmpty()) {
         MsgBox("Select a Class for this assignment.", Buttons::Ok, Icon::Information);
         ComboClassNameList->setFocus();
@@ -310,10 +235,6 @@ void frmAssignment::accept() {
     AcceptEditor(*this, *this);
 }
 
-void frmAssignment::reject() {
-    CancelEditor(*this, *this, CancelQuestion(*this, ItemName));
-}
-
-void frmAssignment::closeEvent(QCloseEvent* event) {
-    CloseEditor(*this, *this, CancelQuestion(*this, ItemName), *event);
+std::string frmAssignment::CancelQuestion() const {
+    return ::CancelQuestion(*this, ItemName);
 }

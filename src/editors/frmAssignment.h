@@ -4,12 +4,11 @@
 #pragma once
 
 #include "core/TextList.h"
-#include "editors/DatePicker.h"
-#include "editors/EditorParts.h"
+#include "editors/ItemEditor.h"
 
 #include "ui_frmAssignment.h"
 
-class frmAssignment : public QDialog, public Ui::frmAssignment, public EditorState {
+class frmAssignment : public ItemEditor, public Ui::frmAssignment {
     Q_OBJECT
 
 public:
@@ -41,39 +40,25 @@ public:
     std::string tempAssignmentReminderList;
     std::string tempAssignmentNotes;
 
-    DatePicker* Picker = nullptr;
-
-    // OK, and Cancel, which Escape counts as.
     void accept() override;
-    void reject() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    bool ValidateField(const QObject* field, bool quiet) override;
+    std::string CancelQuestion() const override;
+    void WorkChanged() override;
 
 private:
     void SetupControls();
     void SetTopics();
     void BindControls();
-    void BindCombos();
     void FillClasses();
     void FillNew();
     void FillEdit();
-    void FillDates(Date date, Date reminderDate);
     void ShowTimeLeft(std::string_view text);
     void UpdateTimeLeft();
     void UpdateGrade();
-    void TakePercent();
-    void DoneClicked();
-    void ReminderClicked();
-    void SetAlarm();
-    void TakeDate(Date date);
-    bool ValidateField(const QObject* field, bool quiet);
     void ValidateEstimate();
-    void ValidateReminderTime();
     bool ValidateNumber(QLineEdit* box, std::string_view wanted, bool quiet);
-
-    bool UpdateEstimateFlag = false; // the program sets the done box, which is no click
 };
 
 // The one dialog, from the load of the main window on, which owns it.

@@ -16,7 +16,7 @@ constexpr std::string_view CancelTermQuestion = "Cancel changes to this Term's C
 
 frmCourseSchedule* TermDialog = nullptr;
 
-frmCourseSchedule::frmCourseSchedule(QWidget* parent) : QDialog(parent) {
+frmCourseSchedule::frmCourseSchedule(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -66,7 +66,7 @@ void frmCourseSchedule::BindControls() {
     }
     connect(TextBoxNotes, &QPlainTextEdit::textChanged, this, changed);
     connect(Picker, &DatePicker::DatePicked, this, &frmCourseSchedule::TakeDate);
-    TextBoxCredits->installEventFilter(this);
+    WatchEntries(ButtonCancelClass, {TextBoxCredits});
     connect(ButtonAddClass, &QPushButton::clicked, this, &frmCourseSchedule::AddClass);
     connect(ButtonEditClass, &QPushButton::clicked, this, &frmCourseSchedule::EditClass);
     connect(ButtonOKClass, &QPushButton::clicked, this, &frmCourseSchedule::AcceptClass);
@@ -126,7 +126,7 @@ void frmCourseSchedule::AcceptTerm() {
 }
 
 void frmCourseSchedule::CancelTerm() {
-    CancelEditor(*this, *this, CancelTermQuestion);
+    EditorDialog::reject();
 }
 
 void frmCourseSchedule::DeleteTerm() {
@@ -137,8 +137,7 @@ void frmCourseSchedule::DeleteTerm() {
     }
     DeleteFlag = true;
     CancelledFlag = false;
-    CloseOK = true;
-    hide();
+    HideEditor(*this, *this);
 }
 
 void frmCourseSchedule::reject() {
@@ -149,6 +148,6 @@ void frmCourseSchedule::reject() {
     }
 }
 
-void frmCourseSchedule::closeEvent(QCloseEvent* event) {
-    CloseEditor(*this, *this, CancelTermQuestion, *event);
+std::string frmCourseSchedule::CancelQuestion() const {
+    return std::string(CancelTermQuestion);
 }

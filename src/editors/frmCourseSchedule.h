@@ -5,11 +5,11 @@
 
 #include "core/Records.h"
 #include "editors/DatePicker.h"
-#include "editors/EditorParts.h"
+#include "editors/EditorDialog.h"
 
 #include "ui_frmCourseSchedule.h"
 
-class frmCourseSchedule : public QDialog, public Ui::frmCourseSchedule, public EditorState {
+class frmCourseSchedule : public EditorDialog, public Ui::frmCourseSchedule {
     Q_OBJECT
 
 public:
@@ -42,8 +42,8 @@ public:
     void reject() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void closeEvent(QCloseEvent* event) override;
+    bool ValidateField(const QObject* field, bool quiet) override;
+    std::string CancelQuestion() const override;
 
 private:
     void SetupControls();

@@ -5,6 +5,8 @@ target_sources(planovarium_windows PRIVATE
   editors/DatePickerSetup.cpp
   editors/DialogLook.cpp
   editors/DialogLook.h
+  editors/EditorDialog.cpp
+  editors/EditorDialog.h
   editors/EditorParts.cpp
   editors/EditorParts.h
   editors/FieldLines.cpp
@@ -12,6 +14,8 @@ target_sources(planovarium_windows PRIVATE
   editors/FrmTask.cpp
   editors/FrmTask.h
   editors/FrmTask.ui
+  editors/ItemEditor.cpp
+  editors/ItemEditor.h
   editors/ItemParts.cpp
   editors/frmAssignment.cpp
   editors/frmAssignment.h

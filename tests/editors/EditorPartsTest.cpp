@@ -1,5 +1,6 @@
 // What the editors' boxes take in, and what they give to the store.
 #include "editors/EditorParts.h"
+#include "support/ScriptedPlatform.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -113,4 +114,36 @@ TEST(EditorParts, LongTextIsShownFromItsBeginning) {
     QLineEdit box;
     ShowText(&box, std::string(200, 'x'));
     EXPECT_EQ(box.cursorPosition(), 0);
+}
+
+TEST(EditorParts, EachAnswerHidesTheEditorBehindTheHookAndTellsThatItDid) {
+    ResetScript();
+    QDialog dialog;
+    EditorState state;
+    std::vector<bool> visibleAtHook;
+    state.BeforeHide = [&] { visibleAtHook.push_back(dialog.isVisible()); };
+    const auto show = [&] {
+        ClearFlags(state);
+        state.ChangeFlag = true;
+        dialog.show();
+    };
+    show();
+    EXPECT_FALSE(CancelEditor(dialog, state, "Cancel this?"));
+    EXPECT_FALSE(DeleteInEditor(dialog, state, "task"));
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_FALSE(state.CloseOK);
+    EXPECT_TRUE(visibleAtHook.empty());
+
+    Script.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(CancelEditor(dialog, state, "Cancel this?"));
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(state.CloseOK && state.CancelledFlag);
+    show();
+    EXPECT_TRUE(DeleteInEditor(dialog, state, "task"));
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(state.CloseOK && state.DeleteFlag);
+    show();
+    AcceptEditor(dialog, state);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(visibleAtHook, (std::vector<bool>{true, true, true}));
 }
