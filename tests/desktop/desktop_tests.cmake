@@ -20,7 +20,10 @@ set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED ger
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
 add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
 
-# The tool that tries the README's commands on a bare machine; it too is a script of other programs.
-add_test(NAME tools.test_bare COMMAND ${Python3_EXECUTABLE} -m unittest -v test_bare
-  WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/tools")
-set_tests_properties(tools.test_bare PROPERTIES LABELS desktop TIMEOUT 300 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
+# The tools that try the README's commands on a bare machine and that check the rooms.
+foreach(tool bare rooms)
+  add_test(NAME tools.test_${tool} COMMAND ${Python3_EXECUTABLE} -m unittest -v test_${tool}
+    WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/tools")
+  set_tests_properties(tools.test_${tool} PROPERTIES
+    LABELS desktop TIMEOUT 300 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
+endforeach()

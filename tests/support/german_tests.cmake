@@ -10,7 +10,7 @@ set_tests_properties(german.locale PROPERTIES
 function(add_german_test label program left_out)
   add_test(NAME german.${label} COMMAND ${program} --gtest_brief=1 "--gtest_filter=-${left_out}")
   set_tests_properties(german.${label} PROPERTIES
-    LABELS ${label} TIMEOUT 300 FIXTURES_REQUIRED german
+    LABELS ${label} TIMEOUT 600 FIXTURES_REQUIRED german
     ENVIRONMENT "${GERMAN};RC_PARAMS=max_success=5;QT_QPA_PLATFORM=offscreen")
 endfunction()
 
