@@ -3,6 +3,7 @@
 // records.
 #pragma once
 
+#include "core/FieldTables.h"
 #include "core/Records.h"
 #include "editors/DatePicker.h"
 #include "editors/EditorDialog.h"
@@ -80,14 +81,16 @@ struct ClassField {
 };
 
 // All fields but the class's term, which is known only as the whole term is saved.
-inline constexpr std::array<ClassField, ClassFields.size() - 1> ClassDialogFields{{
+inline constexpr auto ClassDialogFields = std::to_array<ClassField>({
     {&frmCourseSchedule::tempClassIDArray, &ClassLists::id},
     {&frmCourseSchedule::tempClassNameArray, &ClassLists::name},
     {&frmCourseSchedule::tempClassCreditsArray, &ClassLists::credits},
     {&frmCourseSchedule::tempClassForeColorArray, &ClassLists::forecolor},
     {&frmCourseSchedule::tempClassBackColorArray, &ClassLists::backcolor},
     {&frmCourseSchedule::tempClassNotesArray, &ClassLists::notes},
-}};
+});
+
+static_assert(NamesAllFieldsBut(ClassDialogFields, &ClassField::record, &ClassLists::term));
 
 // The one dialog, from the load of the main window on, which owns it.
 extern frmCourseSchedule* TermDialog;

@@ -2,7 +2,7 @@
 #include "support/WindowTest.h"
 
 #include "core/Module1.h"
-#include "core/RowLists.h"
+#include "support/StoreRecords.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -17,23 +17,6 @@ constexpr int LimitMilliseconds = 5000;
 
 void SetVariable(const char* name, const std::filesystem::path& value) {
     qputenv(name, QByteArray::fromStdString(value.string()));
-}
-
-void ResetStore() {
-    Store = {};
-    ActiveClasses = {};
-    ActiveTermName.clear();
-    ActiveTermID = 0;
-    TypeTable = {};
-    FileWrittenFlags = {};
-    LastReads = {};
-    for (int* counter : {&NextTermID, &NextClassID, &NextAssignmentID, &NextTaskID, &NextEventID}) {
-        *counter = 1;
-    }
-    SetFirstOpenFlags();
-    StartupComplete = false;
-    CalledFromReminders = false;
-    ShuttingDown = false;
 }
 
 // Once a test has had the program exit, every loop of events ends at once, until the main loop starts anew.

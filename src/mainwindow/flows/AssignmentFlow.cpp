@@ -17,33 +17,32 @@ constexpr std::string_view NoClassesQuestion =
     "This Term has no classes. Do you want to edit the Class Schedule?";
 
 // What the closed dialog has for each field of the record but its id.
-std::array<EnteredField<AssignmentLists>, AssignmentFields.size() - 1>
-EnteredFields(const frmAssignment& dialog) {
-    return {{
-        {&AssignmentLists::class_,
-         dialog.tempAssignmentClassLinkArray.Item(dialog.ComboClassNameList->currentIndex() + 1)},
-        {&AssignmentLists::date, StoredDate(DateValue(dialog.tempAssignmentDate))},
-        {&AssignmentLists::type, TextOf(dialog.ComboTypeList)},
-        {&AssignmentLists::priority, BooleanText(dialog.CheckBoxPriority->isChecked())},
-        {&AssignmentLists::est_time, TextOf(dialog.ComboEstTime)},
-        {&AssignmentLists::time_left, TextOf(dialog.TextBoxTimeLeft)},
-        {&AssignmentLists::desc, TextOf(dialog.TextBoxDescription)},
-        {&AssignmentLists::done, BooleanText(dialog.CheckBoxDone->isChecked())},
-        {&AssignmentLists::percent_complete, TextOf(dialog.ComboPercentComplete)},
-        {&AssignmentLists::score, TextOf(dialog.TextBoxScore)},
-        {&AssignmentLists::total, TextOf(dialog.TextBoxTotal)},
-        {&AssignmentLists::grade, TextOf(dialog.TextBoxPercentage)},
-        {&AssignmentLists::reminder, BooleanText(dialog.CheckboxReminder->isChecked())},
-        {&AssignmentLists::reminderdate, StoredDate(DateValue(dialog.tempAssignmentReminderDate))},
-        {&AssignmentLists::remindertime, TextOf(dialog.ComboReminderTime)},
-        {&AssignmentLists::reminderalarm, dialog.tempAssignmentReminderAlarm},
-        {&AssignmentLists::reminderlist, dialog.tempAssignmentReminderList},
-        {&AssignmentLists::notes, TextOf(dialog.TextBoxNotes)},
-    }};
+auto EnteredFields(const frmAssignment& dialog) {
+    return std::tuple{
+        EnteredField<&AssignmentLists::class_>{
+            dialog.tempAssignmentClassLinkArray.Item(dialog.ComboClassNameList->currentIndex() + 1)},
+        EnteredField<&AssignmentLists::date>{StoredDate(DateValue(dialog.tempAssignmentDate))},
+        EnteredField<&AssignmentLists::type>{TextOf(dialog.ComboTypeList)},
+        EnteredField<&AssignmentLists::priority>{BooleanText(dialog.CheckBoxPriority->isChecked())},
+        EnteredField<&AssignmentLists::est_time>{TextOf(dialog.ComboEstTime)},
+        EnteredField<&AssignmentLists::time_left>{TextOf(dialog.TextBoxTimeLeft)},
+        EnteredField<&AssignmentLists::desc>{TextOf(dialog.TextBoxDescription)},
+        EnteredField<&AssignmentLists::done>{BooleanText(dialog.CheckBoxDone->isChecked())},
+        EnteredField<&AssignmentLists::percent_complete>{TextOf(dialog.ComboPercentComplete)},
+        EnteredField<&AssignmentLists::score>{TextOf(dialog.TextBoxScore)},
+        EnteredField<&AssignmentLists::total>{TextOf(dialog.TextBoxTotal)},
+        EnteredField<&AssignmentLists::grade>{TextOf(dialog.TextBoxPercentage)},
+        EnteredField<&AssignmentLists::reminder>{BooleanText(dialog.CheckboxReminder->isChecked())},
+        EnteredField<&AssignmentLists::reminderdate>{
+            StoredDate(DateValue(dialog.tempAssignmentReminderDate))},
+        EnteredField<&AssignmentLists::remindertime>{TextOf(dialog.ComboReminderTime)},
+        EnteredField<&AssignmentLists::reminderalarm>{dialog.tempAssignmentReminderAlarm},
+        EnteredField<&AssignmentLists::reminderlist>{dialog.tempAssignmentReminderList},
+        EnteredField<&AssignmentLists::notes>{TextOf(dialog.TextBoxNotes)}};
 }
 
 // The dialog's fields that an assignment's record gives.
-constexpr std::array<FilledField<frmAssignment, AssignmentLists>, AssignmentFields.size() - 2> FilledFields{{
+constexpr auto FilledFields = std::to_array<FilledField<frmAssignment, AssignmentLists>>({
     {&frmAssignment::tempAssignmentDate, &AssignmentLists::date},
     {&frmAssignment::tempAssignmentType, &AssignmentLists::type},
     {&frmAssignment::tempAssignmentPriority, &AssignmentLists::priority},
@@ -61,7 +60,10 @@ constexpr std::array<FilledField<frmAssignment, AssignmentLists>, AssignmentFiel
     {&frmAssignment::tempAssignmentReminderAlarm, &AssignmentLists::reminderalarm},
     {&frmAssignment::tempAssignmentReminderList, &AssignmentLists::reminderlist},
     {&frmAssignment::tempAssignmentNotes, &AssignmentLists::notes},
-}};
+});
+
+static_assert(NamesAllFieldsBut(FilledFields, &FilledField<frmAssignment, AssignmentLists>::list,
+                                &AssignmentLists::id, &AssignmentLists::class_));
 
 // The term's classes and limits. The class of a record is named only when it is one of these classes.
 void GiveTerm(frmAssignment& dialog, std::string_view classId) {

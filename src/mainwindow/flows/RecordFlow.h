@@ -2,6 +2,7 @@
 // into the lists of the kind.
 #pragma once
 
+#include "core/FieldTables.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "core/Values.h"
@@ -12,6 +13,7 @@
 
 #include <array>
 #include <string>
+#include <tuple>
 
 // A field of a dialog and the list of the record's field that fills it.
 template <class Dialog, class Lists>
@@ -20,10 +22,9 @@ struct FilledField {
     TextList Lists::*list;
 };
 
-// What a closed dialog has for a field of the record.
-template <class Lists>
+// What a closed dialog has for the field of the record that has this list.
+template <auto List>
 struct EnteredField {
-    TextList Lists::*list;
     std::string text;
 };
 
@@ -61,19 +62,17 @@ inline void ShowDialog(QDialog& dialog, bool& firstOpen, const QWidget& window) 
     RunModally(dialog);
 }
 
-// Adds a record with the next id.
-template <class Lists, std::size_t Count>
-void AppendRecord(Lists& lists, const std::array<EnteredField<Lists>, Count>& fields, int& nextId) {
+// Adds a record with the next id. Fields that are not all of the record's but its id do not compile.
+template <class Lists, auto... List>
+void AppendRecord(Lists& lists, const std::tuple<EnteredField<List>...>& fields, int& nextId) {
+    static_assert(AreAllFields(std::array{&Lists::id, List...}));
     lists.id.Add(std::to_string(NextId(nextId)));
-    for (const EnteredField<Lists>& field : fields) {
-        (lists.*field.list).Add(field.text);
-    }
+    ((lists.*List).Add(std::get<EnteredField<List>>(fields).text), ...);
 }
 
-// Overwrites the record at the position, which keeps its id.
-template <class Lists, std::size_t Count>
-void ReplaceRecord(Lists& lists, const std::array<EnteredField<Lists>, Count>& fields, int position) {
-    for (const EnteredField<Lists>& field : fields) {
-        (lists.*field.list).Replace(position, field.text);
-    }
+// Overwrites the record at the position, which keeps its id; all its other fields must be among those given.
+template <class Lists, auto... List>
+void ReplaceRecord(Lists& lists, const std::tuple<EnteredField<List>...>& fields, int position) {
+    static_assert(AreAllFields(std::array{&Lists::id, List...}));
+    ((lists.*List).Replace(position, std::get<EnteredField<List>>(fields).text), ...);
 }

@@ -11,27 +11,26 @@ namespace {
 
 // What the closed dialog has for each field of the record but its id. A task without a deadline has the date
 // of the day on which it was last saved, as is meant.
-std::array<EnteredField<TaskLists>, TaskFields.size() - 1> EnteredFields(const FrmTask& dialog) {
+auto EnteredFields(const FrmTask& dialog) {
     const bool deadline = dialog.CheckBoxDeadline->isChecked();
-    return {{
-        {&TaskLists::date, StoredDate(deadline ? DateValue(dialog.tempTaskDate) : Today())},
-        {&TaskLists::desc, TextOf(dialog.TextBoxDescription)},
-        {&TaskLists::date_exists, BooleanText(deadline)},
-        {&TaskLists::type, dialog.tempTaskType},
-        {&TaskLists::priority, TextOf(dialog.ComboPriority)},
-        {&TaskLists::percent_complete, TextOf(dialog.ComboPercentComplete)},
-        {&TaskLists::done, BooleanText(dialog.CheckBoxDone->isChecked())},
-        {&TaskLists::reminder, BooleanText(dialog.CheckboxReminder->isChecked())},
-        {&TaskLists::reminder_date, StoredDate(DateValue(dialog.tempTaskReminderDate))},
-        {&TaskLists::reminder_time, TextOf(dialog.ComboReminderTime)},
-        {&TaskLists::reminder_alarm, dialog.tempTaskReminderAlarm},
-        {&TaskLists::reminder_list, dialog.tempTaskReminderList},
-        {&TaskLists::notes, TextOf(dialog.TextBoxNotes)},
-    }};
+    return std::tuple{
+        EnteredField<&TaskLists::date>{StoredDate(deadline ? DateValue(dialog.tempTaskDate) : Today())},
+        EnteredField<&TaskLists::desc>{TextOf(dialog.TextBoxDescription)},
+        EnteredField<&TaskLists::date_exists>{BooleanText(deadline)},
+        EnteredField<&TaskLists::type>{dialog.tempTaskType},
+        EnteredField<&TaskLists::priority>{TextOf(dialog.ComboPriority)},
+        EnteredField<&TaskLists::percent_complete>{TextOf(dialog.ComboPercentComplete)},
+        EnteredField<&TaskLists::done>{BooleanText(dialog.CheckBoxDone->isChecked())},
+        EnteredField<&TaskLists::reminder>{BooleanText(dialog.CheckboxReminder->isChecked())},
+        EnteredField<&TaskLists::reminder_date>{StoredDate(DateValue(dialog.tempTaskReminderDate))},
+        EnteredField<&TaskLists::reminder_time>{TextOf(dialog.ComboReminderTime)},
+        EnteredField<&TaskLists::reminder_alarm>{dialog.tempTaskReminderAlarm},
+        EnteredField<&TaskLists::reminder_list>{dialog.tempTaskReminderList},
+        EnteredField<&TaskLists::notes>{TextOf(dialog.TextBoxNotes)}};
 }
 
 // The dialog's fields that a task's record gives.
-constexpr std::array<FilledField<FrmTask, TaskLists>, TaskFields.size() - 1> FilledFields{{
+constexpr auto FilledFields = std::to_array<FilledField<FrmTask, TaskLists>>({
     {&FrmTask::tempTaskDescription, &TaskLists::desc},
     {&FrmTask::tempTaskDateExists, &TaskLists::date_exists},
     {&FrmTask::tempTaskDate, &TaskLists::date},
@@ -45,7 +44,9 @@ constexpr std::array<FilledField<FrmTask, TaskLists>, TaskFields.size() - 1> Fil
     {&FrmTask::tempTaskReminderTime, &TaskLists::reminder_time},
     {&FrmTask::tempTaskReminderAlarm, &TaskLists::reminder_alarm},
     {&FrmTask::tempTaskReminderList, &TaskLists::reminder_list},
-}};
+});
+
+static_assert(NamesAllFieldsBut(FilledFields, &FilledField<FrmTask, TaskLists>::list, &TaskLists::id));
 
 } // namespace
 

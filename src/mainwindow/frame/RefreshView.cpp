@@ -20,41 +20,40 @@ void OpenAtMorning(QScrollBar* scroll) {
     }
 }
 
-void RunStep(frmMain& window, char step) {
+void RunStep(frmMain& window, RefreshStep step) {
     switch (step) {
-    case 'B':
-        for (const char part : std::string_view("CMb")) {
+    case RefreshStep::BuildMonthAnew:
+        for (const RefreshStep part :
+             {RefreshStep::ClickSelectedDay, RefreshStep::DropMarks, RefreshStep::BuildMonth}) {
             RunStep(window, part);
         }
         break;
-    case 'C':
+    case RefreshStep::ClickSelectedDay:
         window.ClickedDate = window.SelectedDate;
         break;
-    case 'D':
+    case RefreshStep::ClickToday:
         window.ClickedDate = Today();
         break;
-    case 'M':
+    case RefreshStep::DropMarks:
         window.ShownMonth = UnknownMonth;
         break;
-    case 'b':
+    case RefreshStep::BuildMonth:
         window.BuildMonth();
         break;
-    case 'L':
+    case RefreshStep::LayOut:
         window.LayoutGrid();
         break;
-    case 'F':
+    case RefreshStep::Fill:
         window.FillGrid();
         break;
-    case 'A':
+    case RefreshStep::Alerts:
         window.StudyTimeAlerts();
         break;
-    case 'T':
+    case RefreshStep::StudyTime:
         ShowStudyTimeToday(window, window.ClickedDate);
         break;
-    case 'S':
+    case RefreshStep::OpenAtMorning:
         OpenAtMorning(window.VSGridScroll);
-        break;
-    default:
         break;
     }
 }
@@ -63,7 +62,7 @@ void RunStep(frmMain& window, char step) {
 
 void frmMain::RefreshView() {
     for (const char step : RefreshSteps(RefreshReason, CurrentMode())) {
-        RunStep(*this, step);
+        RunStep(*this, RefreshStep{step});
     }
     RefreshReason = ReasonNone;
 }

@@ -65,13 +65,8 @@ constexpr std::array<ItemKey, 11> ItemKeys{{
     {"task custom", "ustomize"},
 }};
 
-// The columns by which the menus of a day are sorted.
-constexpr int HomeworkDayColumn = 8;
-constexpr int TaskDayColumn = 6;
-constexpr int EventDayColumn = 4;
-
-void SortBy(frmMain& window, int column) {
-    window.SortColumn = column;
+void SortBy(frmMain& window, NamedColumn column) {
+    window.SortColumn = column.number;
     window.SortDirection = Ascending;
 }
 
@@ -176,21 +171,21 @@ void frmMain::ShowTaskListMenu() {
 
 void frmMain::ShowHomeworkDayMenu() {
     HomeworkDayList(ClickedDate, CurrentFilter());
-    SortBy(*this, HomeworkDayColumn);
+    SortBy(*this, HomeworkColumn::Done);
     SortHomeworkRows(CurrentSort());
     ShowPopup(*this, HomeworkDayMenuItems());
 }
 
 void frmMain::ShowTaskDayMenu() {
     SelectTasksForDay(ClickedDate);
-    SortBy(*this, TaskDayColumn);
+    SortBy(*this, TaskColumn::Done);
     SortTaskRows(CurrentSort());
     ShowPopup(*this, TaskDayMenuItems());
 }
 
 void frmMain::ShowEventDayMenu() {
     SelectEventsForDay(ClickedDate, CurrentFilter());
-    SortBy(*this, EventDayColumn);
+    SortBy(*this, EventColumn::Time);
     SortEventRows(CurrentSort());
     ShowPopup(*this, EventDayMenuItems());
 }

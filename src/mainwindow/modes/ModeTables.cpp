@@ -19,9 +19,40 @@ static_assert(StandsInModeOrder(ModeRows) && StandsInModeOrder(PanelRows) &&
               StandsInModeOrder(NewButtonRows) && StandsInModeOrder(EditMenuRows) &&
               StandsInModeOrder(ExportRows) && StandsInModeOrder(CounterRows));
 
+constexpr bool IsStep(RefreshStep step) {
+    switch (step) {
+    case RefreshStep::ClickSelectedDay:
+    case RefreshStep::ClickToday:
+    case RefreshStep::DropMarks:
+    case RefreshStep::BuildMonth:
+    case RefreshStep::BuildMonthAnew:
+    case RefreshStep::LayOut:
+    case RefreshStep::Fill:
+    case RefreshStep::Alerts:
+    case RefreshStep::StudyTime:
+    case RefreshStep::OpenAtMorning:
+        return true;
+    }
+    return false;
+}
+
+// The letters of steps; one that is none does not compile, nor does a row without the letters of a mode.
+struct StepLetters {
+    std::string_view letters;
+
+    // NOLINTNEXTLINE(google-explicit-constructor): the letters stand for the steps
+    consteval StepLetters(const char* text) : letters(text) {
+        for (const char letter : letters) {
+            if (!IsStep(RefreshStep{letter})) {
+                throw "no step has this letter";
+            }
+        }
+    }
+};
+
 struct RefreshRow {
     std::string_view reason;
-    std::array<std::string_view, ModeCount> steps;
+    std::array<StepLetters, ModeCount> steps;
 };
 
 constexpr std::array<RefreshRow, 8> RefreshRows{{
@@ -40,5 +71,8 @@ constexpr std::array<RefreshRow, 8> RefreshRows{{
 
 std::string_view RefreshSteps(std::string_view reason, Mode mode) {
     const auto found = std::ranges::find(RefreshRows, reason, &RefreshRow::reason);
-    return found == RefreshRows.end() || mode == Mode::None ? std::string_view{} : RowOf(found->steps, mode);
+    if (found == RefreshRows.end() || mode == Mode::None) {
+        return {};
+    }
+    return RowOf(found->steps, mode).letters;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mainwindow/state/Mode.h"
+#include "planner/lists/RowSorts.h"
 
 #include <array>
 #include <string_view>
@@ -13,19 +14,19 @@ struct ModeRow {
     Mode mode;
     std::string_view caption;             // the status bar's left text
     int gridTopic, rangeTopic, listTopic; // help topics of the list and of the two filter menus; 0 is kept
-    int firstSort;                        // column of the first sort; 0 keeps the sort as it is
+    NamedColumn firstSort;                // none keeps the sort as it is
     bool leavesCalendar;                  // Calendar stays checked, and the mode bar's words as they are
 };
 
 // Study Sessions and Reminders leave Calendar alone: entered from it both are checked, and the window counts
 // as in Calendar mode, as is meant.
 inline constexpr std::array<ModeRow, ModeCount> ModeRows{{
-    {Mode::Homework, "Homework Mode", 153, 112, 114, 8, false},
-    {Mode::Calendar, "Calendar Mode", 154, 0, 0, 0, false},
-    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, 6, true},
-    {Mode::Tasks, "Task Mode", 156, 113, 115, 5, false},
-    {Mode::Events, "Event Mode", 155, 0, 0, 3, false},
-    {Mode::Reminders, "Today's Reminders", 0, 0, 0, 5, true},
+    {Mode::Homework, "Homework Mode", 153, 112, 114, HomeworkColumn::Done, false},
+    {Mode::Calendar, "Calendar Mode", 154, 0, 0, {}, false},
+    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, StudyColumn::DoneOn, true},
+    {Mode::Tasks, "Task Mode", 156, 113, 115, TaskColumn::Day, false},
+    {Mode::Events, "Event Mode", 155, 0, 0, EventColumn::Day, false},
+    {Mode::Reminders, "Today's Reminders", 0, 0, 0, ReminderColumn::When, true},
 }};
 
 struct PanelRow {
@@ -127,11 +128,20 @@ constexpr const Row& RowOf(const std::array<Row, ModeCount>& rows, Mode mode) {
     return rows[static_cast<std::size_t>(mode)];
 }
 
-// The steps of a refresh, in their order, as letters:
-//   C  the clicked day is the selected one         L  the layout of the mode
-//   D  the clicked day is today                    F  its fill
-//   M  the month's marks are to be made anew       A  the study time alerts
-//   b  the month is built                          T  the study time of the clicked day
-//   B  C, M and b                                  S  the day's schedule opens at the morning
+// A step of a refresh, by its letter in the tables.
+enum class RefreshStep : char {
+    ClickSelectedDay = 'C', // the clicked day is the selected one
+    ClickToday = 'D',
+    DropMarks = 'M', // the month's marks are to be made anew
+    BuildMonth = 'b',
+    BuildMonthAnew = 'B', // C, M and b
+    LayOut = 'L',
+    Fill = 'F',
+    Alerts = 'A',       // the study time alerts
+    StudyTime = 'T',    // of the clicked day
+    OpenAtMorning = 'S' // the day's schedule
+};
+
+// The letters of the steps of a refresh, in their order.
 // Empty for a reason that asks for nothing, and while no mode is checked.
 std::string_view RefreshSteps(std::string_view reason, Mode mode);

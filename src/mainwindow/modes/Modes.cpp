@@ -199,8 +199,8 @@ void frmMain::EnterMode(Mode mode) {
     ShowCounters(*this, RowOf(CounterRows, mode));
     ModeCaption = row.caption;
     PaintStatusBar();
-    if (row.firstSort != 0) {
-        SortColumn = row.firstSort;
+    if (row.firstSort.number != 0) {
+        SortColumn = row.firstSort.number;
         SortDirection = Ascending;
     }
     CurrentRow = 0; // the keys stand nowhere yet

@@ -6,12 +6,28 @@
 
 #include "planner/rows/ListFilter.h"
 
+#include <concepts>
+
 // The columns by their position in the list, where 0 is the row's number.
 enum class HomeworkColumn : int { Reminder = 1, Priority, Class, Type, Description, Time, Due, Done, Score };
 enum class StudyColumn : int { Class = 1, Type, Description, Priority, Time, DoneOn, Due };
 enum class TaskColumn : int { Reminder = 1, Name, Type, Priority, Day, Done };
 enum class EventColumn : int { Name = 1, Type, Day, Time, Recurrence };
 enum class ReminderColumn : int { For = 1, Class, Type, Description, When, Day };
+
+template <class Name>
+concept ColumnName = std::same_as<Name, HomeworkColumn> || std::same_as<Name, StudyColumn> ||
+    std::same_as<Name, TaskColumn> || std::same_as<Name, EventColumn> || std::same_as<Name, ReminderColumn>;
+
+// A column of some list, given by its name: a bare number does not compile.
+struct NamedColumn {
+    int number = 0; // 0 for none
+
+    constexpr NamedColumn() = default;
+
+    // NOLINTNEXTLINE(google-explicit-constructor): the name stands for the column
+    constexpr NamedColumn(ColumnName auto name) : number(static_cast<int>(name)) {}
+};
 
 // Each puts the row lists of its mode into the order. An entry without a value stands at the end in both
 // directions where a column has such entries: tasks and events without a type, a priority, a date or a
