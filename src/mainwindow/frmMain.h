@@ -279,7 +279,7 @@ public:
     void GridScrolled();
     void ResortGrid();
     void MouseWheel(int rotation);
-    void ColumnClicked(int index);
+    void ColumnClicked(int column);
     void GridPressed(int x, int y);
     void GridReleased(int x, int y, Qt::MouseButton button);
 
@@ -341,12 +341,12 @@ public:
 
     // --- The flows: what a command asks of the student and writes (AssignmentFlow.cpp, ...) ---
     void NewAssignment();
-    void EditAssignment(int index);
+    void EditAssignment(int position);
     void NewTask();
-    void EditTask(int index);
+    void EditTask(int position);
     void NewEvent();
     void NewMorningEvent(); // at nine o'clock, where no time was clicked
-    void EditEvent(int index);
+    void EditEvent(int position);
     void ClassSchedule();
 
 protected:

@@ -105,11 +105,11 @@ void frmMain::NewAssignment() {
     RefreshFor(ReasonNewRecord);
 }
 
-void frmMain::EditAssignment(int index) {
+void frmMain::EditAssignment(int position) {
     frmAssignment& dialog = *AssignmentDialog;
     PrepareEditor(dialog, *this, "Edit");
-    GiveTerm(dialog, Store.Assignment.class_.Item(index));
-    FillFromRecord(dialog, FilledFields, Store.Assignment, index);
+    GiveTerm(dialog, Store.Assignment.class_.Item(position));
+    FillFromRecord(dialog, FilledFields, Store.Assignment, position);
     ShowDialog(dialog, AssignmentDBFirstOpen, *this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (dialog.CancelledFlag || ShuttingDown) {
@@ -117,9 +117,9 @@ void frmMain::EditAssignment(int index) {
     }
     DropUnfinishedRecord(AssignmentFile());
     if (dialog.DeleteFlag) {
-        RemoveRecord(Store.Assignment, AssignmentFields, index);
+        RemoveRecord(Store.Assignment, AssignmentFields, position);
     } else {
-        ReplaceRecord(Store.Assignment, EnteredFields(dialog), index);
+        ReplaceRecord(Store.Assignment, EnteredFields(dialog), position);
     }
     WriteAssignments();
     RefreshFor(ReasonNewRecord);

@@ -9,5 +9,5 @@ void frmMain::NewMorningEvent() {
     NewEvent();
 }
 
-void frmMain::EditEvent(int /*index*/) {
+void frmMain::EditEvent(int /*position*/) {
 }

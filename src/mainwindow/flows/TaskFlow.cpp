@@ -64,19 +64,19 @@ void frmMain::NewTask() {
     RefreshFor(ReasonNewRecord);
 }
 
-void frmMain::EditTask(int index) {
+void frmMain::EditTask(int position) {
     FrmTask& dialog = *TaskDialog;
     PrepareEditor(dialog, *this, "Edit");
-    FillFromRecord(dialog, FilledFields, Store.TaskRecord, index);
+    FillFromRecord(dialog, FilledFields, Store.TaskRecord, position);
     ShowDialog(dialog, TaskDBFirstOpen, *this);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
     DropUnfinishedRecord(TaskFile());
     if (dialog.DeleteFlag) {
-        RemoveRecord(Store.TaskRecord, TaskFields, index);
+        RemoveRecord(Store.TaskRecord, TaskFields, position);
     } else {
-        ReplaceRecord(Store.TaskRecord, EnteredFields(dialog), index);
+        ReplaceRecord(Store.TaskRecord, EnteredFields(dialog), position);
     }
     WriteTasks();
     RefreshFor(ReasonNewRecord);

@@ -90,14 +90,14 @@ void ClickList(frmMain& window, bool right) {
 // The event of a reminder is the occurrence of the row's date, so that day counts as the clicked one.
 void EditReminder(frmMain& window, int row) {
     const std::string& kind = ReminderRowKind.Item(row);
-    const int index = ReminderRows.Item(row);
+    const int position = ReminderRows.Item(row);
     if (kind == HomeworkMode) {
-        window.EditAssignment(index);
+        window.EditAssignment(position);
     } else if (kind == TaskMode) {
-        window.EditTask(index);
+        window.EditTask(position);
     } else {
         window.ClickedDate = ReminderRowDate.Item(row);
-        window.EditEvent(index);
+        window.EditEvent(position);
         window.ClickedDate = window.SelectedDate;
     }
 }
@@ -128,15 +128,15 @@ void frmMain::ResortGrid() {
     }
 }
 
-void frmMain::ColumnClicked(int index) {
-    if (index == 0) {
+void frmMain::ColumnClicked(int column) {
+    if (column == 0) {
         picGrid->setFocus();
         return;
     }
-    if (index == SortColumn) {
+    if (column == SortColumn) {
         SortDirection = SortDirection == Ascending ? Descending : Ascending;
     }
-    SortColumn = index;
+    SortColumn = column;
     ResortGrid();
 }
 

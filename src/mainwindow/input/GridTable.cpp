@@ -85,12 +85,12 @@ QString DayText(const CalendarMonth& month, std::size_t cell) {
 
 QString EventText(int eventRow, int column) {
     const EventLists& store = Store.EventRecord;
-    const int index = EventRows.Item(eventRow);
+    const int position = EventRows.Item(eventRow);
     switch (column) {
     case TimeColumn:
-        return TimeCell(store.time.Item(index)).text;
+        return TimeCell(store.time.Item(position)).text;
     case LengthColumn:
-        return FromStore(store.duration.Item(index));
+        return FromStore(store.duration.Item(position));
     default:
         return FromStore(EventBoxText(eventRow)).trimmed();
     }

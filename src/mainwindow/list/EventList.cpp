@@ -13,12 +13,12 @@
 
 GridRow EventGridRow(int row) {
     const EventLists& store = Store.EventRecord;
-    const int index = EventRows.Item(row);
+    const int position = EventRows.Item(row);
     return {EventRowForeColor.Item(row),
             EventRowBackColor.Item(row),
-            {NameCell(store.desc.Item(index), NewEventText(store.type.Item(index))),
+            {NameCell(store.desc.Item(position), NewEventText(store.type.Item(position))),
              TextCell(EventRowType.Item(row)), DateCell(EventRowDate.Item(row)),
-             TimeCell(store.time.Item(index)), TextCell(ShownChoice(store.recurrence.Item(index)))}};
+             TimeCell(store.time.Item(position)), TextCell(ShownChoice(store.recurrence.Item(position)))}};
 }
 
 void frmMain::LayoutEventList() {

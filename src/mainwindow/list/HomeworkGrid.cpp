@@ -13,14 +13,14 @@
 
 GridRow HomeworkGridRow(int row) {
     const AssignmentLists& store = Store.Assignment;
-    const int index = HomeworkRows.Item(row);
+    const int position = HomeworkRows.Item(row);
     return {RowForeColor.Item(row),
             RowBackColor.Item(row),
-            {ReminderCell(store.reminder.Item(index)), PriorityCell(store.priority.Item(index)),
-             NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(index)),
-             NameCell(store.desc.Item(index), NewAssignmentText), ClockCell(store.time_left.Item(index)),
-             DateCell(store.date.Item(index)), CheckCell(store.done.Item(index)),
-             TrimmedCell(store.grade.Item(index))}};
+            {ReminderCell(store.reminder.Item(position)), PriorityCell(store.priority.Item(position)),
+             NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(position)),
+             NameCell(store.desc.Item(position), NewAssignmentText),
+             ClockCell(store.time_left.Item(position)), DateCell(store.date.Item(position)),
+             CheckCell(store.done.Item(position)), TrimmedCell(store.grade.Item(position))}};
 }
 
 void frmMain::LayoutHomeworkGrid() {

@@ -13,13 +13,13 @@
 GridRow StudyGridRow(int row) {
     const AssignmentLists& store = Store.Assignment;
     const StudySessionLists& log = Store.StudySessionRecord;
-    const int index = HomeworkRows.Item(row);
+    const int position = HomeworkRows.Item(row);
     return {RowForeColor.Item(row),
             RowBackColor.Item(row),
-            {NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(index)),
-             NameCell(store.desc.Item(index), NewAssignmentText), PriorityCell(store.priority.Item(index)),
-             ClockCell(log.time.Item(StudyRowTime.Item(row))),
-             DateCell(log.date.Item(StudyRowDate.Item(row))), DateCell(store.date.Item(index))}};
+            {NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(position)),
+             NameCell(store.desc.Item(position), NewAssignmentText),
+             PriorityCell(store.priority.Item(position)), ClockCell(log.time.Item(StudyRowTime.Item(row))),
+             DateCell(log.date.Item(StudyRowDate.Item(row))), DateCell(store.date.Item(position))}};
 }
 
 void frmMain::LayoutStudyGrid() {

@@ -30,13 +30,14 @@ void ShowTaskTitles(frmMain& window) {
 
 GridRow TaskGridRow(int row) {
     const TaskLists& store = Store.TaskRecord;
-    const int index = TaskRows.Item(row);
-    const bool dated = IsTrue(store.date_exists.Item(index));
+    const int position = TaskRows.Item(row);
+    const bool dated = IsTrue(store.date_exists.Item(position));
     return {TaskRowForeColor.Item(row),
             TaskRowBackColor.Item(row),
-            {ReminderCell(store.reminder.Item(index)), NameCell(store.desc.Item(index), NewTaskText),
-             NameCell(ShownChoice(TaskRowType.Item(row))), TextCell(ShownChoice(store.priority.Item(index))),
-             dated ? DateCell(store.date.Item(index)) : GridCell{}, CheckCell(store.done.Item(index))}};
+            {ReminderCell(store.reminder.Item(position)), NameCell(store.desc.Item(position), NewTaskText),
+             NameCell(ShownChoice(TaskRowType.Item(row))),
+             TextCell(ShownChoice(store.priority.Item(position))),
+             dated ? DateCell(store.date.Item(position)) : GridCell{}, CheckCell(store.done.Item(position))}};
 }
 
 void frmMain::LayoutTaskGrid() {

@@ -82,36 +82,37 @@ std::string MarkIf(bool shown, std::string_view mark) {
 
 std::string HomeworkCaption(int row) {
     const AssignmentLists& store = Store.Assignment;
-    const int index = HomeworkRows.Item(row);
+    const int position = HomeworkRows.Item(row);
     std::string caption;
-    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
-    caption += MarkIf(IsTrue(store.priority.Item(index)), PriorityMark);
-    caption += IsTrue(store.done.Item(index)) ? "(Done)  "
-                                              : "(" + ShownClock(store.time_left.Item(index)) + " left)  ";
-    caption += RowClass.Item(row) + " - " + OrElse(store.desc.Item(index), NewAssignmentText);
+    caption += MarkIf(IsTrue(store.reminder.Item(position)), ReminderMark);
+    caption += MarkIf(IsTrue(store.priority.Item(position)), PriorityMark);
+    caption += IsTrue(store.done.Item(position))
+                   ? "(Done)  "
+                   : "(" + ShownClock(store.time_left.Item(position)) + " left)  ";
+    caption += RowClass.Item(row) + " - " + OrElse(store.desc.Item(position), NewAssignmentText);
     return caption;
 }
 
 std::string TaskCaption(int row) {
     const TaskLists& store = Store.TaskRecord;
-    const int index = TaskRows.Item(row);
-    std::string caption = IsTrue(store.done.Item(index)) ? "(Done)  " : "(Not Done)  ";
-    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
-    caption +=
-        TypeAndDescription(ShownChoice(TaskRowType.Item(row)), OrElse(store.desc.Item(index), NewTaskText));
+    const int position = TaskRows.Item(row);
+    std::string caption = IsTrue(store.done.Item(position)) ? "(Done)  " : "(Not Done)  ";
+    caption += MarkIf(IsTrue(store.reminder.Item(position)), ReminderMark);
+    caption += TypeAndDescription(ShownChoice(TaskRowType.Item(row)),
+                                  OrElse(store.desc.Item(position), NewTaskText));
     return caption;
 }
 
 std::string EventCaption(int row) {
     const EventLists& store = Store.EventRecord;
-    const int index = EventRows.Item(row);
+    const int position = EventRows.Item(row);
     std::string caption;
-    if (const auto time = TimeIn(store.time.Item(index))) {
+    if (const auto time = TimeIn(store.time.Item(position))) {
         caption += "(" + StoredTime(*time) + ")  ";
     }
-    caption += MarkIf(IsTrue(store.reminder.Item(index)), ReminderMark);
-    caption += MarkIf(IsSeries(index), RecurrenceMark);
-    caption += OrElse(TypeAndDescription(EventRowType.Item(row), store.desc.Item(index)), "New Event");
+    caption += MarkIf(IsTrue(store.reminder.Item(position)), ReminderMark);
+    caption += MarkIf(IsSeries(position), RecurrenceMark);
+    caption += OrElse(TypeAndDescription(EventRowType.Item(row), store.desc.Item(position)), "New Event");
     return caption;
 }
 

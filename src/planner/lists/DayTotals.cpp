@@ -55,10 +55,10 @@ EventDayBoxes EventDayTotals(const std::vector<int>& eventsOfDay) {
     DurationParts study;
     int ClassCount = 0;
     int OtherCount = 0;
-    for (const int index : eventsOfDay) {
-        const std::string& type = events.type.Item(index);
+    for (const int position : eventsOfDay) {
+        const std::string& type = events.type.Item(position);
         if (type == StudyTimeType) {
-            const DurationParts parts = DurationByWholeUnit(events.duration.Item(index));
+            const DurationParts parts = DurationByWholeUnit(events.duration.Item(position));
             study.hours += parts.hours;
             study.minutes += parts.minutes;
             continue;

@@ -13,12 +13,13 @@
 
 namespace {
 
-DayBits CellsOfEvent(std::span<const DayFacts> cells, int index) {
+DayBits CellsOfEvent(std::span<const DayFacts> cells, int position) {
     const EventLists& events = Store.EventRecord;
-    if (events.desc.Item(index) == DeletedRecord) {
+    if (events.desc.Item(position) == DeletedRecord) {
         return 0;
     }
-    return IsSeries(index) ? OccurringDays(cells, index) : DayOf(cells, DateValue(events.date.Item(index)));
+    return IsSeries(position) ? OccurringDays(cells, position)
+                              : DayOf(cells, DateValue(events.date.Item(position)));
 }
 
 } // namespace
@@ -27,9 +28,9 @@ EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
     const std::vector<DayFacts> cells = FactsOfDays(firstCell, MonthCells); // once for all series
     const std::vector<int> activeClassIds = ActiveClassIds();
     EventMarks marks;
-    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
-        DayBits days = CellsOfEvent(cells, index);
-        const std::string& type = Store.EventRecord.type.Item(index);
+    for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        DayBits days = CellsOfEvent(cells, position);
+        const std::string& type = Store.EventRecord.type.Item(position);
         if (days == 0 || !BelongsToActiveTerm(type, activeClassIds)) {
             continue;
         }

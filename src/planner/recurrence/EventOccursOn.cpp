@@ -78,8 +78,8 @@ DayBits DaysNotGivenUp(Row row, std::string_view exceptions) {
     return open;
 }
 
-DayBits DaysOfRule(Row row, DayBits open, Date first, int index) {
-    const SeriesRule rule = ReadSeriesRule(index);
+DayBits DaysOfRule(Row row, DayBits open, Date first, int position) {
+    const SeriesRule rule = ReadSeriesRule(position);
     const DayFacts firstFacts = FactsOf(first);
     DayBits held = 0;
     for (; open != 0; open &= open - 1) {
@@ -93,9 +93,9 @@ DayBits DaysOfRule(Row row, DayBits open, Date first, int index) {
 
 } // namespace
 
-bool EventOccursOn(Date day, int index) {
+bool EventOccursOn(Date day, int position) {
     const DayFacts facts = FactsOf(day);
-    return OccurringDays({&facts, 1}, index) != 0;
+    return OccurringDays({&facts, 1}, position) != 0;
 }
 
 DayFacts FactsOf(Date date) {
@@ -118,23 +118,23 @@ DayBits DayOf(std::span<const DayFacts> row, Date date) {
     return n >= 0 && n < static_cast<int>(row.size()) ? DayBits{1} << n : 0;
 }
 
-DayBits OccurringDays(std::span<const DayFacts> row, int index) {
+DayBits OccurringDays(std::span<const DayFacts> row, int position) {
     const EventLists& events = Store.EventRecord;
-    if (events.desc.Item(index) == DeletedRecord) {
+    if (events.desc.Item(position) == DeletedRecord) {
         return 0;
     }
-    DayBits open = DaysNotGivenUp(row, events.exceptions.Item(index));
+    DayBits open = DaysNotGivenUp(row, events.exceptions.Item(position));
     if (open == 0) {
         return 0;
     }
-    const Date first = DateValue(events.date.Item(index));
+    const Date first = DateValue(events.date.Item(position));
     const DayBits onFirst = open & DayOf(row, first); // also where its rule says no
     open &= ~DaysThrough(row, first);
-    if (open == 0 || !IsSeries(index)) {
+    if (open == 0 || !IsSeries(position)) {
         return onFirst;
     }
-    open &= DaysThrough(row, EndDate(index));
-    return open == 0 ? onFirst : onFirst | DaysOfRule(row, open, first, index);
+    open &= DaysThrough(row, EndDate(position));
+    return open == 0 ? onFirst : onFirst | DaysOfRule(row, open, first, position);
 }
 
 std::vector<int> EventsOn(Date day) {

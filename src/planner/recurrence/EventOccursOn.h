@@ -13,7 +13,7 @@
 // date always does, and the days after it as the rule of the series says until its end. A deleted event never
 // occurs. The texts of the record are read in the order of these questions, none beyond the one that decides;
 // a bad text among those read raises the run-time error.
-bool EventOccursOn(Date day, int index);
+bool EventOccursOn(Date day, int position);
 
 // What the rules ask of a day.
 struct DayFacts {
@@ -35,7 +35,7 @@ inline constexpr int GreatestDayBits = 64;
 
 // The days on which the event at the position occurs, out of 1 to 64 days in a row: the same answers as those
 // of EventOccursOn day by day, and the same errors, with each text of the record read only once.
-DayBits OccurringDays(std::span<const DayFacts> row, int index);
+DayBits OccurringDays(std::span<const DayFacts> row, int position);
 
 // The positions of the events that occur on the day, in store order.
 std::vector<int> EventsOn(Date day);

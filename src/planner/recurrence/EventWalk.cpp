@@ -69,8 +69,8 @@ void WalkWeekdays(const SeriesRule& rule, Date first, Span span, std::vector<Dat
     }
 }
 
-void WalkSeries(int index, Date first, Span span, std::vector<Date>& dates) {
-    const SeriesRule rule = ReadSeriesRule(index);
+void WalkSeries(int position, Date first, Span span, std::vector<Date>& dates) {
+    const SeriesRule rule = ReadSeriesRule(position);
     if (rule.recurrence == Recurrence::Day) {
         WalkWeekdays(rule, first, span, dates);
     }
@@ -79,9 +79,9 @@ void WalkSeries(int index, Date first, Span span, std::vector<Date>& dates) {
     }
 }
 
-void WalkEvent(int index, Span range, std::vector<Date>& dates) {
-    const Date first = DateValue(Store.EventRecord.date.Item(index));
-    if (!IsSeries(index)) {
+void WalkEvent(int position, Span range, std::vector<Date>& dates) {
+    const Date first = DateValue(Store.EventRecord.date.Item(position));
+    if (!IsSeries(position)) {
         if (first >= range.first && first <= range.last) {
             dates.push_back(first);
         }
@@ -90,32 +90,32 @@ void WalkEvent(int index, Span range, std::vector<Date>& dates) {
     if (first > range.last) {
         return;
     }
-    const Date end = EndDate(index);
+    const Date end = EndDate(position);
     if (end < range.first) {
         return;
     }
     const Date last = std::min(end, range.last);
-    WalkSeries(index, first, {std::max(first, range.first), last}, dates);
+    WalkSeries(position, first, {std::max(first, range.first), last}, dates);
 }
 
 // The occurrences on which the day lies at most the lead before. The end is asked of a series alone.
-void WalkReminders(int index, Date day, days lead, std::vector<Date>& dates) {
-    const Date first = DateValue(Store.EventRecord.date.Item(index));
+void WalkReminders(int position, Date day, days lead, std::vector<Date>& dates) {
+    const Date first = DateValue(Store.EventRecord.date.Item(position));
     if (day < first - lead) {
         return;
     }
-    if (!IsSeries(index)) {
+    if (!IsSeries(position)) {
         if (day <= first) {
             dates.push_back(first);
         }
         return;
     }
-    const Date end = EndDate(index);
+    const Date end = EndDate(position);
     if (day > end) {
         return;
     }
     const Date last = std::min(end, day + lead);
-    WalkSeries(index, first, {std::max(first, day), last}, dates);
+    WalkSeries(position, first, {std::max(first, day), last}, dates);
 }
 
 } // namespace
@@ -134,14 +134,14 @@ std::vector<EventOccurrence> SelectEventsInRange(Date from, std::string_view com
     const Span range{from, LastOfRange(from, comboDateRange)};
     std::vector<EventOccurrence> occurrences;
     std::vector<Date> dates;
-    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
-        if (Store.EventRecord.desc.Item(index) == DeletedRecord) {
+    for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        if (Store.EventRecord.desc.Item(position) == DeletedRecord) {
             continue;
         }
         dates.clear();
-        WalkEvent(index, range, dates);
+        WalkEvent(position, range, dates);
         for (const Date date : dates) {
-            occurrences.push_back({index, date});
+            occurrences.push_back({position, date});
         }
     }
     return occurrences;
@@ -150,15 +150,15 @@ std::vector<EventOccurrence> SelectEventsInRange(Date from, std::string_view com
 std::vector<EventReminder> SelectEventReminders(Date day) {
     std::vector<EventReminder> reminders;
     std::vector<Date> dates;
-    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
-        if (Store.EventRecord.desc.Item(index) == DeletedRecord) {
+    for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        if (Store.EventRecord.desc.Item(position) == DeletedRecord) {
             continue;
         }
-        const days lead{LeadDays(Store.EventRecord.reminder.Item(index))};
+        const days lead{LeadDays(Store.EventRecord.reminder.Item(position))};
         dates.clear();
-        WalkReminders(index, day, lead, dates);
+        WalkReminders(position, day, lead, dates);
         for (const Date date : dates) {
-            reminders.push_back({index, date, date - lead});
+            reminders.push_back({position, date, date - lead});
         }
     }
     return reminders;

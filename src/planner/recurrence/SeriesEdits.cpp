@@ -13,37 +13,37 @@ void AddEvent(const EventLists& values) {
     }
 }
 
-void ReplaceEvent(int index, const EventLists& values, bool deleteExceptions) {
+void ReplaceEvent(int position, const EventLists& values, bool deleteExceptions) {
     EventLists& events = Store.EventRecord;
     for (const Field<EventLists>& field : EventFields) {
         if (field.rule != FieldRule::Id) {
-            (events.*field.list).Replace(index, (values.*field.list).Item(1));
+            (events.*field.list).Replace(position, (values.*field.list).Item(1));
         }
     }
     if (deleteExceptions) {
-        events.exceptions.Replace(index, {});
-        const std::string id = events.id.Item(index); // the record may move up as its children go
+        events.exceptions.Replace(position, {});
+        const std::string id = events.id.Item(position); // the record may move up as its children go
         RemoveExceptionChildren(id);
     }
 }
 
-void ReplaceOccurrence(int index, Date date, const EventLists& values) {
+void ReplaceOccurrence(int position, Date date, const EventLists& values) {
     EventLists child = values;
     child.recurrence.Replace(1, std::string(NoRecurrence));
     child.exceptions.Replace(1, {});
-    child.parent_id.Replace(1, Store.EventRecord.id.Item(index));
+    child.parent_id.Replace(1, Store.EventRecord.id.Item(position));
     AddEvent(child); // first, since where the ids have run out the series stays as it is
-    GiveUpOccurrence(index, date);
+    GiveUpOccurrence(position, date);
 }
 
-void GiveUpOccurrence(int index, Date date) {
+void GiveUpOccurrence(int position, Date date) {
     TextList& exceptions = Store.EventRecord.exceptions;
-    exceptions.Replace(index, std::string(Trim(exceptions.Item(index) + " " + StoredDate(date))));
+    exceptions.Replace(position, std::string(Trim(exceptions.Item(position) + " " + StoredDate(date))));
 }
 
-void RemoveSeries(int index) {
-    const std::string id = Store.EventRecord.id.Item(index);
-    RemoveRecord(Store.EventRecord, EventFields, index);
+void RemoveSeries(int position) {
+    const std::string id = Store.EventRecord.id.Item(position);
+    RemoveRecord(Store.EventRecord, EventFields, position);
     RemoveExceptionChildren(id);
 }
 
@@ -52,9 +52,9 @@ void RemoveExceptionChildren(const std::string& id) {
         return; // an empty parent is that of every event which is no exception child
     }
     const EventLists& events = Store.EventRecord;
-    for (int index = WholeRecords(events); index >= 1; --index) {
-        if (events.parent_id.Item(index) == id) {
-            RemoveRecord(Store.EventRecord, EventFields, index);
+    for (int position = WholeRecords(events); position >= 1; --position) {
+        if (events.parent_id.Item(position) == id) {
+            RemoveRecord(Store.EventRecord, EventFields, position);
         }
     }
 }

@@ -13,18 +13,18 @@ void AddEvent(const EventLists& values);
 
 // Replaces the event in its place; it keeps its id. With deleteExceptions, which is for a series whose
 // recurrence has changed, it has given up no dates any more, and its exception children are removed.
-void ReplaceEvent(int index, const EventLists& values, bool deleteExceptions);
+void ReplaceEvent(int position, const EventLists& values, bool deleteExceptions);
 
 // Lets the occurrence live on as an event of its own, an exception child: it is appended with the values, the
 // series as its parent and no recurrence, and the series gives up the date, which is that of the occurrence
 // and not of the values.
-void ReplaceOccurrence(int index, Date date, const EventLists& values);
+void ReplaceOccurrence(int position, Date date, const EventLists& values);
 
 // Appends the date to the exceptions of the series.
-void GiveUpOccurrence(int index, Date date);
+void GiveUpOccurrence(int position, Date date);
 
 // Removes the event, and with a series its exception children.
-void RemoveSeries(int index);
+void RemoveSeries(int position);
 
 // Removes every record whose parent is the series with that id, from the last to the first.
 void RemoveExceptionChildren(const std::string& id);

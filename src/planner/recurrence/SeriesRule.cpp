@@ -45,31 +45,31 @@ bool HasWeekday(unsigned weekdays, int weekdayNumber) {
     return (weekdays >> weekdayNumber & 1U) != 0;
 }
 
-bool IsSeries(int index) {
-    return Store.EventRecord.recurrence.Item(index) != NoRecurrence;
+bool IsSeries(int position) {
+    return Store.EventRecord.recurrence.Item(position) != NoRecurrence;
 }
 
-Date EndDate(int index) {
+Date EndDate(int position) {
     const EventLists& events = Store.EventRecord;
-    return IsTrue(events.end.Item(index)) ? DateValue(events.end_date.Item(index)) : LastStoredDate;
+    return IsTrue(events.end.Item(position)) ? DateValue(events.end_date.Item(position)) : LastStoredDate;
 }
 
-SeriesRule ReadSeriesRule(int index) {
+SeriesRule ReadSeriesRule(int position) {
     const EventLists& events = Store.EventRecord;
     SeriesRule rule;
-    rule.recurrence = RecurrenceIn(events.recurrence.Item(index));
+    rule.recurrence = RecurrenceIn(events.recurrence.Item(position));
     if (rule.recurrence == Recurrence::Day) {
-        rule.weekdays = WeekdaysIn(events.repeat_daily.Item(index));
+        rule.weekdays = WeekdaysIn(events.repeat_daily.Item(position));
         return rule;
     }
     if (rule.recurrence != Recurrence::Month && rule.recurrence != Recurrence::Year) {
         return rule;
     }
-    rule.sameDate = IsTrue(events.same_date.Item(index));
+    rule.sameDate = IsTrue(events.same_date.Item(position));
     if (!rule.sameDate) {
-        rule.rank = RankIn(events.repeat_number.Item(index));
-        rule.countsDays = events.repeat_day.Item(index) == DayOfMonthText;
-        rule.weekday = WeekdayIn(events.repeat_day.Item(index));
+        rule.rank = RankIn(events.repeat_number.Item(position));
+        rule.countsDays = events.repeat_day.Item(position) == DayOfMonthText;
+        rule.weekday = WeekdayIn(events.repeat_day.Item(position));
     }
     return rule;
 }

@@ -47,15 +47,15 @@ bool HasWeekday(unsigned weekdays, int weekdayNumber);
 int WeekdayIn(std::string_view text);
 
 // True when the event at the position repeats; false when it is a single one.
-bool IsSeries(int index);
+bool IsSeries(int position);
 
 // The last date on which the series at the position can happen: where it has no end, the last that a text can
 // hold. Raises the run-time error where `end` is no boolean, or `end_date` is read and no date.
-Date EndDate(int index);
+Date EndDate(int position);
 
 // Reads the fields that the event's recurrence looks at and no others; raises the run-time error where a
 // `same_date` among them is no boolean.
-SeriesRule ReadSeriesRule(int index);
+SeriesRule ReadSeriesRule(int position);
 
 // The least day number of the rank in a month of that many days; the rank's seven days follow from it. The
 // last seven days of a month are those of Last. Not for Unlisted.

@@ -68,14 +68,14 @@ struct SeriesReminder {
     std::string_view exceptions;
 };
 
-SeriesReminder ReadSeriesReminder(int index) {
+SeriesReminder ReadSeriesReminder(int position) {
     const EventLists& events = Store.EventRecord;
-    return {ReadSeriesRule(index),
-            DateValue(events.date.Item(index)),
-            EndDate(index),
-            TimeValue(events.time.Item(index)),
-            LeadOf(events.reminder_time.Item(index)),
-            events.exceptions.Item(index)};
+    return {ReadSeriesRule(position),
+            DateValue(events.date.Item(position)),
+            EndDate(position),
+            TimeValue(events.time.Item(position)),
+            LeadOf(events.reminder_time.Item(position)),
+            events.exceptions.Item(position)};
 }
 
 // What lies behind an occurrence: the latest that is due, and the first that is not; nothing for either where
@@ -106,51 +106,52 @@ Following WalkOn(const SeriesReminder& series, Date day, Moment now) {
     }
 }
 
-void SetPresent(int index, const Occurrence& present) {
-    Store.EventRecord.reminder_currentday.Replace(index, StoredDate(present.day));
-    Store.EventRecord.reminder_alarm.Replace(index, present.alarm);
+void SetPresent(int position, const Occurrence& present) {
+    Store.EventRecord.reminder_currentday.Replace(position, StoredDate(present.day));
+    Store.EventRecord.reminder_alarm.Replace(position, present.alarm);
 }
 
-void SetNext(int index, const Occurrence& next) {
-    Store.EventRecord.reminder_nextday.Replace(index, StoredDate(next.day));
-    Store.EventRecord.reminder_nextalarm.Replace(index, next.alarm);
+void SetNext(int position, const Occurrence& next) {
+    Store.EventRecord.reminder_nextday.Replace(position, StoredDate(next.day));
+    Store.EventRecord.reminder_nextalarm.Replace(position, next.alarm);
 }
 
 } // namespace
 
-bool AdvanceEventReminder(int index, Moment now) {
+bool AdvanceEventReminder(int position, Moment now) {
     EventLists& events = Store.EventRecord;
-    const SeriesReminder series = ReadSeriesReminder(index);
-    const bool snoozed = events.reminder_currentday.Item(index) != events.reminder_nextday.Item(index);
-    Occurrence next{DateValue(events.reminder_nextday.Item(index)), events.reminder_nextalarm.Item(index)};
+    const SeriesReminder series = ReadSeriesReminder(position);
+    const bool snoozed = events.reminder_currentday.Item(position) != events.reminder_nextday.Item(position);
+    Occurrence next{DateValue(events.reminder_nextday.Item(position)),
+                    events.reminder_nextalarm.Item(position)};
     const Following following = WalkOn(series, next.day, now);
     std::optional<Occurrence> missed = following.latestDue;
     if (!missed && !IsException(series.exceptions, next.day)) {
         missed = next;
     }
     if (missed) {
-        events.reminder_list.Replace(index, BooleanText(true));
-        SetPresent(index, *missed);
+        events.reminder_list.Replace(position, BooleanText(true));
+        SetPresent(position, *missed);
     }
     if (following.next) {
         next = *following.next;
     } else if (!missed && snoozed) {
         // Only the snoozed occurrence is left, and comes next.
-        next = {DateValue(events.reminder_currentday.Item(index)), events.reminder_alarm.Item(index)};
+        next = {DateValue(events.reminder_currentday.Item(position)), events.reminder_alarm.Item(position)};
     } else {
-        events.reminder.Replace(index, BooleanText(false));
+        events.reminder.Replace(position, BooleanText(false));
     }
-    SetNext(index, next);
+    SetNext(position, next);
     if (!missed && !snoozed) {
-        FollowNextOccurrence(index);
+        FollowNextOccurrence(position);
     }
     return missed.has_value();
 }
 
-void FollowNextOccurrence(int index) {
+void FollowNextOccurrence(int position) {
     EventLists& events = Store.EventRecord;
-    events.reminder_alarm.Replace(index, events.reminder_nextalarm.Item(index));
-    events.reminder_currentday.Replace(index, events.reminder_nextday.Item(index));
+    events.reminder_alarm.Replace(position, events.reminder_nextalarm.Item(position));
+    events.reminder_currentday.Replace(position, events.reminder_nextday.Item(position));
 }
 
 std::optional<Date> StepSeries(const SeriesRule& rule, Date first, Date day) {

@@ -11,11 +11,11 @@
 // that is not due. When its occurrences have run out it is disarmed. Gives false when no occurrence was left
 // to put on the list; the fields have moved on all the same, and the event file is to be written either way.
 // Raises the run-time error at a bad text among those that it reads.
-bool AdvanceEventReminder(int index, Moment now);
+bool AdvanceEventReminder(int position, Moment now);
 
 // Lets what stands for the present occurrence of the series follow its next one, as when the present one is
 // done with.
-void FollowNextOccurrence(int index);
+void FollowNextOccurrence(int position);
 
 // The first day after the given one that the series steps to, its exceptions and its end not asked; nothing
 // when its rule names none or the calendar ends. Monthly and yearly series of one day number count from their

@@ -38,18 +38,18 @@ void SnoozeItem(const ItemReminderLists& items, int position, Moment alarm) {
     items.reminderList.Replace(position, BooleanText(false));
 }
 
-void SnoozeEvent(int index, Moment alarm) {
+void SnoozeEvent(int position, Moment alarm) {
     EventLists& events = Store.EventRecord;
-    events.reminder.Replace(index, BooleanText(true));
-    events.reminder_alarm.Replace(index, StoredMoment(alarm));
-    events.reminder_list.Replace(index, BooleanText(false));
+    events.reminder.Replace(position, BooleanText(true));
+    events.reminder_alarm.Replace(position, StoredMoment(alarm));
+    events.reminder_list.Replace(position, BooleanText(false));
 }
 
-void RemoveEvent(int index) {
+void RemoveEvent(int position) {
     EventLists& events = Store.EventRecord;
-    events.reminder_list.Replace(index, BooleanText(false));
-    if (IsSeries(index)) {
-        FollowNextOccurrence(index);
+    events.reminder_list.Replace(position, BooleanText(false));
+    if (IsSeries(position)) {
+        FollowNextOccurrence(position);
     }
 }
 

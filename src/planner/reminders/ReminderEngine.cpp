@@ -157,49 +157,49 @@ void CheckHomework(Scan& scan) {
 // --- Events ------------------------------------------------------------------------------------------------
 
 // A snoozed occurrence comes back, unless the series has given it up since; then the next one follows.
-bool FireSnoozedOccurrence(int index) {
+bool FireSnoozedOccurrence(int position) {
     EventLists& events = Store.EventRecord;
-    if (IsException(events.exceptions.Item(index), DateValue(events.reminder_currentday.Item(index)))) {
-        FollowNextOccurrence(index);
+    if (IsException(events.exceptions.Item(position), DateValue(events.reminder_currentday.Item(position)))) {
+        FollowNextOccurrence(position);
         return false;
     }
-    events.reminder_list.Replace(index, BooleanText(true));
+    events.reminder_list.Replace(position, BooleanText(true));
     return true;
 }
 
 // Fires what is due of an event that does not stand yet; true when it stands now.
-bool FireEvent(int index, bool nextIsDue, Moment now) {
+bool FireEvent(int position, bool nextIsDue, Moment now) {
     EventLists& events = Store.EventRecord;
     if (nextIsDue) {
-        return AdvanceEventReminder(index, now);
+        return AdvanceEventReminder(position, now);
     }
-    if (IsSeries(index)) {
-        return FireSnoozedOccurrence(index);
+    if (IsSeries(position)) {
+        return FireSnoozedOccurrence(position);
     }
-    events.reminder.Replace(index, BooleanText(false));
-    events.reminder_list.Replace(index, BooleanText(true));
+    events.reminder.Replace(position, BooleanText(false));
+    events.reminder_list.Replace(position, BooleanText(true));
     return true;
 }
 
 // True when the event stands on the list. A series that stands is left alone until the student acts on it.
-bool EventStands(int index, Scan& scan) {
+bool EventStands(int position, Scan& scan) {
     const EventLists& events = Store.EventRecord;
-    if (events.desc.Item(index) == DeletedRecord) {
+    if (events.desc.Item(position) == DeletedRecord) {
         return false;
     }
-    const std::string& type = events.type.Item(index);
-    if (IsTrue(events.reminder_list.Item(index))) {
+    const std::string& type = events.type.Item(position);
+    if (IsTrue(events.reminder_list.Item(position))) {
         return BelongsToActiveTerm(type);
     }
-    if (!IsTrue(events.reminder.Item(index))) {
+    if (!IsTrue(events.reminder.Item(position))) {
         return false;
     }
-    const bool nextIsDue = IsSeries(index) && IsDue(events.reminder_nextalarm.Item(index), scan);
-    const bool due = nextIsDue || IsDue(events.reminder_alarm.Item(index), scan);
+    const bool nextIsDue = IsSeries(position) && IsDue(events.reminder_nextalarm.Item(position), scan);
+    const bool due = nextIsDue || IsDue(events.reminder_alarm.Item(position), scan);
     if (!due || !BelongsToActiveTerm(type)) {
         return false;
     }
-    if (!FireEvent(index, nextIsDue, scan.now)) {
+    if (!FireEvent(position, nextIsDue, scan.now)) {
         scan.flags.ReminderEventsChanged = true;
         return false;
     }
@@ -207,31 +207,31 @@ bool EventStands(int index, Scan& scan) {
     return true;
 }
 
-Moment MomentOfEvent(int index) {
-    return Moment{ReminderDayOf(index)} + TimeValue(Store.EventRecord.time.Item(index));
+Moment MomentOfEvent(int position) {
+    return Moment{ReminderDayOf(position)} + TimeValue(Store.EventRecord.time.Item(position));
 }
 
 void CheckEvents(Scan& scan) {
     const EventLists& events = Store.EventRecord;
-    for (int index = 1, records = WholeRecords(events); index <= records; ++index) {
-        if (!EventStands(index, scan)) {
+    for (int position = 1, records = WholeRecords(events); position <= records; ++position) {
+        if (!EventStands(position, scan)) {
             continue;
         }
-        const Moment moment = MomentOfEvent(index);
+        const Moment moment = MomentOfEvent(position);
         const std::int64_t away = (floor<minutes>(moment) - floor<minutes>(scan.now)).count();
-        const std::string& type = events.type.Item(index);
-        AppendRow(scan,
-                  {events.id.Item(index), EventMode, OrElse(events.desc.Item(index), NewEventText(type)),
-                   MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
-                   EventTypeLook(type)});
+        const std::string& type = events.type.Item(position);
+        AppendRow(scan, {events.id.Item(position), EventMode,
+                         OrElse(events.desc.Item(position), NewEventText(type)),
+                         MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
+                         EventTypeLook(type)});
     }
 }
 
 } // namespace
 
-Date ReminderDayOf(int index) {
+Date ReminderDayOf(int position) {
     const EventLists& events = Store.EventRecord;
-    return DateValue((IsSeries(index) ? events.reminder_currentday : events.date).Item(index));
+    return DateValue((IsSeries(position) ? events.reminder_currentday : events.date).Item(position));
 }
 
 void CheckReminders(Moment now, ReminderFlags& flags, ReminderListRows& rows) {

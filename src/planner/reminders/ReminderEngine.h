@@ -17,7 +17,7 @@ struct ReminderFlags {
 
 // The day of the occurrence that the reminder of the event at the position is about: of a series its present
 // one. Raises the run-time error where that text is no date.
-Date ReminderDayOf(int index);
+Date ReminderDayOf(int position);
 
 // Fills the rows anew. What is due fires: its fields in the store change, the flag of its file is set, the
 // window is to come up and the selection is cleared. Deleted records and meetings of classes of other terms

@@ -33,16 +33,16 @@ struct LaterStudy {
     bool summedUp = true;
 };
 
-double LengthOf(int index) {
-    return DurationToMinutes(Store.EventRecord.duration.Item(index));
+double LengthOf(int position) {
+    return DurationToMinutes(Store.EventRecord.duration.Item(position));
 }
 
 // True when the session of today ends before the present. The end is a time of day: a session over midnight
 // ends early in the morning and counts as over. That is meant.
-bool IsOver(int index, TimeOfDay presentTime) {
+bool IsOver(int position, TimeOfDay presentTime) {
     const auto present = static_cast<double>(presentTime.count());
-    const auto start = static_cast<double>(TimeValue(Store.EventRecord.time.Item(index)).count());
-    const double seconds = std::nearbyint(LengthOf(index) * SecondsPerMinute);
+    const auto start = static_cast<double>(TimeValue(Store.EventRecord.time.Item(position)).count());
+    const double seconds = std::nearbyint(LengthOf(position) * SecondsPerMinute);
     const double end = std::fmod(start + seconds, SecondsPerDay);
     return (end < 0 ? end + SecondsPerDay : end) < present;
 }
@@ -55,12 +55,12 @@ void AddMinutes(std::size_t day, double minutes) {
 // False when a session of today is over, which ends the count.
 bool AddStudyOfToday(Moment now, const std::vector<int>& sessions) {
     const auto today = std::chrono::floor<days>(now);
-    for (const int index : sessions) {
-        if (EventOccursOn(today, index)) {
-            if (IsOver(index, now - today)) {
+    for (const int position : sessions) {
+        if (EventOccursOn(today, position)) {
+            if (IsOver(position, now - today)) {
                 return false;
             }
-            AddMinutes(0, LengthOf(index));
+            AddMinutes(0, LengthOf(position));
         }
     }
     return true;
@@ -93,10 +93,10 @@ std::span<const DayFacts> FactsFrom(LaterStudy& later, std::size_t first, std::s
 }
 
 // Adds the study of the event on the days from the given one that can be asked at once; gives the day behind.
-std::size_t AddRow(LaterStudy& later, int index, std::size_t first) {
+std::size_t AddRow(LaterStudy& later, int position, std::size_t first) {
     const std::span<const DayFacts> row = FactsFrom(later, first, GreatestDayBits);
-    DayBits occurring = OccurringDays(row, index);
-    const double length = occurring == 0 ? 0 : LengthOf(index);
+    DayBits occurring = OccurringDays(row, position);
+    const double length = occurring == 0 ? 0 : LengthOf(position);
     if (!IsWhole(length)) {
         SumUp(later);
     }
@@ -108,14 +108,14 @@ std::size_t AddRow(LaterStudy& later, int index, std::size_t first) {
 
 // The first day from which on all weeks of the event are alike as far as its end: behind its first date and
 // the dates given up. A monthly or yearly series has none.
-std::size_t FirstRegularDay(int index) {
+std::size_t FirstRegularDay(int position) {
     const EventLists& events = Store.EventRecord;
-    const std::string& recurrence = events.recurrence.Item(index);
+    const std::string& recurrence = events.recurrence.Item(position);
     if (recurrence == "Month" || recurrence == "Year") {
         return AlertDays.values.size();
     }
-    Date lastIrregular = DateValue(events.date.Item(index));
-    std::string_view exceptions = events.exceptions.Item(index);
+    Date lastIrregular = DateValue(events.date.Item(position));
+    std::string_view exceptions = events.exceptions.Item(position);
     while (const std::optional<Date> date = TakeException(exceptions)) {
         lastIrregular = std::max(lastIrregular, *date);
     }
@@ -124,19 +124,19 @@ std::size_t FirstRegularDay(int index) {
 }
 
 // The last day on which the event can occur.
-std::size_t LastDayOfEvent(int index) {
-    const Date last = std::min(AlertDays.values.back(), EndDate(index));
+std::size_t LastDayOfEvent(int position) {
+    const Date last = std::min(AlertDays.values.back(), EndDate(position));
     return static_cast<std::size_t>(DayDiff(AlertDays.values.front(), last));
 }
 
 // Adds the study of the event on all days from the given one on, its weeks being alike.
-void AddWeeks(LaterStudy& later, int index, std::size_t first) {
-    DayBits occurring = OccurringDays(FactsFrom(later, first, DaysPerWeek), index);
+void AddWeeks(LaterStudy& later, int position, std::size_t first) {
+    DayBits occurring = OccurringDays(FactsFrom(later, first, DaysPerWeek), position);
     if (occurring == 0) {
         return;
     }
-    const double length = LengthOf(index);
-    const std::size_t last = LastDayOfEvent(index);
+    const double length = LengthOf(position);
+    const std::size_t last = LastDayOfEvent(position);
     for (; occurring != 0; occurring &= occurring - 1) {
         std::size_t day = first + static_cast<std::size_t>(std::countr_zero(occurring));
         if (IsWhole(length)) {
@@ -152,18 +152,18 @@ void AddWeeks(LaterStudy& later, int index, std::size_t first) {
     }
 }
 
-void AddStudyOfLaterDays(LaterStudy& later, int index) {
+void AddStudyOfLaterDays(LaterStudy& later, int position) {
     const std::size_t count = AlertDays.values.size();
-    if (count == 1 || Store.EventRecord.desc.Item(index) == DeletedRecord) {
+    if (count == 1 || Store.EventRecord.desc.Item(position) == DeletedRecord) {
         return;
     }
-    std::size_t day = AddRow(later, index, 1);
-    const std::size_t firstRegular = day < count ? FirstRegularDay(index) : count;
+    std::size_t day = AddRow(later, position, 1);
+    const std::size_t firstRegular = day < count ? FirstRegularDay(position) : count;
     while (day < firstRegular) {
-        day = AddRow(later, index, day);
+        day = AddRow(later, position, day);
     }
     if (day < count) {
-        AddWeeks(later, index, day);
+        AddWeeks(later, position, day);
     }
 }
 
@@ -172,9 +172,9 @@ void AddStudyOfLaterDays(LaterStudy& later, int index) {
 void StudyTimeByDay(Moment now) {
     const TextList& types = Store.EventRecord.type;
     std::vector<int> sessions;
-    for (int index = 1, records = WholeRecords(Store.EventRecord); index <= records; ++index) {
-        if (types.Item(index) == StudyTimeType) {
-            sessions.push_back(index);
+    for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        if (types.Item(position) == StudyTimeType) {
+            sessions.push_back(position);
         }
     }
     if (!AddStudyOfToday(now, sessions)) {
@@ -183,8 +183,8 @@ void StudyTimeByDay(Moment now) {
     LaterStudy later;
     later.facts.reserve(AlertDays.values.size());
     later.weeklyChange.resize(AlertDays.values.size() + DaysPerWeek);
-    for (const int index : sessions) {
-        AddStudyOfLaterDays(later, index);
+    for (const int position : sessions) {
+        AddStudyOfLaterDays(later, position);
     }
     SumUp(later);
 }
