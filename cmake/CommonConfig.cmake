@@ -12,7 +12,10 @@ endif()
 
 add_library(planovarium_flags INTERFACE)
 target_compile_options(planovarium_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(PLANOVARIUM_WERROR)
+  target_compile_options(planovarium_flags INTERFACE -Werror)
+endif()
 # GCC 12 warns of an overlap in the library's own string concatenation (gcc.gnu.org/bugzilla 105651). Clang's tools
 # read the same flags and do not know that warning.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
@@ -20,6 +23,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(planovarium_flags INTERFACE -fpch-preprocess)
+endif()
+# The standard library's own checks, where speed does not count.
+if(PLANOVARIUM_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")
+  target_compile_definitions(planovarium_flags INTERFACE _GLIBCXX_ASSERTIONS)
 endif()
 target_include_directories(planovarium_flags INTERFACE "${PROJECT_SOURCE_DIR}/src")
 
