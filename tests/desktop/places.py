@@ -50,8 +50,8 @@ class Term:
 
 class Assignment:
     CLASSES = (138, 42)
-    CLASS_ROW = (70, 42)  # in the list that opens over the box; so far aside that a click is no double click
-    CLASS_ROW_HEIGHT = 21
+    CLASS_ROW = (70, 65)  # in the list that opens under the box; so far aside that a click is no double click
+    CLASS_ROW_HEIGHT = 22
     DUE_DATE_BUTTON = (499, 42)
     DUE_DATE_16 = (427, 143)  # the 16th of October 2009 in the month that opens from that button
     DESCRIPTION = (264, 137)
