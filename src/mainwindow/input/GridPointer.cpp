@@ -96,15 +96,16 @@ QString EventTip(const frmMain& window, int x, int y) {
     return row == 0 || ShownEventText(row, EventBoxWidth.Item(row)) == whole ? QString() : whole.trimmed();
 }
 
-// Follows the pointer over the grid, and off it onto the titles and the scroll bar.
+// Follows the pointer over the grid, and off it onto the titles and the scroll bar. The grid is kept apart,
+// since events reach it while the window comes to its end.
 class GridPointerFilter : public QObject {
 public:
-    explicit GridPointerFilter(frmMain& owner) : QObject(&owner), window(owner) {}
+    explicit GridPointerFilter(frmMain& owner) : QObject(&owner), window(owner), grid(owner.picGrid) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != window.picGrid) {
+        if (watched != grid) {
             if (event->type() == QEvent::Enter) {
-                window.picGrid->ShowHover(std::nullopt);
+                grid->ShowHover(std::nullopt);
             }
             return false;
         }
@@ -113,7 +114,7 @@ public:
             Follow(static_cast<QMouseEvent*>(event)->position().toPoint());
             return false;
         case QEvent::Leave:
-            window.picGrid->ShowHover(std::nullopt);
+            grid->ShowHover(std::nullopt);
             return false;
         case QEvent::ToolTip:
             return ShowTip(*static_cast<QHelpEvent*>(event));
@@ -123,9 +124,8 @@ public:
     }
 
     void Follow(QPoint point) {
-        PictureBox& grid = *window.picGrid;
-        grid.ShowHover(OpenableAt(window, point.x() * UnitsPerPixel, point.y() * UnitsPerPixel));
-        grid.setCursor(grid.Hover() ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        grid->ShowHover(OpenableAt(window, point.x() * UnitsPerPixel, point.y() * UnitsPerPixel));
+        grid->setCursor(grid->Hover() ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
 
 private:
@@ -134,12 +134,13 @@ private:
         if (tip.isEmpty()) {
             QToolTip::hideText();
         } else {
-            QToolTip::showText(event.globalPos(), PlainTip(tip), window.picGrid);
+            QToolTip::showText(event.globalPos(), PlainTip(tip), grid);
         }
         return true;
     }
 
     frmMain& window;
+    PictureBox* grid;
 };
 
 } // namespace
