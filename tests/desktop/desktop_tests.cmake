@@ -19,11 +19,3 @@ add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
 add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
-
-# The tools that try the README's commands on a bare machine and that check the rooms.
-foreach(tool bare rooms)
-  add_test(NAME tools.test_${tool} COMMAND ${Python3_EXECUTABLE} -m unittest -v test_${tool}
-    WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/tools")
-  set_tests_properties(tools.test_${tool} PROPERTIES
-    LABELS desktop TIMEOUT 300 ENVIRONMENT PYTHONDONTWRITEBYTECODE=1)
-endforeach()

@@ -6,10 +6,14 @@
 #include <fstream>
 #include <iterator>
 
-LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesystem::path& target,
-                         const std::string& day) {
-    const std::string command = "'" PLANOVARIUM_SOURCE_DIR "/tools/lay-out-drive' '" + source.string() +
-                                "' '" + target.string() + "' " + day + " 2>&1";
+namespace {
+
+std::string Quoted(const std::filesystem::path& path) {
+    return " '" + path.string() + "' ";
+}
+
+LayoutResult RunStep(const std::string& arguments) {
+    const std::string command = "'" PLANOVARIUM_SOURCE_DIR "/tools/lay-out-drive' " + arguments + " 2>&1";
     LayoutResult result;
     FILE* const pipe = ::popen(command.c_str(), "r");
     if (pipe == nullptr) {
@@ -21,6 +25,17 @@ LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesys
     }
     result.succeeded = ::pclose(pipe) == 0;
     return result;
+}
+
+} // namespace
+
+LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesystem::path& target,
+                         const std::string& day) {
+    return RunStep(Quoted(source) + Quoted(target) + day);
+}
+
+LayoutResult RenewDrive(const std::filesystem::path& source, const std::filesystem::path& target) {
+    return RunStep("--renew" + Quoted(source) + Quoted(target));
 }
 
 std::string BytesOf(const std::filesystem::path& file) {

@@ -16,4 +16,7 @@ struct LayoutResult {
 LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesystem::path& target,
                          const std::string& day);
 
+// Brings the program folder of the drive in the target up to that of the source.
+LayoutResult RenewDrive(const std::filesystem::path& source, const std::filesystem::path& target);
+
 std::string BytesOf(const std::filesystem::path& file);

@@ -27,6 +27,16 @@ protected:
         std::ofstream(source / name, std::ios::binary) << bytes;
     }
 
+    // A drive laid out from a source with a program folder.
+    void LayOutWithProgram() const {
+        fs::create_directories(source / "Planovarium/Help");
+        SetSourceFile("Planovarium/Help/index.html", "a page");
+        SetSourceFile("Planovarium/Task List Template.html", "a template");
+        SetSourceFile("Planovarium/Calendar Template3.html", "another");
+        SetSourceFile("Documents/Notes.txt", "notes");
+        ASSERT_TRUE(LayOutDrive(source, target, "2009-10-14").succeeded);
+    }
+
     TemporaryDrive drive;
     fs::path source = drive.root / "source";
     fs::path target = drive.root / "target";
@@ -177,6 +187,56 @@ TEST_F(LayOutDriveTest, LeavesNothingHalfWrittenBehind) {
     for (const fs::directory_entry& entry : fs::directory_iterator(drive.root)) {
         EXPECT_EQ(entry.path().filename().string().find("target."), std::string::npos) << entry.path();
     }
+}
+
+TEST_F(LayOutDriveTest, RenewsWhatIsMissingOrDiffersInTheProgramFolder) {
+    LayOutWithProgram();
+    fs::create_directories(source / "Planovarium/New/Deep");
+    SetSourceFile("Planovarium/New/Deep/page.html", std::string("\0\r\n{today}", 10));
+    SetSourceFile("Planovarium/Help/index.html", "a better page");
+    const LayoutResult result = RenewDrive(source, target);
+    EXPECT_TRUE(result.succeeded);
+    EXPECT_EQ(result.output,
+              "Renewed 2 of the program's files in " + (target / "Planovarium").string() + ".\n");
+    EXPECT_EQ(BytesOf(target / "Planovarium/New/Deep/page.html"), std::string("\0\r\n{today}", 10));
+    EXPECT_EQ(BytesOf(target / "Planovarium/Help/index.html"), "a better page");
+    EXPECT_EQ(RenewDrive(source, target).output, "") << "once is enough";
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(target)) {
+        EXPECT_TRUE(entry.is_directory() || entry.path().has_extension()) << entry.path();
+        EXPECT_EQ(entry.path().filename().string().find(".html."), std::string::npos) << entry.path();
+    }
+}
+
+TEST_F(LayOutDriveTest, RenewsADriveWithoutAProgramFolder) {
+    LayOutWithProgram();
+    fs::remove_all(target / "Planovarium");
+    EXPECT_TRUE(RenewDrive(source, target).succeeded);
+    EXPECT_EQ(BytesOf(target / "Planovarium/Help/index.html"), "a page");
+}
+
+TEST_F(LayOutDriveTest, RenewsNeitherDocumentsNorTemplatesThatAreThere) {
+    LayOutWithProgram();
+    for (const char* file :
+         {"Documents/Notes.txt", "Planovarium/Task List Template.html", "Planovarium/Mine.txt"}) {
+        std::ofstream(target / file, std::ios::binary) << "mine";
+    }
+    SetSourceFile("Documents/More.txt", "more");
+    fs::remove(target / "Planovarium/Calendar Template3.html");
+    ASSERT_TRUE(RenewDrive(source, target).succeeded);
+    for (const char* file :
+         {"Documents/Notes.txt", "Planovarium/Task List Template.html", "Planovarium/Mine.txt"}) {
+        EXPECT_EQ(BytesOf(target / file), "mine") << file;
+    }
+    EXPECT_FALSE(fs::exists(target / "Documents/More.txt"));
+    EXPECT_EQ(BytesOf(target / "Planovarium/Calendar Template3.html"), "another");
+}
+
+TEST_F(LayOutDriveTest, RenewsNoDriveThatIsNone) {
+    LayOutWithProgram();
+    const LayoutResult result = RenewDrive(source, drive.root / "nowhere");
+    EXPECT_FALSE(result.succeeded);
+    EXPECT_EQ(result.output, (drive.root / "nowhere").string() + ": no such folder.\n");
+    EXPECT_FALSE(fs::exists(drive.root / "nowhere"));
 }
 
 } // namespace
