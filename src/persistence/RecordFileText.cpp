@@ -3,6 +3,8 @@
 
 #include "core/DateText.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::string_view Header = R"(<?xml version="1.0" encoding="ISO-8859-1"?>)";
@@ -46,6 +48,13 @@ std::string OpeningTag(std::string_view tag) {
 
 std::string ClosingTag(std::string_view tag) {
     return std::string("</").append(tag).append(">");
+}
+
+std::string WithSlashes(std::string_view date) {
+    std::string text(date);
+    std::ranges::replace_if(
+        text, [](char character) { return character == '.' || character == '-'; }, '/');
+    return text;
 }
 
 void WriteRecords(OutputFile& output, const RecordFile& file, int records) {

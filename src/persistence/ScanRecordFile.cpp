@@ -58,14 +58,6 @@ bool EndsWithClosingTag(std::string_view text, std::string_view tag) {
     return text.ends_with("</");
 }
 
-// Every separator of a date becomes "/".
-std::string WithSlashes(std::string_view date) {
-    std::string text(Trim(date));
-    std::ranges::replace_if(
-        text, [](char character) { return character == '.' || character == '-'; }, '/');
-    return text;
-}
-
 void RaiseCounter(int& nextId, std::string_view id) {
     const double number = ToNumber(id);
     if (number >= nextId) {
@@ -74,7 +66,7 @@ void RaiseCounter(int& nextId, std::string_view id) {
 }
 
 void AddValue(const RecordFile& file, const RecordField& field, std::string_view value) {
-    field.list->Add(field.rule == FieldRule::DateText ? WithSlashes(value) : std::string(value));
+    field.list->Add(field.rule == FieldRule::DateText ? WithSlashes(Trim(value)) : std::string(value));
     if (field.rule == FieldRule::Id) {
         RaiseCounter(*file.nextId, value);
     }

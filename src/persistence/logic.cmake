@@ -9,4 +9,5 @@ target_sources(planovarium_logic PRIVATE
   persistence/RecordFiles.cpp
   persistence/SafeSave.cpp
   persistence/ScanRecordFile.cpp
+  persistence/modConvert.cpp
 )

@@ -7,6 +7,9 @@ target_sources(logic_tests PRIVATE
   persistence/DeviceOrderTest.cpp
   persistence/FaultTextTest.cpp
   persistence/FoldersTest.cpp
+  persistence/LegacyFieldsTest.cpp
+  persistence/LegacyStudentTest.cpp
+  persistence/ModConvertTest.cpp
   persistence/RecordPropertiesTest.cpp
   persistence/SaveUnderFaultTest.cpp
   persistence/SaveWhenKilledTest.cpp

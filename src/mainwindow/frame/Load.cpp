@@ -6,6 +6,7 @@
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/ProcessMarker.h"
+#include "persistence/modConvert.h"
 #include "persistence/modIO.h"
 #include "platform/InstanceLink.h"
 #include "platform/Process.h"
@@ -60,6 +61,7 @@ bool frmMain::LoadPlanner() {
     if (!SetupFolders()) {
         return false;
     }
+    ConvertLegacyData();
     ReadTermsAndClasses();
     ReadTasks();
     ReadEvents();

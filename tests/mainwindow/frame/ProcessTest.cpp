@@ -3,6 +3,7 @@
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "persistence/ProcessMarker.h"
+#include "support/LegacyDrive.h"
 #include "support/WindowTest.h"
 
 #include <QtTest/qtestspontaneevent.h>
@@ -57,6 +58,24 @@ TEST_F(Process, LoadMakesTheMarkerAndTheEmptyFiles) {
         EXPECT_TRUE(DataExists(name)) << name;
     }
     EXPECT_FALSE(DataExists("assignments_0.xml"));
+}
+
+TEST_F(Process, LoadTakesOverTheDataOfTheOlderRelease) {
+    WriteData("Preferences.ini", "");
+    WriteData("Terms.txt", LegacyTerm("1", "Fall 2009"));
+    WriteData("Classes.txt", LegacyClass("1", "1", "Algebra"));
+    WriteData("Notes.txt", LegacyNote("1", "Old note"));
+    WriteData("Assignments.txt", LegacyAssignment({}));
+    WriteData("Tasks.txt", LegacyTask({}));
+    WriteData("Events.txt", LegacyEvent({}));
+    LoadWindow();
+    EXPECT_TRUE(Script.boxes.empty());
+    EXPECT_EQ(ActiveTermName, "Fall 2009");
+    EXPECT_EQ(ActiveClasses.name.values, std::vector<std::string>{"Algebra"});
+    EXPECT_EQ(Store.Assignment.notes.values, std::vector<std::string>{"Old note"});
+    EXPECT_EQ(Store.TaskRecord.desc.values, std::vector<std::string>{"Old task"});
+    EXPECT_EQ(Store.EventRecord.desc.values, std::vector<std::string>{"Old event"});
+    EXPECT_EQ(NextTaskID, 2) << "the readers set the counters";
 }
 
 TEST_F(Process, LoadSetsEveryFirstOpenFlag) {
