@@ -10,10 +10,12 @@ void EditorDialog::WatchEntries(const QWidget* cancelButton, std::initializer_li
     }
 }
 
-void EditorDialog::BindAnswers(QPushButton* ok, QPushButton* cancel, QPushButton* remove,
-                               std::string_view item) {
+void EditorDialog::BindAnswers(QPushButton* ok, QPushButton* cancel) {
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void EditorDialog::BindDelete(QPushButton* remove, std::string_view item) {
     connect(remove, &QPushButton::clicked, this, [this, item] { DeleteInEditor(*this, *this, item); });
 }
 

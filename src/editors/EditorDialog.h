@@ -26,8 +26,11 @@ protected:
     // them.
     void WatchEntries(const QWidget* cancelButton, std::initializer_list<QWidget*> fields);
 
-    // Lets the buttons answer OK, Cancel, and Delete after a question that names the item.
-    void BindAnswers(QPushButton* ok, QPushButton* cancel, QPushButton* remove, std::string_view item);
+    // Lets the buttons answer OK and Cancel.
+    void BindAnswers(QPushButton* ok, QPushButton* cancel);
+
+    // Lets the button answer Delete, after a question that names the item.
+    void BindDelete(QPushButton* remove, std::string_view item);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

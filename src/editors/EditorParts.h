@@ -18,6 +18,7 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // --- Texts -------------------------------------------------------------------------------------------------
 
@@ -47,6 +48,13 @@ void AddRows(QComboBox* combo, const Rows& rows) {
 
 // A combo that is typed into: nothing is completed, and what is typed becomes no row.
 void SetupTypedCombo(QComboBox* combo);
+
+// The same with these rows.
+template <class Rows>
+void SetupTypedCombo(QComboBox* combo, const Rows& rows) {
+    SetupTypedCombo(combo);
+    AddRows(combo, rows);
+}
 
 // Selects the row of that text. Where there is none no row is selected, and a combo that is typed into shows
 // the text. The combo tells nobody.
@@ -115,36 +123,20 @@ void ValidatePercentEntry(const DoneControls& controls);
 
 // --- The reminder ------------------------------------------------------------------------------------------
 
-struct ReminderControls {
+// What stands on the strip of a reminder: its box, and what is in use only while the box is ticked.
+struct ReminderStrip {
     QCheckBox* box;
-    QLabel *dateLabel, *timeLabel;
     QWidget* strip;  // dark, behind the box and the labels
-    QWidget* ground; // behind the date and the time
-    QLineEdit* date;
-    QToolButton* button;
-    QComboBox* time;
+    QWidget* ground; // behind the inputs
+    std::vector<QLabel*> labels;
+    std::vector<QWidget*> inputs;
 };
 
-// These controls have the same names in every dialog of an assignment or a task.
-template <class Dialog>
-ReminderControls ReminderOf(const Dialog& dialog) {
-    return {dialog.CheckboxReminder,      dialog.LabelRemDate,
-            dialog.LabelRemTime,          dialog.LabelRemBG,
-            dialog.LabelRemBG2,           dialog.TextboxReminderDate,
-            dialog.PicButtonReminderDate, dialog.ComboReminderTime};
-}
+// Gives the strip the colours that it always has.
+void SetupReminder(const ReminderStrip& reminder);
 
-inline constexpr std::string_view NewReminderTime = "9:00 AM";
-
-// Gives the strip its colours and the time its rows.
-void SetupReminder(const ReminderControls& controls);
-
-// Enables or disables the date and the time by the box, with the colours.
-void PaintReminder(const ReminderControls& controls);
-
-// The alarm of an item from the text of its reminder date and the time in the combo. What is no time counts
-// as 9:00 AM, which it becomes as soon as the combo is left.
-std::string AlarmOf(const std::string& date, const QComboBox* time);
+// Enables or disables the inputs by the box, with the colours.
+void PaintReminder(const ReminderStrip& reminder);
 
 // --- The ways in which an editor closes --------------------------------------------------------------------
 

@@ -31,10 +31,8 @@ void FrmTask::SetupControls() {
     LimitToSet(TextBoxDescription);
     LimitToSet(TextBoxNotes);
     KeepLinesOfField(TextBoxNotes, "notes");
-    SetupTypedCombo(ComboPriority);
-    AddRows(ComboPriority, PriorityRows);
-    SetupTypedCombo(ComboPercentComplete);
-    AddRows(ComboPercentComplete, PercentRows);
+    SetupTypedCombo(ComboPriority, PriorityRows);
+    SetupTypedCombo(ComboPercentComplete, PercentRows);
     SetupItem({DoneOf(*this), ReminderOf(*this), TextboxTaskDate, picButtonTaskDate, &tempTaskDate,
                &tempTaskReminderDate, &tempTaskReminderAlarm, &tempTaskReminderList});
     SetupNames(ComboType);
@@ -63,7 +61,8 @@ void FrmTask::SetTopics() {
 
 void FrmTask::BindControls() {
     BindItem();
-    BindAnswers(ButtonOK, ButtonCancel, ButtonDelete, ItemName);
+    BindAnswers(ButtonOK, ButtonCancel);
+    BindDelete(ButtonDelete, ItemName);
     WatchEntries(ButtonCancel, {ComboPriority, ComboPercentComplete, ComboReminderTime});
     const auto changed = [this] { ChangeFlag = true; };
     connect(TextBoxDescription, &QLineEdit::textChanged, this, changed);
@@ -95,7 +94,6 @@ void FrmTask::Fill() {
     }
     UpdateEstimateFlag = false;
     PaintDeadline();
-    PaintReminder(ReminderOf(*this));
     Picker->SetCalendarHeads(tempStartDayOfWeek);
     TextBoxDescription->setFocus();
     ClearFlags(*this);

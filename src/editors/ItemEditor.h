@@ -1,8 +1,31 @@
 // The base of the editors of assignments and tasks: the done box and the percent, the date, the reminder.
 #pragma once
 
-#include "editors/DatePicker.h"
 #include "editors/EditorDialog.h"
+#include "editors/picker/DatePicker.h"
+
+// The reminder of an assignment or a task: the strip with a date and a time.
+struct ReminderControls {
+    ReminderStrip strip;
+    QLineEdit* date;
+    QToolButton* button;
+    QComboBox* time;
+};
+
+// These controls have the same names in every dialog of an assignment or a task.
+template <class Dialog>
+ReminderControls ReminderOf(const Dialog& dialog) {
+    return {{dialog.CheckboxReminder,
+             dialog.LabelRemBG,
+             dialog.LabelRemBG2,
+             {dialog.LabelRemDate, dialog.LabelRemTime},
+             {dialog.TextboxReminderDate, dialog.PicButtonReminderDate, dialog.ComboReminderTime}},
+            dialog.TextboxReminderDate,
+            dialog.PicButtonReminderDate,
+            dialog.ComboReminderTime};
+}
+
+inline constexpr std::string_view NewReminderTime = "9:00 AM";
 
 // Controls of an item's editor, and its fields that they fill.
 struct ItemControls {
@@ -30,7 +53,8 @@ protected:
     // Lets the fields follow the controls and each other. To be called when all is set up.
     void BindItem();
 
-    // Fills both dates and the alarm.
+    // Fills both dates and the alarm, and paints the reminder. The alarm of a time that is none is that of
+    // 9:00 AM, which it becomes as soon as the combo is left.
     void FillDates(Date date, Date reminderDate);
 
     // Makes a whole percent of what was chosen or typed.

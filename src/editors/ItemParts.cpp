@@ -2,10 +2,8 @@
 // in which an editor closes.
 #include "editors/EditorParts.h"
 
-#include "core/DateText.h"
 #include "planner/entries/AssignmentEntry.h"
 #include "planner/entries/ComboRows.h"
-#include "planner/entries/ReminderEntry.h"
 #include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
 #include "toolkit/PictureBox.h"
@@ -46,27 +44,21 @@ void ValidatePercentEntry(const DoneControls& controls) {
     SetDone(controls, IsComplete(controls));
 }
 
-void SetupReminder(const ReminderControls& controls) {
-    SetBackColor(controls.strip, BarColor);
-    SetColor(controls.box, QPalette::WindowText, ColorWhite);
-    SetupTypedCombo(controls.time);
-    AddRows(controls.time, TimeOfDayRows());
+void SetupReminder(const ReminderStrip& reminder) {
+    SetBackColor(reminder.strip, BarColor);
+    SetColor(reminder.box, QPalette::WindowText, ColorWhite);
 }
 
-void PaintReminder(const ReminderControls& controls) {
-    const bool on = controls.box->isChecked();
+void PaintReminder(const ReminderStrip& reminder) {
+    const bool on = reminder.box->isChecked();
     const int color = on ? ColorReminderOn : ColorReminderOff;
-    SetColor(controls.dateLabel, QPalette::WindowText, color);
-    SetColor(controls.timeLabel, QPalette::WindowText, color);
-    SetBackColor(controls.ground, color);
-    for (QWidget* input : {static_cast<QWidget*>(controls.date), static_cast<QWidget*>(controls.button),
-                           static_cast<QWidget*>(controls.time)}) {
+    for (QLabel* label : reminder.labels) {
+        SetColor(label, QPalette::WindowText, color);
+    }
+    SetBackColor(reminder.ground, color);
+    for (QWidget* input : reminder.inputs) {
         input->setEnabled(on);
     }
-}
-
-std::string AlarmOf(const std::string& date, const QComboBox* time) {
-    return ItemReminderAlarm(DateValue(date), ValidateTime(TextOf(time)));
 }
 
 bool IsYes(std::string_view question, Preset preset) {

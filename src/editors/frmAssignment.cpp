@@ -42,12 +42,9 @@ void frmAssignment::SetupControls() {
     }
     LimitToSet(TextBoxNotes);
     KeepLinesOfField(TextBoxNotes, "notes");
-    for (QComboBox* combo : {ComboTypeList, ComboPercentComplete, ComboEstTime}) {
-        SetupTypedCombo(combo);
-    }
-    AddRows(ComboTypeList, AssignmentTypeRows);
-    AddRows(ComboPercentComplete, PercentRows);
-    AddRows(ComboEstTime, EstimateRows());
+    SetupTypedCombo(ComboTypeList, AssignmentTypeRows);
+    SetupTypedCombo(ComboPercentComplete, PercentRows);
+    SetupTypedCombo(ComboEstTime, EstimateRows());
     SetupItem({DoneOf(*this), ReminderOf(*this), TextboxDateDue, picButtonDateDue, &tempAssignmentDate,
                &tempAssignmentReminderDate, &tempAssignmentReminderAlarm, &tempAssignmentReminderList});
     SetupNames(ComboClassNameList);
@@ -72,7 +69,8 @@ void frmAssignment::SetTopics() {
 
 void frmAssignment::BindControls() {
     BindItem();
-    BindAnswers(ButtonOK, ButtonCancel, ButtonDelete, ItemName);
+    BindAnswers(ButtonOK, ButtonCancel);
+    BindDelete(ButtonDelete, ItemName);
     WatchEntries(ButtonCancel, {ComboTypeList, ComboPercentComplete, ComboEstTime, ComboReminderTime,
                                 TextBoxScore, TextBoxTotal});
     const auto changed = [this] { ChangeFlag = true; };
@@ -99,7 +97,6 @@ void frmAssignment::Fill() {
         FillEdit();
     }
     UpdateEstimateFlag = false;
-    PaintReminder(ReminderOf(*this));
     Picker->SetCalendarHeads(tempStartDayOfWeek);
     ComboClassNameList->setFocus();
     ClearFlags(*this);

@@ -34,8 +34,8 @@ void frmCourseSchedule::SetupControls() {
     KeepLinesOfField(TextBoxNotes, "notes");
     SetupHelpButton(picHelp);
     Picker = new DatePicker(this);
-    Picker->AddField(true, TextboxTermStart, picButtonStart, tempTermStart);
-    Picker->AddField(false, TextboxTermEnd, picButtonEnd, tempTermEnd);
+    Picker->AddField(true, TextboxTermStart, picButtonStart, [this] { return DateValue(tempTermStart); });
+    Picker->AddField(false, TextboxTermEnd, picButtonEnd, [this] { return DateValue(tempTermEnd); });
 }
 
 void frmCourseSchedule::SetTopics() {

@@ -5,8 +5,8 @@
 
 #include "core/FieldTables.h"
 #include "core/Records.h"
-#include "editors/DatePicker.h"
 #include "editors/EditorDialog.h"
+#include "editors/picker/DatePicker.h"
 
 #include "ui_frmCourseSchedule.h"
 

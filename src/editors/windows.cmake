@@ -1,8 +1,5 @@
 target_sources(planovarium_windows PRIVATE
   editors/ClassPanel.cpp
-  editors/DatePicker.cpp
-  editors/DatePicker.h
-  editors/DatePickerSetup.cpp
   editors/DialogLook.cpp
   editors/DialogLook.h
   editors/EditorDialog.cpp
@@ -26,4 +23,7 @@ target_sources(planovarium_windows PRIVATE
   editors/frmSelectCourseSchedule.cpp
   editors/frmSelectCourseSchedule.h
   editors/frmSelectCourseSchedule.ui
+  editors/picker/DatePicker.cpp
+  editors/picker/DatePicker.h
+  editors/picker/DatePickerSetup.cpp
 )

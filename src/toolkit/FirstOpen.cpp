@@ -3,9 +3,9 @@
 
 #include <QWidget>
 
-void PlaceAtFirstOpen(QWidget& dialog, bool& firstOpen, const QWidget& beside, int below) {
+void PlaceAtFirstOpen(QWidget& dialog, bool& firstOpen, const QWidget& beside, QPoint offset) {
     if (firstOpen) {
-        dialog.move(beside.pos() + QPoint(FirstOpenRight, below));
+        dialog.move(beside.pos() + offset);
         firstOpen = false;
     }
 }

@@ -1,11 +1,14 @@
 // Where a dialog stands when it opens for the first time in a run.
 #pragma once
 
+#include <QPoint>
+
 class QWidget;
 
-inline constexpr int FirstOpenRight = 250; // pixels from the left edge of the window beside which it opens
-inline constexpr int FirstOpenBelow = 50;  // pixels from its top edge
+// Pixels from the top left corner of the window beside which it opens.
+inline constexpr QPoint FirstOpenOffset{250, 50};
 
 // Puts a dialog whose flag is true beside the corner of that window and clears the flag. Later it opens where
 // the student has left it. To be called before the dialog is shown.
-void PlaceAtFirstOpen(QWidget& dialog, bool& firstOpen, const QWidget& beside, int below = FirstOpenBelow);
+void PlaceAtFirstOpen(QWidget& dialog, bool& firstOpen, const QWidget& beside,
+                      QPoint offset = FirstOpenOffset);

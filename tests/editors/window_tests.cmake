@@ -4,8 +4,6 @@ target_sources(window_tests PRIVATE
   editors/AssignmentOpeningTest.cpp
   editors/ClassPanelTest.cpp
   editors/CutFilesWindowTest.cpp
-  editors/DatePickerStepsTest.cpp
-  editors/DatePickerTest.cpp
   editors/DeletedRecordTest.cpp
   editors/DialogKeysTest.cpp
   editors/DialogLookTest.cpp
@@ -19,4 +17,6 @@ target_sources(window_tests PRIVATE
   editors/TermEditorTest.cpp
   editors/TermFlowTest.cpp
   editors/UndoTest.cpp
+  editors/picker/DatePickerStepsTest.cpp
+  editors/picker/DatePickerTest.cpp
 )

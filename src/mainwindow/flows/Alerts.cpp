@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int AlertBelow = 150; // pixels from the main window's top edge at the first opening
+constexpr QPoint AlertOffset{250, 150}; // pixels from the main window's corner at the first opening
 
 static_assert(std::tuple_size_v<decltype(frmMain::ButtonAlert)> == AlertCount);
 
@@ -26,7 +26,7 @@ void frmMain::ShowAlertMessage(int index) {
     const auto message = AlertMessage(static_cast<Alert>(index));
     AlertDialog->setWindowTitle(FromStore(message.title));
     AlertDialog->TextBoxAlert->setPlainText(FromScreen(message.text));
-    PlaceAtFirstOpen(*AlertDialog, AlertDBFirstOpen, *this, AlertBelow);
+    PlaceAtFirstOpen(*AlertDialog, AlertDBFirstOpen, *this, AlertOffset);
     RunModally(*AlertDialog);
     picGrid->setFocus();
 }

@@ -1,6 +1,6 @@
 // The painted controls of the main window and of the date picker as a screen reader is told of them: name,
 // role, state, action.
-#include "editors/DatePickerFixture.h"
+#include "editors/picker/DatePickerFixture.h"
 #include "mainwindow/input/GridTest.h"
 
 #include <QAccessible>

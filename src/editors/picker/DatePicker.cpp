@@ -1,7 +1,6 @@
 // The pop-up month of the editors.
-#include "editors/DatePicker.h"
+#include "editors/picker/DatePicker.h"
 
-#include "core/DateText.h"
 #include "planner/dates/DateHelpers.h"
 #include "planner/dates/DateTitles.h"
 #include "planner/rows/Colors.h"
@@ -12,6 +11,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -46,8 +46,8 @@ DatePicker::DatePicker(QWidget* dialog) : QFrame(dialog) {
     dialog->installEventFilter(this);
 }
 
-void DatePicker::AddField(bool target, QWidget* box, QWidget* button, const std::string& date) {
-    fields[target ? 1 : 0] = {box, button, &date};
+void DatePicker::AddField(bool target, QWidget* box, QWidget* button, std::function<Date()> date) {
+    fields[target ? 1 : 0] = {box, button, std::move(date)};
     box->installEventFilter(this);
     button->installEventFilter(this);
     if (const auto* pushed = qobject_cast<QAbstractButton*>(button)) {
@@ -69,7 +69,7 @@ void DatePicker::ShowCalendar(bool target) {
     const Field& field = fields[target ? 1 : 0];
     DateTarget = target;
     PlaceBelow(field.box);
-    Show(DateValue(*field.date));
+    Show(field.date());
     setEnabled(true);
     show();
     raise();
@@ -216,6 +216,7 @@ void DatePicker::Pick(Date date) {
     Show(date);
     emit DatePicked(CalendarDate);
     HideCalendar();
+    emit PickClosed();
 }
 
 void DatePicker::StepMonth() {

@@ -1,6 +1,6 @@
 // The pop-up month of the editors: how it opens, closes and looks.
 #include "core/RunTimeError.h"
-#include "editors/DatePickerFixture.h"
+#include "editors/picker/DatePickerFixture.h"
 
 using namespace std::chrono_literals;
 
@@ -196,6 +196,21 @@ TEST_F(Picker, IsClosedWhenTheDialogOpensAgain) {
     OpenOn("2009/10/14");
     picker->SetCalendarHeads("Monday"); // as at each opening
     EXPECT_FALSE(picker->isVisible());
+}
+
+TEST_F(Picker, TellsThatItHasClosedOnceADayWasChosen) {
+    std::vector<bool> visible;
+    QObject::connect(picker, &DatePicker::PickClosed, &dialog, [&] {
+        EXPECT_EQ(picked.size(), 1U);
+        visible.push_back(picker->isVisible());
+    });
+    OpenOn("2009/10/14");
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(visible.empty()) << "no day was chosen";
+    ASSERT_TRUE(GuardEnds());
+    OpenOn("2009/10/14");
+    ClickCell(10);
+    EXPECT_EQ(visible, std::vector{false});
 }
 
 // --- The redraw ---

@@ -1,5 +1,5 @@
 // How the panel of the date picker is put together.
-#include "editors/DatePicker.h"
+#include "editors/picker/DatePicker.h"
 #include "toolkit/WindowColors.h"
 
 #include <QGridLayout>

@@ -3,7 +3,7 @@
 //
 // A dialog makes one as its child, names its date fields with AddField, calls SetCalendarHeads each time it
 // opens, and writes the date to the field and its box when DatePicked comes, where DateTarget tells which
-// field it is.
+// field it is. What it has to say about the date it says at PickClosed.
 #pragma once
 
 #include "planner/dates/MonthGrid.h"
@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <string>
 
 class DatePicker : public QFrame {
@@ -22,15 +23,14 @@ public:
     explicit DatePicker(QWidget* dialog);
 
     // Lets a press on the date box or on its small button open the panel for that target, and the keys Space,
-    // Down and F4 on the box, all unless they are disabled. The date is the dialog's own text, which is to
-    // live as long as the dialog. A dialog with one field names it true.
-    void AddField(bool target, QWidget* box, QWidget* button, const std::string& date);
+    // Down and F4 on the box, all unless they are disabled. The procedure gives the date that the field has.
+    // A dialog with one field names it true.
+    void AddField(bool target, QWidget* box, QWidget* button, std::function<Date()> date);
 
     // Closes the panel, and writes the heads of the columns from the first day of the week on.
     void SetCalendarHeads(const std::string& startDayOfWeek);
 
-    // Opens the panel below the target's box on the target's date. Raises the run-time error where the text
-    // of the target holds no date.
+    // Opens the panel below the target's box on the target's date.
     void ShowCalendar(bool target);
 
     // Closes the panel. For 100 ms more CalendarOpen holds, so that the press on a date box that closed it
@@ -67,6 +67,9 @@ signals:
     // A day was chosen.
     void DatePicked(Date date);
 
+    // The panel has closed after that.
+    void PickClosed();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
@@ -78,7 +81,7 @@ private:
     struct Field {
         QWidget* box = nullptr;
         QWidget* button = nullptr;
-        const std::string* date = nullptr;
+        std::function<Date()> date;
     };
 
     void SetupCalendar();

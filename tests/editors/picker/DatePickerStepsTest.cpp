@@ -1,5 +1,5 @@
 // The pop-up month of the editors: picks, steps and keys.
-#include "editors/DatePickerFixture.h"
+#include "editors/picker/DatePickerFixture.h"
 
 using namespace std::chrono_literals;
 

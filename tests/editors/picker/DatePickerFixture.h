@@ -1,7 +1,8 @@
 // The date picker in a dialog with two date fields.
 #pragma once
 
-#include "editors/DatePicker.h"
+#include "core/DateText.h"
+#include "editors/picker/DatePicker.h"
 #include "support/Looks.h"
 #include "support/WindowTest.h"
 
@@ -28,8 +29,8 @@ protected:
         ok->setDefault(true);
         QObject::connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
         picker = new DatePicker(&dialog);
-        picker->AddField(true, due, dueButton, dueDate);
-        picker->AddField(false, reminder, reminderButton, reminderDate);
+        picker->AddField(true, due, dueButton, [this] { return DateValue(dueDate); });
+        picker->AddField(false, reminder, reminderButton, [this] { return DateValue(reminderDate); });
         QObject::connect(picker, &DatePicker::DatePicked, &dialog,
                          [this](Date date) { picked.push_back(date); });
         picker->SetCalendarHeads("Sunday");
