@@ -1,5 +1,6 @@
 target_sources(planovarium_logic PRIVATE
   mainwindow/day/DayLayout.cpp
+  mainwindow/dialogs/TipTexts.cpp
   mainwindow/grid/GridLayout.cpp
   mainwindow/grid/GridMoves.cpp
   mainwindow/menus/PopupCaptions.cpp

@@ -1,8 +1,17 @@
 target_sources(planovarium_windows PRIVATE
   mainwindow/day/DaySchedule.cpp
+  mainwindow/dialogs/frmAbout.cpp
+  mainwindow/dialogs/frmAbout.h
+  mainwindow/dialogs/frmAbout.ui
   mainwindow/dialogs/frmAlert.cpp
   mainwindow/dialogs/frmAlert.h
   mainwindow/dialogs/frmAlert.ui
+  mainwindow/dialogs/frmGPA.cpp
+  mainwindow/dialogs/frmGPA.h
+  mainwindow/dialogs/frmGPA.ui
+  mainwindow/dialogs/frmTip.cpp
+  mainwindow/dialogs/frmTip.h
+  mainwindow/dialogs/frmTip.ui
   mainwindow/flows/ActiveTerm.cpp
   mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp

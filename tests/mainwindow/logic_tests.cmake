@@ -1,5 +1,6 @@
 target_sources(logic_tests PRIVATE
   mainwindow/day/DayLayoutTest.cpp
+  mainwindow/dialogs/TipTextsTest.cpp
   mainwindow/grid/GridLayoutTest.cpp
   mainwindow/grid/GridMovesTest.cpp
   mainwindow/menus/PopupCaptionsTest.cpp

@@ -1,5 +1,8 @@
 target_sources(window_tests PRIVATE
   mainwindow/day/DayScheduleTest.cpp
+  mainwindow/dialogs/AboutTest.cpp
+  mainwindow/dialogs/GPATest.cpp
+  mainwindow/dialogs/TipTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp

@@ -10,6 +10,7 @@ target_sources(logic_tests PRIVATE
   planner/entries/ReminderEntryTest.cpp
   planner/entries/TermEntryTest.cpp
   planner/entries/TypeEntryTest.cpp
+  planner/grades/GPAOracleTest.cpp
   planner/grades/GPATableTest.cpp
   planner/grades/GradesTest.cpp
   planner/lists/DayTotalsTest.cpp

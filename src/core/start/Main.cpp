@@ -1,6 +1,7 @@
 // The entry: one instance a user and a drive, no start outside the smart drive, the splash while the planner
 // loads.
 #include "core/Module1.h"
+#include "core/ProgramFacts.h"
 #include "core/start/Application.h"
 #include "core/start/frmSplash.h"
 #include "mainwindow/frmMain.h"
@@ -8,6 +9,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Process.h"
 #include "toolkit/InputRules.h"
+#include "toolkit/Text.h"
 #include "toolkit/WindowStyle.h"
 
 #include <QIcon>
@@ -38,7 +40,7 @@ void RedirectToolkitSettings() {
 
 void SetApplicationProperties() {
     Application::setApplicationName(QStringLiteral("Planovarium"));
-    Application::setApplicationVersion(QStringLiteral(PLANOVARIUM_VERSION));
+    Application::setApplicationVersion(FromStore(ProgramVersion()));
     Application::setDesktopFileName(QStringLiteral("planovarium"));
     Application::setQuitOnLastWindowClosed(false);
     Application::setWindowIcon(QIcon(QStringLiteral(":/icons/planovarium.svg")));

@@ -1,0 +1,21 @@
+// frmAbout: what the program is, its version, and where its maker is found.
+#pragma once
+
+#include "ui_frmAbout.h"
+
+class frmAbout : public QDialog, public Ui::frmAbout {
+    Q_OBJECT
+
+public:
+    explicit frmAbout(QWidget* parent);
+
+protected:
+    // Enter and the blank press the description while the keys stand on it.
+    void keyPressEvent(QKeyEvent* event) override;
+
+    // Hides the window instead, so that it keeps its place.
+    void closeEvent(QCloseEvent* event) override;
+};
+
+// The one dialog, from the load of the main window on, which owns it.
+extern frmAbout* AboutDialog;

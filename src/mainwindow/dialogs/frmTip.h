@@ -1,0 +1,27 @@
+// frmTip, the tip of the day.
+#pragma once
+
+#include "ui_frmTip.h"
+
+#include <string>
+
+class frmTip : public QDialog, public Ui::frmTip {
+    Q_OBJECT
+
+public:
+    explicit frmTip(QWidget* parent);
+
+    int CurrentTip = 0;           // number of the tip to be shown next
+    std::string ShowTips = "Yes"; // or "No": whether the next start is to show one
+
+    // Shows the tip and moves on to the next number.
+    void NextTip();
+
+protected:
+    // Each showing begins with a tip and with the box ticked.
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+};
+
+// The one dialog, from the load of the main window on, which owns it.
+extern frmTip* TipDialog;
