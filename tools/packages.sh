@@ -3,7 +3,7 @@
 RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev qt6-base-dev-tools qt6-svg-dev
   libqt6svg6 libcanberra-dev fonts-liberation fonts-dejavu-core"
 HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
-LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 locales"
+LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 locales tidy"
 StylePackages="clang-format git python3"
 TestPackages="$HeadlessPackages $LogicPackages $StylePackages clang clang-tidy libclang-rt-14-dev trayer faketime
   x11-utils qt6-base-private-dev"

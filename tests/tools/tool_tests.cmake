@@ -12,4 +12,4 @@ function(add_tool_tests label)
 endfunction()
 
 add_tool_tests(desktop bare rooms)
-add_tool_tests(drive sound)
+add_tool_tests(drive help_book sound)
