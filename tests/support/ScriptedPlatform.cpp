@@ -4,6 +4,7 @@
 
 #include "platform/InstanceLink.h"
 #include "platform/Process.h"
+#include "platform/Sound.h"
 
 #include <array>
 #include <cstdlib>
@@ -109,6 +110,21 @@ Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_vie
 
 void ShowFatalError(std::string_view text) {
     Script.fatalErrors.emplace_back(text);
+}
+
+std::optional<int> ChooseColor(int color, CustomColors& custom) {
+    Script.colorDialogs.push_back({color, custom});
+    custom = Script.customColors;
+    if (Script.colors.empty()) {
+        return std::nullopt;
+    }
+    const std::optional<int> chosen = Script.colors.front();
+    Script.colors.pop_front();
+    return chosen;
+}
+
+void PlaySound(const std::filesystem::path& file) {
+    Script.sounds.push_back(file);
 }
 
 void AddTrayIcon(std::string_view tip, TrayEvents events) {

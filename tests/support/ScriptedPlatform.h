@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/ColorDialog.h"
 #include "platform/Formats.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -11,6 +12,7 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +31,14 @@ struct StartedProcess {
     std::vector<std::string> arguments;
 };
 
+// The colour dialog as it was opened.
+struct ShownColors {
+    int color = 0;
+    CustomColors custom = NoCustomColors;
+
+    friend bool operator==(const ShownColors&, const ShownColors&) = default;
+};
+
 struct ScriptedPlatform {
     Moment now{};
     std::chrono::seconds lookTakes{0}; // that pass with each look at the clock
@@ -39,7 +49,11 @@ struct ScriptedPlatform {
     std::function<void(const ShownBox&)> whileBoxIsOpen;  // runs while a box is on the screen
     std::function<void(const std::string&)> whileSyncing; // runs as a file or folder of that name is synced
     std::vector<std::string> fatalErrors;
-    std::vector<std::string> opened; // addresses handed to the shell
+    std::vector<ShownColors> colorDialogs;
+    std::deque<std::optional<int>> colors;      // chosen in the next colour dialogs; one without is cancelled
+    CustomColors customColors = NoCustomColors; // which a colour dialog gives back
+    std::vector<std::filesystem::path> sounds;  // asked for, in order
+    std::vector<std::string> opened;            // addresses handed to the shell
     std::vector<StartedProcess> processes;
     std::string trayTip; // empty while there is no icon
     TrayEvents trayEvents;
