@@ -21,9 +21,9 @@ FOREIGN = ("script", "iframe", "object", "embed", "style", "form")
 
 # Captions of windows and messages that are told of and that no source has yet.
 NOT_YET = {
-    "Calculate with \"+\" and \"-\":", "Class Name:", "Custom Name", "Daily", "Default Name", "Recurring:",
-    "Remind me about this again in:", "Remove All", "Remove from List", "Reset the Time", "Set End Date",
-    "Start Date of the Series", "Time Before Event", "View this Item", "Yearly",
+    "Custom Name", "Daily", "Default Name", "Recurring:", "Remind me about this again in:", "Remove All",
+    "Remove from List", "Reset the Time", "Set End Date", "Start Date of the Series", "Time Before Event",
+    "View this Item", "Yearly",
 }
 
 
