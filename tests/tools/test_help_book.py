@@ -22,8 +22,8 @@ FOREIGN = ("script", "iframe", "object", "embed", "style", "form")
 # Captions of windows and messages that are told of and that no source has yet.
 NOT_YET = {
     "Custom Name", "Daily", "Default Name", "Recurring:", "Remind me about this again in:", "Remove All",
-    "Remove from List", "Reset the Time", "Set End Date", "Start Date of the Series", "Time Before Event",
-    "View this Item", "Yearly",
+    "Remove from List", "Reset the Time", "Set End Date", "Start Date of the Series", "Start Time",
+    "Time Before Event", "View this Item", "Yearly",
 }
 
 
