@@ -1,5 +1,6 @@
 target_sources(planovarium_bench PRIVATE
   CalendarLibrariesBench.cpp
+  ExportBench.cpp
   ListBench.cpp
   RecordFilesBench.cpp
   RecurrenceBench.cpp

@@ -5,8 +5,9 @@ RunPackages="build-essential cmake ninja-build perl-base libgl-dev qt6-base-dev 
 HeadlessPackages="xvfb openbox xdotool wmctrl imagemagick"
 LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 locales tidy"
 StylePackages="clang-format git python3"
+# chromium and poppler-utils print the exported pages and look at their sheets.
 TestPackages="$HeadlessPackages $LogicPackages $StylePackages clang clang-tidy libclang-rt-14-dev trayer faketime
-  x11-utils qt6-base-private-dev"
+  x11-utils qt6-base-private-dev chromium poppler-utils"
 BarePackages="debootstrap git"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 

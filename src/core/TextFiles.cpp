@@ -88,10 +88,16 @@ void WriteBytes(OutputFile& file, std::string_view bytes) {
     }
 }
 
+void CloseFile(OutputFile file) {
+    if (std::fclose(file.release()) != 0) {
+        throw RunTimeError(WritingFailed);
+    }
+}
+
 void SyncAndClose(OutputFile file) {
     const bool synced = SyncToDevice(file.get());
-    const bool closed = std::fclose(file.release()) == 0;
-    if (!synced || !closed) {
+    CloseFile(std::move(file));
+    if (!synced) {
         throw RunTimeError(WritingFailed);
     }
 }

@@ -37,6 +37,9 @@ OutputFile OpenForWriting(const std::string& name);
 // Writes the bytes behind what was written before; raises the run-time error when that fails.
 void WriteBytes(OutputFile& file, std::string_view bytes);
 
+// Closes the file; raises the run-time error when what was written cannot be brought into it.
+void CloseFile(OutputFile file);
+
 // Hands all that was written to the device and closes the file; raises the run-time error when that fails.
 void SyncAndClose(OutputFile file);
 
