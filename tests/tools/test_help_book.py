@@ -192,6 +192,12 @@ class HelpBook(unittest.TestCase):
             self.assertTrue(told, caption)
             self.assertTrue(not key or key in keys, key)
 
+    def test_tells_of_every_template_of_the_pages(self):
+        templates = {file.name for file in PROGRAM_FOLDER.glob("*Template*.html")}
+        self.assertTrue(templates)
+        told = words((BOOK / "templates.html").read_text(encoding="utf-8"))
+        self.assertEqual(set(re.findall(r">([^<>]* Template\d?\.html)<", told)), templates)
+
 
 if __name__ == "__main__":
     unittest.main()
