@@ -10,6 +10,8 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
+#include <QStandardItemModel>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QToolButton>
@@ -61,6 +63,32 @@ private:
     QComboBox* combo;
 };
 
+// A press on a separator in the list of the combo.
+class SeparatorPresses : public QObject {
+public:
+    explicit SeparatorPresses(QComboBox* owner) : QObject(owner), combo(owner) {
+        combo->view()->viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonRelease) {
+            return false;
+        }
+        const QModelIndex row = combo->view()->indexAt(static_cast<QMouseEvent*>(event)->pos());
+        if (!row.isValid() || row.flags().testFlag(Qt::ItemIsEnabled)) {
+            return false;
+        }
+        combo->hidePopup();
+        combo->setCurrentIndex(0);
+        emit combo->activated(0);
+        return true;
+    }
+
+private:
+    QComboBox* combo;
+};
+
 // Pixels of the longest date, whichever weekday falls on whichever month.
 int LongestDate(const QFontMetrics& metrics) {
     constexpr int Year = 2009;
@@ -99,6 +127,17 @@ void SetupNames(QComboBox* combo) {
     combo->setMinimumContentsLength(NameCharacters);
     KeepListNarrow(combo);
     new NameTips(combo);
+}
+
+void SetupSeparators(QComboBox* combo) {
+    new SeparatorPresses(combo);
+}
+
+void MarkSeparators(QComboBox* combo, const QString& text) {
+    const auto* const rows = qobject_cast<QStandardItemModel*>(combo->model());
+    for (QStandardItem* row : rows->findItems(text)) {
+        row->setEnabled(false);
+    }
 }
 
 void SetupDateBoxes(std::initializer_list<DateBox> boxes) {

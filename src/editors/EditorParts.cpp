@@ -171,6 +171,20 @@ bool EndEntry(const QEvent* event, const QWidget* cancelButton,
     return asked || event->type() == QEvent::KeyPress; // Enter does not press OK as well
 }
 
+void FinishPress(const QDialog& dialog) {
+    auto* const button = qobject_cast<QAbstractButton*>(dialog.focusWidget());
+    if (button == nullptr) {
+        return;
+    }
+    const auto release = [button] {
+        if (button->isDown()) {
+            button->click();
+        }
+    };
+    QMetaObject::invokeMethod(button, release,
+                              Qt::QueuedConnection); // behind the press, which is still to come
+}
+
 void AskForEntry(QWidget* field, std::string_view message) {
     field->setFocus();
     MsgBox(message, Buttons::Ok, Icon::Information);

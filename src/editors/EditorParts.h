@@ -71,6 +71,10 @@ bool EntryEnds(const QEvent* event);
 bool EndEntry(const QEvent* event, const QWidget* cancelButton,
               const std::function<bool(bool quiet)>& validate);
 
+// Lets what was pressed to leave a field be pressed although a box has come in between, which took the
+// release of the mouse. To be called behind the box.
+void FinishPress(const QDialog& dialog);
+
 // Gives the field the focus again and shows the message.
 void AskForEntry(QWidget* field, std::string_view message);
 

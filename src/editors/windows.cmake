@@ -6,6 +6,7 @@ target_sources(planovarium_windows PRIVATE
   editors/EditorDialog.h
   editors/EditorParts.cpp
   editors/EditorParts.h
+  editors/EventRecurrence.cpp
   editors/FieldLines.cpp
   editors/FieldLines.h
   editors/FrmTask.cpp
@@ -20,6 +21,12 @@ target_sources(planovarium_windows PRIVATE
   editors/frmCourseSchedule.cpp
   editors/frmCourseSchedule.h
   editors/frmCourseSchedule.ui
+  editors/frmEvent.cpp
+  editors/frmEvent.h
+  editors/frmEvent.ui
+  editors/frmRecurrence.cpp
+  editors/frmRecurrence.h
+  editors/frmRecurrence.ui
   editors/frmSelectCourseSchedule.cpp
   editors/frmSelectCourseSchedule.h
   editors/frmSelectCourseSchedule.ui

@@ -127,6 +127,38 @@ TEST_F(DialogKeys, CaptionsAreTheToldWordsWithoutTheMarksOfTheKeys) {
                                  {"ButtonDelete", "Delete"},
                                  {"ButtonCancelClass", "Cancel"},
                                  {"ButtonDeleteClass", "Delete"}});
+    OpenEvent();
+    ExpectCaptions(*EventDialog, {{"LabelEvent", "Description"},
+                                  {"LabelDate", "Date"},
+                                  {"LabelDuration", "Length"},
+                                  {"CheckboxReminder", "Reminder"},
+                                  {"LabelRemTime", "Time Before Event"},
+                                  {"LabelRecur", "Recurring:"},
+                                  {"ButtonOpenRecur", "Change"},
+                                  {"LabelNotes", "Notes"},
+                                  {"ButtonCancel", "Cancel"},
+                                  {"ButtonDelete", "Delete"}});
+    ExpectCaptions(*RecurrenceDialog, {{"LabelRecurrence", "Recurrence:"},
+                                       {"RadioRepeatNone", "None"},
+                                       {"RadioRepeatDaily", "Daily"},
+                                       {"RadioRepeatMonthly", "Monthly"},
+                                       {"RadioRepeatYearly", "Yearly"},
+                                       {"CheckBoxMonday", "Monday"},
+                                       {"CheckBoxTuesday", "Tuesday"},
+                                       {"CheckBoxWednesday", "Wednesday"},
+                                       {"CheckBoxThursday", "Thursday"},
+                                       {"CheckBoxFriday", "Friday"},
+                                       {"CheckBoxSaturday", "Saturday"},
+                                       {"CheckBoxSunday", "Sunday"},
+                                       {"RadioMonthlyThisDate", "The 20th of every month"},
+                                       {"RadioMonthlyUser", "The Third Tuesday of every month"},
+                                       {"RadioYearlyThisDate", "The 20th of every October"},
+                                       {"RadioYearlyUser", "The Third Tuesday of every October"},
+                                       {"CheckboxRepeatEndDate", "Set End Date"},
+                                       {"LabelRepeatEndDate", "No End Date"},
+                                       {"ButtonOK", "OK"},
+                                       {"ButtonCancel", "Cancel"}});
+    EXPECT_EQ(RecurrenceDialog->windowTitle(), "Event Recurrence");
     EXPECT_EQ(TermDialog->GroupClassSchedule->title(), "Class Schedule");
     ExpectCaptions(*TermChooser, {{"LabelTermList", "Term Name"},
                                   {"ButtonActive", "Change the Term"},
@@ -159,7 +191,7 @@ TEST_F(DialogKeys, EnterBelongsToTheButtonThatHasTheFocus) {
 TEST_F(DialogKeys, F1EntersTheWhatsThisMode) {
     InEach([](QDialog& dialog) {
         QTest::keyClick(&dialog, Qt::Key_F1);
-        EXPECT_TRUE(QWhatsThis::inWhatsThisMode());
+        EXPECT_EQ(QWhatsThis::inWhatsThisMode(), &dialog != RecurrenceDialog) << "which has no topics";
         QWhatsThis::leaveWhatsThisMode();
     });
 }
@@ -167,6 +199,10 @@ TEST_F(DialogKeys, F1EntersTheWhatsThisMode) {
 TEST_F(DialogKeys, EnterOnTheHelpButtonPressesItAndNotOk) {
     InEach([](QDialog& dialog) {
         auto* help = dialog.findChild<QToolButton*>(QStringLiteral("picHelp"));
+        if (&dialog == RecurrenceDialog) {
+            EXPECT_EQ(help, nullptr) << "it has no topics";
+            return;
+        }
         GoTo(help);
         QTest::keyClick(help, Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());

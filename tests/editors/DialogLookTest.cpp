@@ -153,10 +153,13 @@ TEST_F(WordyDialogLook, LongDatesOfWordyLanguagesFit) {
     Open(*AssignmentDialog, "New");
     Open(*TaskDialog, "New");
     OpenTerm();
+    OpenEvent();
+    OpenRecurrence(RecurrenceDialog->RadioRepeatYearly);
     const Date longest = DateValue("2009/09/23"); // a Wednesday in September
     for (QLineEdit* box : {AssignmentDialog->TextboxDateDue, AssignmentDialog->TextboxReminderDate,
                            TaskDialog->TextboxTaskDate, TaskDialog->TextboxReminderDate,
-                           TermDialog->TextboxTermStart, TermDialog->TextboxTermEnd}) {
+                           TermDialog->TextboxTermStart, TermDialog->TextboxTermEnd,
+                           EventDialog->TextboxEventStartDate, RecurrenceDialog->TextboxRepeatEndDate}) {
         std::string field;
         ShowDateField(field, box, longest);
         QStyleOptionFrame option;

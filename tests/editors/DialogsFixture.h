@@ -1,6 +1,7 @@
-// The four dialogs of the editors, each opened in turn for the same expectations.
+// The dialogs of the editors, each opened in turn for the same expectations.
 #pragma once
 
+#include "core/DateText.h"
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
@@ -30,6 +31,22 @@ protected:
         ShowAlone(*TermChooser);
     }
 
+    void OpenEvent() {
+        EventDialog->EventClickedStartTime = "9:00 AM";
+        EventDialog->tempEventExceptions.clear();
+        EventDialog->tempEventParentID.clear();
+        Open(*EventDialog, "New");
+    }
+
+    // With the panel of that kind.
+    void OpenRecurrence(QRadioButton* kind) {
+        EventDialog->tempClickedDate = DateValue("2009/10/20");
+        EventDialog->Fill();
+        kind->setChecked(true);
+        RecurrenceDialog->Prepare();
+        ShowAlone(*RecurrenceDialog);
+    }
+
     // Opens each dialog in turn for the expectations.
     void InEach(const std::function<void(QDialog&)>& expect) {
         Open(*AssignmentDialog, "New");
@@ -39,6 +56,12 @@ protected:
         OpenTerm();
         TermDialog->ButtonEditClass->click();
         Expect(*TermDialog, expect);
+        OpenEvent();
+        Expect(*EventDialog, expect);
+        OpenRecurrence(RecurrenceDialog->RadioRepeatDaily);
+        Expect(*RecurrenceDialog, expect);
+        OpenRecurrence(RecurrenceDialog->RadioRepeatMonthly);
+        Expect(*RecurrenceDialog, expect);
         OpenChooser();
         Expect(*TermChooser, expect);
     }

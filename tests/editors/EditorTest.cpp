@@ -1,5 +1,5 @@
-// The tests of the editors of assignments and tasks: a loaded window with a term of two classes, and the keys
-// and presses that a student makes in a dialog.
+// The tests of the editors of assignments, tasks and events: a loaded window with a term of two classes, and
+// the keys and presses that a student makes in a dialog.
 #include "editors/EditorTest.h"
 
 #include "core/DateText.h"
@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QRadioButton>
 
 namespace {
 
@@ -34,7 +35,12 @@ void EditorTest::SetUpLoaded() {
     window->ClickedDate = DateValue("2009/10/20");
 }
 
+// The window is active in between, as a dialog that opens twice in a row would not become active again.
 void EditorTest::ShowAlone(QDialog& dialog) {
+    if (!dialog.isVisible() && QApplication::activeWindow() == nullptr) {
+        MainWindow->activateWindow();
+        ASSERT_TRUE(WaitUntil([] { return QApplication::activeWindow() == MainWindow; }));
+    }
     dialog.show();
     dialog.activateWindow();
     ASSERT_TRUE(WaitUntil([&dialog] { return QApplication::activeWindow() == &dialog; }));
@@ -49,6 +55,12 @@ void EditorTest::Open(frmAssignment& dialog, const std::string& mode) {
 }
 
 void EditorTest::Open(FrmTask& dialog, const std::string& mode) {
+    PrepareEditor(dialog, *window, mode);
+    dialog.Fill();
+    ShowAlone(dialog);
+}
+
+void EditorTest::Open(frmEvent& dialog, const std::string& mode) {
     PrepareEditor(dialog, *window, mode);
     dialog.Fill();
     ShowAlone(dialog);
@@ -83,9 +95,11 @@ void EditorTest::Choose(QComboBox* combo, int row) {
 }
 
 void EditorTest::Click(QWidget* widget) {
-    // A check box is ticked at its left end only.
-    const QPoint at = qobject_cast<QCheckBox*>(widget) != nullptr ? QPoint(6, widget->height() / 2)
-                                                                  : widget->rect().center();
+    // Check boxes and radio buttons are hit at their left ends only.
+    const QPoint at =
+        qobject_cast<QCheckBox*>(widget) != nullptr || qobject_cast<QRadioButton*>(widget) != nullptr
+            ? QPoint(6, widget->height() / 2)
+            : widget->rect().center();
     QTest::mouseClick(widget, Qt::LeftButton, {}, at);
 }
 

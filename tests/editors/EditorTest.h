@@ -1,11 +1,13 @@
-// The tests of the editors of assignments and tasks: a loaded window with a term of two classes, and the keys
-// and presses that a student makes in a dialog.
+// The tests of the editors of assignments, tasks and events: a loaded window with a term of two classes, and
+// the keys and presses that a student makes in a dialog.
 #pragma once
 
 #include "core/Module1.h"
 #include "editors/EditorParts.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
+#include "editors/frmEvent.h"
+#include "editors/frmRecurrence.h"
 #include "mainwindow/flows/RecordFlow.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
@@ -25,6 +27,7 @@ protected:
     // The dialogs open without their flow, so that the test goes on while they are open.
     void Open(frmAssignment& dialog, const std::string& mode);
     void Open(FrmTask& dialog, const std::string& mode);
+    void Open(frmEvent& dialog, const std::string& mode);
 
     // Gives the focus to the widget as the tab key does.
     static void GoTo(QWidget* widget);

@@ -9,9 +9,12 @@ target_sources(window_tests PRIVATE
   editors/DialogLookTest.cpp
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
+  editors/EventEditorTest.cpp
+  editors/EventRecurrenceTest.cpp
   editors/FlowRefreshTest.cpp
   editors/NotesTest.cpp
   editors/RandomWalkTest.cpp
+  editors/RecurrenceDialogTest.cpp
   editors/TaskEditorTest.cpp
   editors/TaskFlowTest.cpp
   editors/TermEditorTest.cpp

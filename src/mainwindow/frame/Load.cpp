@@ -3,6 +3,8 @@
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
 #include "editors/frmCourseSchedule.h"
+#include "editors/frmEvent.h"
+#include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/ProcessMarker.h"
@@ -44,6 +46,8 @@ void LoadDialogs(frmMain& window) {
     TermChooser = new frmSelectCourseSchedule(&window);
     TermDialog = new frmCourseSchedule(&window);
     TaskDialog = new FrmTask(&window);
+    EventDialog = new frmEvent(&window);
+    RecurrenceDialog = new frmRecurrence(&window);
 }
 
 } // namespace
