@@ -6,7 +6,11 @@
 #include "editors/frmAssignment.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/ScriptedPlatform.h"
 
 #include <QApplication>
@@ -64,7 +68,7 @@ void Opening(benchmark::State& state, QDialog& dialog, const Step& wish) {
 void OkToView(benchmark::State& state, QDialog& dialog, QPushButton& ok, const Step& wish) {
     FirstPicture picture(&dialog);
     QElapsedTimer clock;
-    MainWindow->ShowHomeworkMode();
+    ShowHomeworkMode(*MainWindow);
     MainWindow->ComboDateRange->setCurrentText(QStringLiteral("Term"));
     for (auto _ : state) {
         picture.Then([&] {
@@ -87,7 +91,7 @@ void Register(const char* name, const std::function<void(benchmark::State&)>& me
 // The term's dialog opens behind the chooser, whose button is pressed at its picture.
 void EditTerm(FirstPicture& chooser) {
     chooser.Then([] { TermChooser->ButtonEdit->click(); });
-    MainWindow->ClassSchedule();
+    ClassSchedule(*MainWindow);
 }
 
 void TermOpening(benchmark::State& state) {
@@ -104,7 +108,7 @@ void TermOpening(benchmark::State& state) {
             clock.start();
             TermChooser->ButtonEdit->click();
         });
-        MainWindow->ClassSchedule();
+        ClassSchedule(*MainWindow);
         state.SetIterationTime(seconds);
     }
 }
@@ -113,25 +117,25 @@ void TermOpening(benchmark::State& state) {
 
 void RegisterDialogBenchmarks() {
     Register("Open/NewAssignment", [](benchmark::State& state) {
-        Opening(state, *AssignmentDialog, [] { MainWindow->NewAssignment(); });
+        Opening(state, *AssignmentDialog, [] { NewAssignment(*MainWindow); });
     });
     Register("Open/EditAssignment", [](benchmark::State& state) {
-        Opening(state, *AssignmentDialog, [] { MainWindow->EditAssignment(1); });
+        Opening(state, *AssignmentDialog, [] { EditAssignment(*MainWindow, 1); });
     });
     Register("Open/NewTask",
-             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { MainWindow->NewTask(); }); });
+             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { NewTask(*MainWindow); }); });
     Register("Open/EditTask",
-             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { MainWindow->EditTask(1); }); });
+             [](benchmark::State& state) { Opening(state, *TaskDialog, [] { EditTask(*MainWindow, 1); }); });
     Register("Open/ClassSchedule", [](benchmark::State& state) {
-        Opening(state, *TermChooser, [] { MainWindow->ClassSchedule(); });
+        Opening(state, *TermChooser, [] { ClassSchedule(*MainWindow); });
     });
     Register("Open/Term", TermOpening);
     Register("Ok/EditAssignment", [](benchmark::State& state) {
         OkToView(state, *AssignmentDialog, *AssignmentDialog->ButtonOK,
-                 [] { MainWindow->EditAssignment(1); });
+                 [] { EditAssignment(*MainWindow, 1); });
     });
     Register("Ok/EditTask", [](benchmark::State& state) {
-        OkToView(state, *TaskDialog, *TaskDialog->ButtonOK, [] { MainWindow->EditTask(1); });
+        OkToView(state, *TaskDialog, *TaskDialog->ButtonOK, [] { EditTask(*MainWindow, 1); });
     });
     Register("Ok/Term", [](benchmark::State& state) {
         FirstPicture chooser(TermChooser);

@@ -3,7 +3,10 @@
 #include "DialogBench.h"
 #include "SampleRecords.h"
 #include "core/Module1.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/frame/Load.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/modes/Modes.h"
 #include "persistence/modIO.h"
 #include "support/ScriptedPlatform.h"
 #include "support/StoreRecords.h"
@@ -61,7 +64,7 @@ void FillPlanner(frmMain& window) {
     for (int i = 1; i <= Classes; ++i) {
         AddClassRecord({.id = std::to_string(i), .name = "Introduction to Subject " + std::to_string(i)});
     }
-    window.SetActiveTerm("Fall 2009");
+    SetActiveTerm(window, "Fall 2009");
     AddSampleAssignments(Records);
     AddSampleTasks(Records);
     AddSampleEvents(Records);
@@ -70,18 +73,18 @@ void FillPlanner(frmMain& window) {
 
 // By way of Tasks, since a mode entered from Calendar may leave that checked.
 void Enter(frmMain& window, Mode mode) {
-    window.ShowTaskMode();
+    ShowTaskMode(window);
     switch (mode) {
     case Mode::Calendar:
-        return window.ShowCalendarMode();
+        return ShowCalendarMode(window);
     case Mode::Homework:
-        return window.ShowHomeworkMode();
+        return ShowHomeworkMode(window);
     case Mode::StudySessions:
-        return window.ShowStudySessionsMode();
+        return ShowStudySessionsMode(window);
     case Mode::Events:
-        return window.ShowEventMode();
+        return ShowEventMode(window);
     case Mode::Reminders:
-        return window.ShowReminderMode();
+        return ShowReminderMode(window);
     case Mode::Tasks:
     case Mode::None:
         return;
@@ -129,7 +132,7 @@ int main(int argc, char** argv) {
     const TemporaryDrive drive;
     frmMain window;
     MainWindow = &window;
-    if (!window.LoadPlanner()) {
+    if (!LoadPlanner(window)) {
         return 1;
     }
     FillPlanner(window);

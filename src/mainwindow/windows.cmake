@@ -12,15 +12,21 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/dialogs/frmTip.cpp
   mainwindow/dialogs/frmTip.h
   mainwindow/dialogs/frmTip.ui
+  mainwindow/flows/Actions.cpp
   mainwindow/flows/ActiveTerm.cpp
   mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp
   mainwindow/flows/EventFlow.cpp
   mainwindow/flows/PreferencesFlow.cpp
+  mainwindow/flows/ReminderFlow.cpp
+  mainwindow/flows/RunCommand.cpp
   mainwindow/flows/TaskFlow.cpp
   mainwindow/flows/TermFlow.cpp
+  mainwindow/flows/ViewFlow.cpp
+  mainwindow/flows/WindowFlow.cpp
   mainwindow/frame/BringForward.cpp
   mainwindow/frame/BuildWindow.cpp
+  mainwindow/frame/GridView.cpp
   mainwindow/frame/Load.cpp
   mainwindow/frame/RefreshView.cpp
   mainwindow/frame/Unload.cpp
@@ -51,6 +57,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/modes/ViewMenus.cpp
   mainwindow/month/LargeCalendar.cpp
   mainwindow/month/MonthCalendar.cpp
+  mainwindow/panels/AlertButtons.cpp
   mainwindow/panels/CalendarSteps.cpp
   mainwindow/panels/LeftPanel.cpp
   mainwindow/panels/ShowBox.cpp

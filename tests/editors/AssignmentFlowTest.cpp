@@ -1,6 +1,8 @@
 // The flows of an assignment: what each way of closing the editor leaves in the store and on the drive.
+#include "mainwindow/flows/AssignmentFlow.h"
 #include "core/DateText.h"
 #include "editors/EditorTest.h"
+#include "mainwindow/flows/TermFlow.h"
 
 #include "core/RunTimeError.h"
 #include "editors/frmSelectCourseSchedule.h"
@@ -15,12 +17,12 @@ protected:
     // Runs the flow while the student acts in the dialog.
     void NewAssignment(const std::function<void()>& act) {
         WhenDialogOpens([act](QWidget*) { act(); });
-        window->NewAssignment();
+        ::NewAssignment(*window);
     }
 
     void EditAssignment(int index, const std::function<void()>& act) {
         WhenDialogOpens([act](QWidget*) { act(); });
-        window->EditAssignment(index);
+        ::EditAssignment(*window, index);
     }
 
     static void Ok() { Click(AssignmentDialog->ButtonOK); }
@@ -88,7 +90,7 @@ TEST_F(AssignmentFlow, DialogCarriesTheTermsLimits) {
 TEST_F(AssignmentFlow, WithoutATermANewOneIsOffered) {
     ActiveTermName.clear();
     Script.answers = {Answer::No};
-    window->NewAssignment();
+    ::NewAssignment(*window);
     EXPECT_EQ(
         Script.boxes,
         std::vector{Question("There is no Term selected. Do you want to start a new Term?", Preset::First)});
@@ -99,7 +101,7 @@ TEST_F(AssignmentFlow, WithoutATermANewOneIsOffered) {
 TEST_F(AssignmentFlow, WithoutClassesTheClassScheduleIsOffered) {
     ActiveClasses = {};
     Script.answers = {Answer::No};
-    window->NewAssignment();
+    ::NewAssignment(*window);
     EXPECT_EQ(Script.boxes,
               std::vector{Question("This Term has no classes. Do you want to edit the Class Schedule?",
                                    Preset::First)});
@@ -108,11 +110,11 @@ TEST_F(AssignmentFlow, WithoutClassesTheClassScheduleIsOffered) {
 
 TEST_F(AssignmentFlow, YesToANewTermOpensTheTermsAndNothingMore) {
     Store.Term = {};
-    window->SetActiveTerm("");
+    SetActiveTerm(*window, "");
     Script.answers = {Answer::Yes};
     NewAssignment([this] {
         EXPECT_TRUE(TermChooser->isVisible());
-        window->SetActiveTerm("Fall 2009");
+        SetActiveTerm(*window, "Fall 2009");
         Click(TermChooser->ButtonCancel);
     });
     EXPECT_EQ(Script.boxes.size(), 1U);
@@ -138,7 +140,7 @@ TEST_F(AssignmentFlow, QuestionThatTheShutdownAnswersOpensNothing) {
     ActiveClasses = {};
     Script.answers = {Answer::Yes};
     Script.whileBoxIsOpen = [](const ShownBox&) { ShuttingDown = true; };
-    window->NewAssignment();
+    ::NewAssignment(*window);
     EXPECT_FALSE(TermChooser->isVisible());
 }
 
@@ -387,7 +389,7 @@ TEST_F(AssignmentFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
     AddAssignmentRecord({.desc = "Read", .reminderdate = "some other day"});
     std::string text;
     try {
-        window->EditAssignment(1);
+        ::EditAssignment(*window, 1);
     } catch (const RunTimeError& error) {
         text = FaultText(error);
     }

@@ -3,6 +3,10 @@
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/modes/Modes.h"
 #include "persistence/modIO.h"
 #include "support/CutDrive.h"
 
@@ -54,27 +58,26 @@ protected:
         ReadTermsAndClasses();
         ReadTasks();
         ReadEvents();
-        window->SetActiveTerm("Term 1");
+        SetActiveTerm(*window, "Term 1");
     }
 
     void ShowAllModes() {
-        for (void (frmMain::*show)() :
-             {&frmMain::ShowCalendarMode, &frmMain::ShowHomeworkMode, &frmMain::ShowStudySessionsMode,
-              &frmMain::ShowTaskMode, &frmMain::ShowEventMode, &frmMain::ShowReminderMode}) {
-            (window.get()->*show)();
+        for (void (*show)(frmMain&) : {&ShowCalendarMode, &ShowHomeworkMode, &ShowStudySessionsMode,
+                                       &ShowTaskMode, &ShowEventMode, &ShowReminderMode}) {
+            show(*window);
         }
     }
 
     void OpenAllDialogs() {
-        window->NewTask();
-        window->NewAssignment();
+        NewTask(*window);
+        NewAssignment(*window);
         if (const int last = WholeRecords(Store.TaskRecord); last > 0) {
-            window->EditTask(last);
+            EditTask(*window, last);
         }
         if (const int last = WholeRecords(Store.Assignment); last > 0) {
-            window->EditAssignment(last);
+            EditAssignment(*window, last);
         }
-        window->ClassSchedule();
+        ClassSchedule(*window);
     }
 };
 
@@ -96,7 +99,7 @@ TEST_P(CutFilesWindow, ShowsEveryModeAndOpensEveryDialog) {
         ASSERT_NO_THROW(ShowAllModes()) << name << " cut at " << cut;
         ASSERT_NO_THROW(OpenAllDialogs()) << name << " cut at " << cut;
         ASSERT_TRUE(Script.fatalErrors.empty()) << name << " cut at " << cut;
-        window->ShowTaskMode();
+        ShowTaskMode(*window);
         ASSERT_EQ(TaskRows.Count(), WholeRecords(Store.TaskRecord));
         cutShort += std::ranges::count(Script.boxes, "Planovarium - File Read Error", &ShownBox::title) > 0;
         Script.boxes.clear();

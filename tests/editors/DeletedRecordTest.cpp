@@ -1,6 +1,10 @@
 // "DELETED RECORD" typed as a description: the item is in its file and in none of the views, as the records
 // that were deleted are.
 #include "editors/EditorTest.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "persistence/modIO.h"
 #include "support/EventRecords.h"
@@ -16,10 +20,9 @@ protected:
         std::vector<QStringList> views;
         window->ClickedDate = Date{std::chrono::year{2009} / 10 / 20};
         window->SelectedDate = window->ClickedDate;
-        for (void (frmMain::*show)() :
-             {&frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode, &frmMain::ShowEventMode,
-              &frmMain::ShowReminderMode, &frmMain::ShowCalendarMode}) {
-            (*window.*show)();
+        for (void (*show)(frmMain&) :
+             {&ShowHomeworkMode, &ShowTaskMode, &ShowEventMode, &ShowReminderMode, &ShowCalendarMode}) {
+            show(*window);
             views.push_back(DrawnTexts(*window->picGrid));
         }
         return views;
@@ -30,7 +33,7 @@ protected:
             Type(TaskDialog->TextBoxDescription, description);
             Click(TaskDialog->ButtonOK);
         });
-        window->NewTask();
+        ::NewTask(*window);
     }
 
     void NewAssignment(const QString& description) {
@@ -39,7 +42,7 @@ protected:
             Type(AssignmentDialog->TextBoxDescription, description);
             Click(AssignmentDialog->ButtonOK);
         });
-        window->NewAssignment();
+        ::NewAssignment(*window);
     }
 };
 
@@ -81,7 +84,7 @@ TEST_F(DeletedRecords, ReadBackAreShownInNoViewEither) {
     NewAssignment(Description);
     Store.TaskRecord = {};
     ReadTasks();
-    window->SetActiveTerm("Fall 2009");
+    SetActiveTerm(*window, "Fall 2009");
     ASSERT_EQ(Store.TaskRecord.desc.values, std::vector<std::string>{Description});
     ASSERT_EQ(Store.Assignment.desc.values, std::vector<std::string>{Description});
     EXPECT_EQ(Views(), empty);

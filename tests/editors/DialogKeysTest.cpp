@@ -1,6 +1,7 @@
 // The keys of every dialog of the editors: each field has one, none has two, and the captions still say the
 // same words; F1 and the help button; names for who cannot see.
 #include "editors/DialogsFixture.h"
+#include "mainwindow/flows/TermFlow.h"
 
 #include <QAccessible>
 #include <QWhatsThis>
@@ -169,7 +170,7 @@ TEST_F(DialogKeys, CaptionsAreTheToldWordsWithoutTheMarksOfTheKeys) {
 
 TEST_F(DialogKeys, TermsNameMarksNoKeyOfItsOwn) {
     Store.Term.name.Replace(1, "R&D");
-    window->SetActiveTerm("R&D");
+    SetActiveTerm(*window, "R&D");
     Open(*AssignmentDialog, "New");
     EXPECT_EQ(WithoutMnemonics(AssignmentDialog->LabelClass->text()), "R&D Classes ");
     EXPECT_EQ(KeyOf(AssignmentDialog->LabelClass->text()), QChar('C'));

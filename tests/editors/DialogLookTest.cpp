@@ -3,6 +3,7 @@
 #include "core/DateText.h"
 #include "editors/DialogsFixture.h"
 #include "mainwindow/dialogs/frmAlert.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "toolkit/ElidedLabel.h"
 #include "toolkit/WindowColors.h"
 
@@ -56,7 +57,7 @@ TEST_F(DialogLook, LongNamesMakeNoDialogWider) {
     Store.Term.name.Replace(1, LongName);
     Store.ClassRecord.name.Replace(1, LongName);
     TypeTable.customname.Replace(1, LongName);
-    window->SetActiveTerm(LongName);
+    SetActiveTerm(*window, LongName);
     auto before = widths.begin();
     InEach([&before](QDialog& dialog) {
         EXPECT_EQ(dialog.minimumSizeHint().width(), before->least);
@@ -69,7 +70,7 @@ TEST_F(DialogLook, LongNamesMakeNoDialogWider) {
 TEST_F(DialogLook, LongNameEndsInDotsAndIsTheTip) {
     ClassName = LongName;
     Store.Term.name.Replace(1, LongName);
-    window->SetActiveTerm(LongName);
+    SetActiveTerm(*window, LongName);
     Open(*AssignmentDialog, "New");
     const ElidedLabel& label = *AssignmentDialog->LabelClass;
     EXPECT_LT(label.ShownText().size(), 60);

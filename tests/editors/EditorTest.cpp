@@ -3,6 +3,7 @@
 #include "editors/EditorTest.h"
 
 #include "core/DateText.h"
+#include "mainwindow/flows/TermFlow.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -31,7 +32,7 @@ void EditorTest::SetUpLoaded() {
     Store.Term.end.Add("2009/12/20");
     AddClassRecord({.id = "4", .name = "Algebra"});
     AddClassRecord({.id = "7", .name = "History"});
-    window->SetActiveTerm("Fall 2009");
+    SetActiveTerm(*window, "Fall 2009");
     window->ClickedDate = DateValue("2009/10/20");
 }
 

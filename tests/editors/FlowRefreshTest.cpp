@@ -2,6 +2,9 @@
 // once a shutdown has begun.
 #include "core/DateText.h"
 #include "editors/EditorTest.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/modes/Modes.h"
 
 namespace {
 
@@ -12,7 +15,7 @@ protected:
     // The day's schedule tells the refresh of a new record from that of any other reason.
     void SetUp() override {
         EditorTest::SetUp();
-        window->ShowEventMode();
+        ShowEventMode(*window);
         window->VSGridScroll->setValue(NightRow);
         AddTaskRecord({});
         AddAssignmentRecord({.class_ = "4"});
@@ -48,24 +51,24 @@ protected:
 } // namespace
 
 TEST_F(FlowRefresh, FollowsANewTask) {
-    Run([this] { window->NewTask(); }, [] { Click(TaskDialog->ButtonOK); });
+    Run([this] { NewTask(*window); }, [] { Click(TaskDialog->ButtonOK); });
     ExpectRefreshOfANewRecord();
 }
 
 TEST_F(FlowRefresh, FollowsAnEditedTask) {
-    Run([this] { window->EditTask(1); }, [] { Click(TaskDialog->ButtonOK); });
+    Run([this] { EditTask(*window, 1); }, [] { Click(TaskDialog->ButtonOK); });
     ExpectRefreshOfANewRecord();
 }
 
 TEST_F(FlowRefresh, FollowsADeletedTask) {
     Script.answers = {Answer::Yes};
-    Run([this] { window->EditTask(1); }, [] { Click(TaskDialog->ButtonDelete); });
+    Run([this] { EditTask(*window, 1); }, [] { Click(TaskDialog->ButtonDelete); });
     EXPECT_EQ(Store.TaskRecord.id.Count(), 0);
     ExpectRefreshOfANewRecord();
 }
 
 TEST_F(FlowRefresh, FollowsANewAssignment) {
-    Run([this] { window->NewAssignment(); },
+    Run([this] { NewAssignment(*window); },
         [] {
             Choose(AssignmentDialog->ComboClassNameList, 0);
             Click(AssignmentDialog->ButtonOK);
@@ -74,26 +77,26 @@ TEST_F(FlowRefresh, FollowsANewAssignment) {
 }
 
 TEST_F(FlowRefresh, FollowsAnEditedAssignment) {
-    Run([this] { window->EditAssignment(1); }, [] { Click(AssignmentDialog->ButtonOK); });
+    Run([this] { EditAssignment(*window, 1); }, [] { Click(AssignmentDialog->ButtonOK); });
     ExpectRefreshOfANewRecord();
 }
 
 TEST_F(FlowRefresh, FollowsADeletedAssignment) {
     Script.answers = {Answer::Yes};
-    Run([this] { window->EditAssignment(1); }, [] { Click(AssignmentDialog->ButtonDelete); });
+    Run([this] { EditAssignment(*window, 1); }, [] { Click(AssignmentDialog->ButtonDelete); });
     EXPECT_EQ(Store.Assignment.id.Count(), 0);
     ExpectRefreshOfANewRecord();
 }
 
 TEST_F(FlowRefresh, DoesNotFollowACancel) {
-    Run([this] { window->EditTask(1); }, [] { Click(TaskDialog->ButtonCancel); });
-    Run([this] { window->EditAssignment(1); }, [] { Click(AssignmentDialog->ButtonCancel); });
+    Run([this] { EditTask(*window, 1); }, [] { Click(TaskDialog->ButtonCancel); });
+    Run([this] { EditAssignment(*window, 1); }, [] { Click(AssignmentDialog->ButtonCancel); });
     ExpectNoRefresh();
 }
 
 TEST_F(FlowRefresh, EditedTaskIsGivenUpByAShutdown) {
     const std::string before = ReadData("tasks.xml");
-    Run([this] { window->EditTask(1); },
+    Run([this] { EditTask(*window, 1); },
         [] {
             Type(TaskDialog->TextBoxDescription, "Changed");
             ShutDown(*TaskDialog);
@@ -106,7 +109,7 @@ TEST_F(FlowRefresh, EditedTaskIsGivenUpByAShutdown) {
 
 TEST_F(FlowRefresh, EditedAssignmentIsGivenUpByAShutdown) {
     const std::string before = ReadData("assignments_1.xml");
-    Run([this] { window->EditAssignment(1); },
+    Run([this] { EditAssignment(*window, 1); },
         [] {
             Type(AssignmentDialog->TextBoxDescription, "Changed");
             ShutDown(*AssignmentDialog);

@@ -4,6 +4,9 @@
 #include "editors/FieldLines.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "persistence/modIO.h"
 
 #include <QClipboard>
@@ -176,13 +179,13 @@ TEST_F(NotesInFiles, OfATaskAnAssignmentAndAClassGoThroughTheirDialogs) {
         typeInto(TaskDialog->TextBoxNotes);
         Click(TaskDialog->ButtonOK);
     });
-    window->NewTask();
+    NewTask(*window);
     WhenDialogOpens([&](QWidget*) {
         Choose(AssignmentDialog->ComboClassNameList, 1);
         typeInto(AssignmentDialog->TextBoxNotes);
         Click(AssignmentDialog->ButtonOK);
     });
-    window->NewAssignment();
+    NewAssignment(*window);
     WhenDialogOpens([&](QWidget*) {
         WhenDialogOpens([&](QWidget*) {
             Click(TermDialog->ButtonAddClass);
@@ -193,7 +196,7 @@ TEST_F(NotesInFiles, OfATaskAnAssignmentAndAClassGoThroughTheirDialogs) {
         });
         Click(TermChooser->ButtonEdit);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
     ResetStore();
     ActiveTermID = 1;
     ReadTermsAndClasses();

@@ -3,6 +3,9 @@
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "persistence/modIO.h"
 
 #include <QApplication>
@@ -156,16 +159,16 @@ void RandomWalk::StartFlow() {
     switch (Roll(8)) {
     case 0:
     case 1:
-        return window->NewAssignment();
+        return NewAssignment(*window);
     case 2:
     case 3:
-        return assignments > 0 ? window->EditAssignment(Roll(assignments) + 1) : window->NewAssignment();
+        return assignments > 0 ? EditAssignment(*window, Roll(assignments) + 1) : NewAssignment(*window);
     case 4:
-        return window->NewTask();
+        return NewTask(*window);
     case 5:
-        return tasks > 0 ? window->EditTask(Roll(tasks) + 1) : window->NewTask();
+        return tasks > 0 ? EditTask(*window, Roll(tasks) + 1) : NewTask(*window);
     default:
-        return window->ClassSchedule();
+        return ClassSchedule(*window);
     }
 }
 

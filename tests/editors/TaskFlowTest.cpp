@@ -1,4 +1,5 @@
 // The flows of a task: what each way of closing the editor leaves in the store and on the drive.
+#include "mainwindow/flows/TaskFlow.h"
 #include "editors/EditorTest.h"
 
 #include "core/RunTimeError.h"
@@ -11,12 +12,12 @@ protected:
     // Runs the flow while the student acts in the dialog.
     void NewTask(const std::function<void()>& act) {
         WhenDialogOpens([act](QWidget*) { act(); });
-        window->NewTask();
+        ::NewTask(*window);
     }
 
     void EditTask(int index, const std::function<void()>& act) {
         WhenDialogOpens([act](QWidget*) { act(); });
-        window->EditTask(index);
+        ::EditTask(*window, index);
     }
 
     static void Ok() { Click(TaskDialog->ButtonOK); }
@@ -254,7 +255,7 @@ TEST_F(TaskFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
     AddTaskRecord({.desc = "Read", .reminder_date = "some other day"});
     std::string text;
     try {
-        window->EditTask(1);
+        ::EditTask(*window, 1);
     } catch (const RunTimeError& error) {
         text = FaultText(error);
     }

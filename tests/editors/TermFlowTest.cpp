@@ -1,7 +1,9 @@
 // The flow of a term: what choosing, entering and deleting leaves in the store and on the drive.
+#include "mainwindow/flows/TermFlow.h"
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/frame/Unload.h"
 #include "persistence/modIO.h"
 
 namespace {
@@ -16,7 +18,7 @@ protected:
     // Runs the flow; the student presses one button of the chooser.
     void Choose(QPushButton* button) {
         WhenDialogOpens([button](QWidget*) { Click(button); });
-        window->ClassSchedule();
+        ClassSchedule(*window);
     }
 
     // The same, and then acts in the term's dialog.
@@ -25,7 +27,7 @@ protected:
             WhenDialogOpens([act](QWidget*) { act(); });
             Click(button);
         });
-        window->ClassSchedule();
+        ClassSchedule(*window);
     }
 
     // Cuts classes.xml before the text and starts anew.
@@ -37,7 +39,7 @@ protected:
         WriteData("classes.xml", cut);
         Store = {};
         ReadTermsAndClasses();
-        window->SetActiveTerm("Fall 2009");
+        SetActiveTerm(*window, "Fall 2009");
     }
 
     std::string cut;
@@ -72,14 +74,14 @@ TEST_F(TermFlow, ChooserListsTheNewestTermFirst) {
         EXPECT_EQ(TermChooser->tempTermIDArray.Count(), 2);
         Click(TermChooser->ButtonCancel);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
     EXPECT_EQ(rows, (QStringList{"Spring 2010", "Fall 2009"}));
     EXPECT_TRUE(TermChooser->Cancelled);
 }
 
 TEST_F(TermFlow, WithoutTermsOnlyANewOneCanBeStarted) {
     Store.Term = {};
-    window->SetActiveTerm("");
+    SetActiveTerm(*window, "");
     WhenDialogOpens([](QWidget*) {
         EXPECT_FALSE(TermChooser->ButtonActive->isEnabled());
         EXPECT_FALSE(TermChooser->ButtonEdit->isEnabled());
@@ -88,7 +90,7 @@ TEST_F(TermFlow, WithoutTermsOnlyANewOneCanBeStarted) {
         EXPECT_EQ(TermChooser->ComboTermList->currentIndex(), -1);
         Click(TermChooser->ButtonCancel);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
 }
 
 TEST_F(TermFlow, ChooserBeginsWithTheListOfTermsEachTime) {
@@ -98,7 +100,7 @@ TEST_F(TermFlow, ChooserBeginsWithTheListOfTermsEachTime) {
         EXPECT_EQ(TermChooser->focusWidget(), TermChooser->ComboTermList);
         Click(TermChooser->ButtonCancel);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
 }
 
 TEST_F(TermFlow, DeletedRecordsAreNoTermsToChoose) {
@@ -111,7 +113,7 @@ TEST_F(TermFlow, DeletedRecordsAreNoTermsToChoose) {
         EXPECT_EQ(TermChooser->tempTermIDArray.values, (std::vector<std::string>{"1"}));
         Click(TermChooser->ButtonCancel);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
 }
 
 TEST_F(TermFlow, EscapeAndTheCloseBoxCancelTheChooser) {
@@ -123,7 +125,7 @@ TEST_F(TermFlow, EscapeAndTheCloseBoxCancelTheChooser) {
                 PressCloseBox(*TermChooser);
             }
         });
-        window->ClassSchedule();
+        ClassSchedule(*window);
         EXPECT_TRUE(TermChooser->Cancelled);
         EXPECT_FALSE(TermChooser->isVisible());
     }
@@ -136,7 +138,7 @@ TEST_F(TermFlow, ChooserTellsTheChosenTerm) {
         TermChooser->ComboTermList->setCurrentText("Fall 2009");
         Click(TermChooser->ButtonActive);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
     EXPECT_TRUE(TermChooser->MakeActive);
     EXPECT_EQ(TermChooser->SelectedCourse, "Fall 2009");
     EXPECT_EQ(TermChooser->SelectedTermID, "1");
@@ -254,14 +256,14 @@ TEST_F(TermFlow, ChangedTermIsReadWithItsAssignments) {
         TermChooser->ComboTermList->setCurrentText("Fall 2009");
         Click(TermChooser->ButtonActive);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
     EXPECT_EQ(ActiveTermName, "Fall 2009");
     EXPECT_EQ(window->LabelTerm->text(), "Fall 2009");
 }
 
 TEST_F(TermFlow, EditedTermMovesToTheEndAndKeepsItsId) {
     MakeTerm("Spring 2010");
-    window->SetActiveTerm("Fall 2009");
+    SetActiveTerm(*window, "Fall 2009");
     ChooseAndAct(TermChooser->ButtonEdit, [] {
         Type(TermDialog->TextBoxTermName, "Fall");
         Click(TermDialog->ButtonOK);
@@ -282,7 +284,7 @@ TEST_F(TermFlow, EditIsOfTheActiveTermWhateverTheComboShows) {
         });
         Click(TermChooser->ButtonEdit);
     });
-    window->ClassSchedule();
+    ClassSchedule(*window);
 }
 
 TEST_F(TermFlow, AssignmentsOfADeletedClassGoWithTheTermsOk) {
@@ -344,7 +346,7 @@ TEST_F(TermFlow, DeletedTermLeavesTheNewestOneActive) {
 TEST_F(TermFlow, ShutdownWhileTheDialogIsOpenSavesNothing) {
     ChooseAndAct(TermChooser->ButtonEdit, [this] {
         Type(TermDialog->TextBoxTermName, "Fall");
-        window->Unload();
+        Unload(*window);
     });
     EXPECT_EQ(Store.Term.name.Item(1), "Fall 2009");
     EXPECT_FALSE(FileWrittenFlags.terms);
@@ -408,7 +410,7 @@ TEST_F(TermFlow, TermsThatWereNotReadKeepTheirClassesAside) {
     WriteData("terms.xml", "cut");
     Store = {};
     ReadTermsAndClasses();
-    window->SetActiveTerm("");
+    SetActiveTerm(*window, "");
     MakeTerm("Spring 2010");
     EXPECT_EQ(ActiveTermName, "Spring 2010");
     EXPECT_EQ(ReadData("Backup/classes_damaged.xml"), classes);

@@ -2,6 +2,7 @@
 // with the stored pictures; and that the comparison would see a column that has moved.
 #include "core/RowLists.h"
 #include "mainwindow/grid/GridLayout.h"
+#include "mainwindow/modes/Modes.h"
 #include "pictures/PictureOptions.h"
 #include "pictures/PicturePlanner.h"
 #include "pictures/Pictures.h"
@@ -16,16 +17,16 @@ namespace {
 
 struct PicturedMode {
     const char* name;
-    void (frmMain::*enter)();
+    void (*enter)(frmMain&);
 };
 
 constexpr std::array<PicturedMode, ModeCount> PicturedModes{{
-    {"Calendar", &frmMain::ShowCalendarMode},
-    {"Homework", &frmMain::ShowHomeworkMode},
-    {"StudySessions", &frmMain::ShowStudySessionsMode},
-    {"Tasks", &frmMain::ShowTaskMode},
-    {"Events", &frmMain::ShowEventMode},
-    {"Reminders", &frmMain::ShowReminderMode},
+    {"Calendar", &ShowCalendarMode},
+    {"Homework", &ShowHomeworkMode},
+    {"StudySessions", &ShowStudySessionsMode},
+    {"Tasks", &ShowTaskMode},
+    {"Events", &ShowEventMode},
+    {"Reminders", &ShowReminderMode},
 }};
 
 const std::array<QSize, 3> PicturedSizes{QSize(780, 575), QSize(1280, 800), QSize(1920, 1080)};
@@ -46,7 +47,7 @@ protected:
     void Show(const PicturedMode& mode, const QSize& size) {
         window->resize(size);
         window->MenuCalendar->setChecked(false);
-        (window.get()->*mode.enter)();
+        mode.enter(*window);
         QCoreApplication::processEvents();
         ASSERT_EQ(window->size(), size);
     }

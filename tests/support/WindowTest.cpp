@@ -2,6 +2,7 @@
 #include "support/WindowTest.h"
 
 #include "core/Module1.h"
+#include "mainwindow/frame/Load.h"
 #include "support/StoreRecords.h"
 
 #include <QApplication>
@@ -80,7 +81,7 @@ bool WindowTest::DataExists(const std::string& name) const {
 void WindowTest::LoadWindow() {
     window = std::make_unique<frmMain>();
     MainWindow = window.get();
-    ASSERT_TRUE(window->LoadPlanner());
+    ASSERT_TRUE(LoadPlanner(*window));
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), LimitMilliseconds));

@@ -1,5 +1,7 @@
 // Over which window a dialog or box opens, and which has the focus when it has closed.
 #include "editors/FrmTask.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/WindowFlow.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 #include "toolkit/Modal.h"
@@ -32,7 +34,7 @@ TEST_F(DialogFocus, BoxThatFollowsAnotherOpensOverTheDialogThatIsOpen) {
         EXPECT_EQ(WindowOfNextDialog(), editor);
         editor->hide();
     });
-    window->NewTask();
+    NewTask(*window);
 }
 
 TEST_F(DialogFocus, BoxBehindAClosingDialogOpensOverTheMainWindow) {
@@ -46,7 +48,7 @@ TEST_F(DialogFocus, BoxBehindAClosingDialogOpensOverTheMainWindow) {
 }
 
 TEST_F(DialogFocus, BoxBehindAHiddenMainWindowHasNoWindowBehindIt) {
-    window->HideWindows();
+    HideWindows(*window);
     EXPECT_EQ(WindowOfNextDialog(), nullptr);
 }
 
@@ -56,7 +58,7 @@ TEST_F(DialogFocus, WindowBehindADialogIsActiveWhenItHasClosed) {
         editor->hide();
     });
     window->picGrid->setFocus();
-    window->NewTask();
+    NewTask(*window);
     EXPECT_TRUE(WaitUntil([this] { return window->isActiveWindow(); }));
     EXPECT_TRUE(window->picGrid->hasFocus());
 }

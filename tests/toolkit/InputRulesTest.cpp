@@ -3,7 +3,9 @@
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include <QApplication>
 #include <QStyleHints>
@@ -22,7 +24,7 @@ class InputRules : public EditorTest {
 protected:
     void SetUp() override {
         EditorTest::SetUp();
-        window->GoToDate(Today());
+        GoToDate(*window, Today());
         start += 100000; // no test's press is near another's in time
     }
 
@@ -48,7 +50,7 @@ protected:
     // Clicks on the first row of the tasks at the start of the test; the action follows in the editor.
     void OpenTaskByClick(const std::function<void()>& action) {
         AddTaskRecord({.desc = "Call"});
-        window->ShowTaskMode();
+        ShowTaskMode(*window);
         WhenDialogOpens([&](QWidget* /*editor*/) {
             action();
             TaskDialog->hide();
@@ -128,7 +130,7 @@ TEST_F(InputRules, PressThatIsTooLateForADoubleClickCounts) {
 
 TEST_F(InputRules, DialogThatAKeyOpensTakesEveryPress) {
     AddTaskRecord({.desc = "Call"});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     SendMouse(QEvent::MouseButtonPress, window->LabelTop, {3, 3}, Spot, 0);
     WhenDialogOpens([](QWidget* /*editor*/) {
         ClickAt(TaskDialog->ButtonOK, Quick);
@@ -172,7 +174,7 @@ TEST_F(InputRules, DoubleClickOnAPopupsItemDoesNotFallOnItsDialog) {
 
 TEST_F(InputRules, EnterHeldDownOpensNoRow) {
     AddTaskRecord({.desc = "Call"});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     CancelDialogsAsTheyOpen(window.get());
     QTest::keyClick(window->picGrid, Qt::Key_Down);
     ASSERT_EQ(window->CurrentRow, 1);
@@ -255,7 +257,7 @@ TEST_F(InputRules, WheelOverAFilterWithoutTheFocusScrollsTheList) {
     for (int i = 0; i < 60; ++i) {
         AddTaskRecord({});
     }
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     window->picGrid->setFocus();
     ASSERT_EQ(window->VSGridScroll->value(), 1);
     TurnWheel(window->ComboList);

@@ -40,6 +40,15 @@ class Rooms(unittest.TestCase):
         self.plant("mainwindow/list/TaskGrid.cpp", '"mainwindow/flows/RecordFlow.h"')
         self.assert_told("mainwindow/list/TaskGrid.cpp includes mainwindow/flows/RecordFlow.h")
 
+    def test_tell_of_a_view_that_opens_an_editor_or_a_menu_or_writes_a_file(self):
+        for view in ("input/GridClicks.cpp", "month/MonthCalendar.cpp", "day/DaySchedule.cpp", "list/ListGrid.cpp",
+                     "panels/CalendarSteps.cpp", "grid/ViewParts.cpp"):
+            for name in ("mainwindow/flows/TaskFlow.h", "mainwindow/flows/Actions.h", "mainwindow/menus/PopupMenus.h",
+                         "mainwindow/frame/Unload.h", "editors/FrmTask.h", "persistence/modIO.h"):
+                with self.subTest(view=view, name=name):
+                    self.plant(f"mainwindow/{view}", f'"{name}"')
+                    self.assert_told(f"mainwindow/{view} includes {name}")
+
     def test_tell_of_a_rule_that_includes_a_file_procedure(self):
         self.plant("planner/study/StudyLog.cpp", '"persistence/modIO.h"')
         self.assert_told("planner/study/StudyLog.cpp includes persistence/modIO.h")

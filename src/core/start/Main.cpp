@@ -4,6 +4,8 @@
 #include "core/ProgramFacts.h"
 #include "core/start/Application.h"
 #include "core/start/frmSplash.h"
+#include "mainwindow/frame/BringForward.h"
+#include "mainwindow/frame/Load.h"
 #include "mainwindow/frmMain.h"
 #include "platform/InstanceLink.h"
 #include "platform/MessageBoxes.h"
@@ -59,7 +61,7 @@ std::string CommandLine(int argc, char** argv) {
 // window.
 bool LoadBehind(frmSplash& splash, frmMain& window) {
     try {
-        const bool loaded = window.LoadPlanner();
+        const bool loaded = LoadPlanner(window);
         splash.close();
         return loaded;
     } catch (const std::exception& error) {
@@ -86,7 +88,7 @@ int Run(const std::string& commandLine) {
     if (!LoadBehind(splash, *window)) {
         return 0;
     }
-    window->ShowAtStart(commandLine);
+    ShowAtStart(*window, commandLine);
     return Application::exec();
 }
 

@@ -1,18 +1,19 @@
 // The change of the active term: the store chooses it, its file is read, the window shows it.
 #include "core/Module1.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/panels/TermStatus.h"
 #include "persistence/modIO.h"
 #include "toolkit/Text.h"
 
-void frmMain::SetActiveTerm(const std::string& name) {
+void SetActiveTerm(frmMain& window, const std::string& name) {
     ChooseActiveTerm(name);
     if (ActiveTermIsLiving()) {
         ReadAssignments();
     }
     SetupActiveClasses();
     const TermStatus status = TermStatusOn(Today());
-    LabelTerm->setText(FromStore(status.term));
-    LabelDaysLeft->setText(FromStore(status.daysLeft));
-    RefreshFor(ReasonNewTerm);
+    window.LabelTerm->setText(FromStore(status.term));
+    window.LabelDaysLeft->setText(FromStore(status.daysLeft));
+    window.RefreshFor(ReasonNewTerm);
 }

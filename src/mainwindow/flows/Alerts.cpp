@@ -1,4 +1,6 @@
-// The alert buttons and the message that each explains itself with.
+// The message that an alert button explains itself with.
+#include "mainwindow/flows/Alerts.h"
+
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmAlert.h"
 #include "mainwindow/frmMain.h"
@@ -11,31 +13,14 @@ namespace {
 
 constexpr QPoint AlertOffset{250, 150}; // pixels from the main window's corner at the first opening
 
-static_assert(std::tuple_size_v<decltype(frmMain::ButtonAlert)> == AlertCount);
-
 } // namespace
 
-void frmMain::StudyTimeAlerts() {
-    const AlertsShown shown = StudyTimeAlertCheck();
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        ButtonAlert[i]->setVisible(shown[i]);
-    }
-}
-
-void frmMain::ShowAlertMessage(int index) {
+void ShowAlertMessage(frmMain& window, std::size_t index) {
     const auto message = AlertMessage(static_cast<Alert>(index));
-    AlertDialog->setWindowTitle(FromStore(message.title));
-    AlertDialog->TextBoxAlert->setPlainText(FromScreen(message.text));
-    PlaceAtFirstOpen(*AlertDialog, AlertDBFirstOpen, *this, AlertOffset);
-    RunModally(*AlertDialog);
-    picGrid->setFocus();
-}
-
-void frmMain::BindAlerts() {
-    AlertDialog = new frmAlert(this);
-    for (std::size_t i = 0; i < ButtonAlert.size(); ++i) {
-        ButtonAlert[i]->setText(FromStore(AlertTitles[i].caption));
-        connect(ButtonAlert[i], &QPushButton::clicked, this,
-                [this, i] { ShowAlertMessage(static_cast<int>(i)); });
-    }
+    frmAlert& dialog = *window.AlertDialog;
+    dialog.setWindowTitle(FromStore(message.title));
+    dialog.TextBoxAlert->setPlainText(FromScreen(message.text));
+    PlaceAtFirstOpen(dialog, AlertDBFirstOpen, window, AlertOffset);
+    RunModally(dialog);
+    window.picGrid->setFocus();
 }

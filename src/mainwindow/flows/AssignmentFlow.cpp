@@ -1,9 +1,12 @@
 // The flows of an assignment: asked for, entered, written.
+#include "mainwindow/flows/AssignmentFlow.h"
+
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "editors/frmAssignment.h"
 #include "mainwindow/flows/RecordFlow.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
 #include "platform/MessageBoxes.h"
@@ -81,36 +84,36 @@ void GiveTerm(frmAssignment& dialog, std::string_view classId) {
 
 } // namespace
 
-void frmMain::NewAssignment() {
+void NewAssignment(frmMain& window) {
     const bool noTerm = ActiveTermName.empty();
     if (noTerm || ActiveClasses.id.Count() == 0) {
         const Answer answer =
             MsgBox(noTerm ? NoTermQuestion : NoClassesQuestion, Buttons::YesNo, Icon::Information);
         if (answer == Answer::Yes && !ShuttingDown) {
-            ClassSchedule(); // and nothing more, even if there are classes now
+            ClassSchedule(window); // and nothing more, even if there are classes now
         }
         return;
     }
     frmAssignment& dialog = *AssignmentDialog;
-    PrepareEditor(dialog, *this, "New");
+    PrepareEditor(dialog, window, "New");
     GiveTerm(dialog, {});
     dialog.Fill();
-    ShowDialog(dialog, AssignmentDBFirstOpen, *this);
+    ShowDialog(dialog, AssignmentDBFirstOpen, window);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
     DropUnfinishedRecord(AssignmentFile());
     AppendRecord(Store.Assignment, EnteredFields(dialog), NextAssignmentID);
     WriteAssignments();
-    RefreshFor(ReasonNewRecord);
+    window.RefreshFor(ReasonNewRecord);
 }
 
-void frmMain::EditAssignment(int position) {
+void EditAssignment(frmMain& window, int position) {
     frmAssignment& dialog = *AssignmentDialog;
-    PrepareEditor(dialog, *this, "Edit");
+    PrepareEditor(dialog, window, "Edit");
     GiveTerm(dialog, Store.Assignment.class_.Item(position));
     FillFromRecord(dialog, FilledFields, Store.Assignment, position);
-    ShowDialog(dialog, AssignmentDBFirstOpen, *this);
+    ShowDialog(dialog, AssignmentDBFirstOpen, window);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
@@ -122,5 +125,5 @@ void frmMain::EditAssignment(int position) {
         ReplaceRecord(Store.Assignment, EnteredFields(dialog), position);
     }
     WriteAssignments();
-    RefreshFor(ReasonNewRecord);
+    window.RefreshFor(ReasonNewRecord);
 }

@@ -1,13 +1,19 @@
-// The flows of an event.
+// The flows of an event: asked for, entered, written.
+#include "mainwindow/flows/EventFlow.h"
+
 #include "mainwindow/frmMain.h"
 
-void frmMain::NewEvent() {
+void NewEvent(frmMain& /*window*/) {
 }
 
-void frmMain::NewMorningEvent() {
-    EventClickedStartTime = "9:00 AM";
-    NewEvent();
+void NewMorningEvent(frmMain& window) {
+    window.EventClickedStartTime = "9:00 AM";
+    NewEvent(window);
 }
 
-void frmMain::EditEvent(int /*position*/) {
+void EditEvent(frmMain& /*window*/, int /*position*/, Date /*day*/) {
+}
+
+void EditEvent(frmMain& window, int position) {
+    EditEvent(window, position, window.ClickedDate);
 }

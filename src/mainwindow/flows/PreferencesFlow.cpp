@@ -1,8 +1,11 @@
 // Prefs.ini and the main window: the options taken over at the start, the window put where it was left, and
 // both handed back at the shutdown.
+#include "mainwindow/flows/PreferencesFlow.h"
+
 #include "core/Module1.h"
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/AutoStart.h"
 
 namespace {
 
@@ -28,29 +31,29 @@ void PlaceWindow(frmMain& window, const PreferenceValues& values) {
 
 } // namespace
 
-std::string frmMain::ReadPreferences() {
+std::string ReadPreferences(frmMain& window) {
     const PreferenceValues values = ReadPreferencesFile(PrimaryScreenSize());
-    StartDayOfWeek = values.StartDayofWeek;
-    tempShowTipsAtStartup = values.ShowTipsAtStartup;
-    AutoStart = values.AutoStart;
-    CheckAutoStartItem(values.AutoStartChecked ? AutoStart : "");
-    tempCurrentTip = values.CurrentTip;
-    PlaceWindow(*this, values);
-    PreferencesWereRead = true;
+    window.StartDayOfWeek = values.StartDayofWeek;
+    window.tempShowTipsAtStartup = values.ShowTipsAtStartup;
+    window.AutoStart = values.AutoStart;
+    CheckAutoStartItem(window, values.AutoStartChecked ? window.AutoStart : "");
+    window.tempCurrentTip = values.CurrentTip;
+    PlaceWindow(window, values);
+    window.PreferencesWereRead = true;
     return values.ActiveTerm;
 }
 
-void frmMain::WritePreferences() const {
+void WritePreferences(const frmMain& window) {
     PreferenceValues values;
-    values.FormMainState = StateOf(*this);
-    values.FormMainLocationX = x();
-    values.FormMainLocationY = y();
-    values.FormMainSizeX = width();
-    values.FormMainSizeY = height();
+    values.FormMainState = StateOf(window);
+    values.FormMainLocationX = window.x();
+    values.FormMainLocationY = window.y();
+    values.FormMainSizeX = window.width();
+    values.FormMainSizeY = window.height();
     values.ActiveTerm = ActiveTermName;
-    values.StartDayofWeek = StartDayOfWeek;
-    values.ShowTipsAtStartup = tempShowTipsAtStartup;
-    values.AutoStart = AutoStart;
-    values.CurrentTip = tempCurrentTip;
+    values.StartDayofWeek = window.StartDayOfWeek;
+    values.ShowTipsAtStartup = window.tempShowTipsAtStartup;
+    values.AutoStart = window.AutoStart;
+    values.CurrentTip = window.tempCurrentTip;
     WritePreferencesFile(values);
 }

@@ -1,4 +1,6 @@
 // The flows of a task: asked for, entered, written.
+#include "mainwindow/flows/TaskFlow.h"
+
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
@@ -50,25 +52,25 @@ static_assert(NamesAllFieldsBut(FilledFields, &FilledField<FrmTask, TaskLists>::
 
 } // namespace
 
-void frmMain::NewTask() {
+void NewTask(frmMain& window) {
     FrmTask& dialog = *TaskDialog;
-    PrepareEditor(dialog, *this, "New");
+    PrepareEditor(dialog, window, "New");
     dialog.Fill();
-    ShowDialog(dialog, TaskDBFirstOpen, *this);
+    ShowDialog(dialog, TaskDBFirstOpen, window);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
     DropUnfinishedRecord(TaskFile());
     AppendRecord(Store.TaskRecord, EnteredFields(dialog), NextTaskID);
     WriteTasks();
-    RefreshFor(ReasonNewRecord);
+    window.RefreshFor(ReasonNewRecord);
 }
 
-void frmMain::EditTask(int position) {
+void EditTask(frmMain& window, int position) {
     FrmTask& dialog = *TaskDialog;
-    PrepareEditor(dialog, *this, "Edit");
+    PrepareEditor(dialog, window, "Edit");
     FillFromRecord(dialog, FilledFields, Store.TaskRecord, position);
-    ShowDialog(dialog, TaskDBFirstOpen, *this);
+    ShowDialog(dialog, TaskDBFirstOpen, window);
     if (dialog.CancelledFlag || ShuttingDown) {
         return;
     }
@@ -79,5 +81,5 @@ void frmMain::EditTask(int position) {
         ReplaceRecord(Store.TaskRecord, EnteredFields(dialog), position);
     }
     WriteTasks();
-    RefreshFor(ReasonNewRecord);
+    window.RefreshFor(ReasonNewRecord);
 }

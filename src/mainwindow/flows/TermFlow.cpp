@@ -1,4 +1,6 @@
 // The flow of a term and its classes: chosen, entered, written.
+#include "mainwindow/flows/TermFlow.h"
+
 #include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/Values.h"
@@ -188,16 +190,16 @@ bool ShowTermEditor(const frmMain& window, std::string_view mode, int id) {
 
 } // namespace
 
-void frmMain::ClassSchedule() {
-    if (!ShowChooser(*this)) {
+void ClassSchedule(frmMain& window) {
+    if (!ShowChooser(window)) {
         return;
     }
     if (TermChooser->MakeActive) {
-        SetActiveTerm(TermChooser->SelectedCourse);
+        SetActiveTerm(window, TermChooser->SelectedCourse);
         return;
     }
     const int id = TermChooser->NewCourse ? NextId(NextTermID) : ActiveTermID;
-    if (!ShowTermEditor(*this, TermChooser->NewCourse ? "New" : "Edit", id)) {
+    if (!ShowTermEditor(window, TermChooser->NewCourse ? "New" : "Edit", id)) {
         return;
     }
     const frmCourseSchedule& dialog = *TermDialog;
@@ -207,16 +209,16 @@ void frmMain::ClassSchedule() {
     if (dialog.EditMode == "New") {
         AddTermRecords(dialog, id);
         WriteTermsAndClasses();
-        SetActiveTerm(name);
+        SetActiveTerm(window, name);
     } else if (dialog.DeleteFlag) {
         const std::string gone = ActiveTermName; // the rule for a name that is no more picks another term
         RemoveTermRecords(id);
         WriteTermsAndClasses();
-        SetActiveTerm(gone);
+        SetActiveTerm(window, gone);
     } else if (dialog.EditMode == "Edit") {
         RemoveTermRecords(id);
         ReplaceTermRecords(dialog, id);
         WriteTermsAndClasses();
-        SetActiveTerm(name);
+        SetActiveTerm(window, name);
     }
 }

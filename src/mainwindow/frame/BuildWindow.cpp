@@ -1,7 +1,21 @@
 // The main window put together: the menu bar over the mode bar, the left panel beside the view, the status
 // bar.
+#include "mainwindow/dialogs/frmAlert.h"
+#include "mainwindow/flows/Actions.h"
+#include "mainwindow/frame/Unload.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/input/GridAccessible.h"
+#include "mainwindow/input/GridClicks.h"
+#include "mainwindow/menus/AutoStart.h"
+#include "mainwindow/menus/Commands.h"
+#include "mainwindow/menus/MenuBar.h"
+#include "mainwindow/modes/ModeBar.h"
+#include "mainwindow/modes/ViewMenus.h"
+#include "mainwindow/panels/AlertButtons.h"
+#include "mainwindow/panels/CalendarSteps.h"
+#include "mainwindow/panels/LeftPanel.h"
+#include "mainwindow/panels/StatusBar.h"
+#include "mainwindow/panels/StudyTimer.h"
 #include "toolkit/ElidedLabel.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/WindowStyle.h"
@@ -26,6 +40,69 @@ QLabel* TitleLabel(double points, bool bold, Qt::Alignment alignment) {
     return label;
 }
 
+QWidget* BuildRightSide(frmMain& window) {
+    auto* side = new QWidget;
+    auto* column = new QVBoxLayout(side);
+    column->setContentsMargins(0, 0, 0, PanelMargin);
+    column->setSpacing(0);
+
+    window.picTop = new QWidget;
+    window.picTop->setFixedHeight(TopHeight);
+    auto* top = new QHBoxLayout(window.picTop);
+    top->setContentsMargins(0, 0, 0, PanelMargin);
+    window.picCalDayDown = PictureButton(StepperSize, "One day back", Qt::CTRL | Qt::Key_Left);
+    window.picCalDayUp = PictureButton(StepperSize, "One day on", Qt::CTRL | Qt::Key_Right);
+    window.LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
+    window.LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
+    window.LabelInfoTitle->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+    top->addWidget(window.picCalDayDown);
+    top->addWidget(window.LabelTop, 1);
+    top->addWidget(window.LabelInfoTitle);
+    top->addWidget(window.picCalDayUp);
+    column->addWidget(window.picTop);
+
+    window.picGrid = new PictureBox;
+    InstallGridAccessible(*window.picGrid); // before anything describes it
+    window.picGrid->setFocusPolicy(Qt::StrongFocus);
+    window.picGrid->setAccessibleName(QStringLiteral("View"));
+    for (PictureBox*& header : window.picColHeader) {
+        header = new PictureBox(window.picGrid);
+        header->setCursor(Qt::PointingHandCursor);
+        header->hide();
+    }
+    window.VSGridScroll = new QScrollBar(Qt::Vertical, window.picGrid);
+    window.VSGridScroll->hide();
+    column->addWidget(window.picGrid, 1);
+    return side;
+}
+
+QWidget* BuildStatusBar(frmMain& window) {
+    window.picStatusBar = new PictureBox;
+    window.picStatusBar->setFixedHeight(StatusHeight);
+    DescribeAs(window.picStatusBar, QAccessible::StatusBar);
+    auto* corner = new QHBoxLayout(window.picStatusBar);
+    corner->setContentsMargins(0, 0, 0, 0);
+    auto* grip = new QSizeGrip(window.picStatusBar);
+    grip->setFixedSize(GripSize, GripSize);
+    corner->addWidget(grip, 0, Qt::AlignRight | Qt::AlignBottom);
+    return window.picStatusBar;
+}
+
+// Each subject binds its controls.
+void BindParts(frmMain& window) {
+    BindViewMenus(window);
+    BindCalendar(window);
+    BindGrid(window);
+    BindStatusBar(window);
+    BindAlerts(window);
+    BindStudyTimer(window);
+    BindAutoStart(window);
+    BindCommands(window);
+    QObject::connect(&window, &frmMain::Asked, &window,
+                     [&window](const ViewAction& action) { Act(window, action); });
+    QObject::connect(&window, &frmMain::EndAsked, &window, [&window] { Unload(window); });
+}
+
 } // namespace
 
 frmMain* MainWindow = nullptr;
@@ -35,72 +112,22 @@ frmMain::frmMain() {
     resize(DesignSize);
     setMinimumSize(DesignSize);
 
-    BuildMenuBar();
+    BuildMenuBar(*this);
     auto* centre = new QWidget;
     auto* column = new QVBoxLayout(centre);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(BuildModeBar());
+    column->addWidget(BuildModeBar(*this));
     auto* row = new QHBoxLayout;
     row->setContentsMargins(PanelMargin, PanelMargin, PanelMargin, 0);
     row->setSpacing(PanelMargin);
-    row->addWidget(BuildLeftPanel());
-    row->addWidget(BuildRightSide(), 1);
+    row->addWidget(BuildLeftPanel(*this));
+    row->addWidget(BuildRightSide(*this), 1);
     column->addLayout(row, 1);
-    picStatusBar = new PictureBox;
-    picStatusBar->setFixedHeight(StatusHeight);
-    DescribeAs(picStatusBar, QAccessible::StatusBar);
-    auto* corner = new QHBoxLayout(picStatusBar);
-    corner->setContentsMargins(0, 0, 0, 0);
-    auto* grip = new QSizeGrip(picStatusBar);
-    grip->setFixedSize(GripSize, GripSize);
-    corner->addWidget(grip, 0, Qt::AlignRight | Qt::AlignBottom);
-    column->addWidget(picStatusBar);
+    column->addWidget(BuildStatusBar(*this));
     setCentralWidget(centre);
 
     mnuPopup = new QMenu(this);
-    BindViewMenus();
-    BindCalendar();
-    BindGrid();
-    BindStatusBar();
-    BindAlerts();
-    BindStudyTimer();
-    BindAutoStart();
-    BindCommands();
-}
-
-QWidget* frmMain::BuildRightSide() {
-    auto* side = new QWidget;
-    auto* column = new QVBoxLayout(side);
-    column->setContentsMargins(0, 0, 0, PanelMargin);
-    column->setSpacing(0);
-
-    picTop = new QWidget;
-    picTop->setFixedHeight(TopHeight);
-    auto* top = new QHBoxLayout(picTop);
-    top->setContentsMargins(0, 0, 0, PanelMargin);
-    picCalDayDown = PictureButton(StepperSize, "One day back", Qt::CTRL | Qt::Key_Left);
-    picCalDayUp = PictureButton(StepperSize, "One day on", Qt::CTRL | Qt::Key_Right);
-    LabelTop = TitleLabel(TopPoints, true, Qt::AlignLeft);
-    LabelInfoTitle = TitleLabel(InfoPoints, false, Qt::AlignRight);
-    LabelInfoTitle->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
-    top->addWidget(picCalDayDown);
-    top->addWidget(LabelTop, 1);
-    top->addWidget(LabelInfoTitle);
-    top->addWidget(picCalDayUp);
-    column->addWidget(picTop);
-
-    picGrid = new PictureBox;
-    InstallGridAccessible(*picGrid); // before anything describes it
-    picGrid->setFocusPolicy(Qt::StrongFocus);
-    picGrid->setAccessibleName(QStringLiteral("View"));
-    for (PictureBox*& header : picColHeader) {
-        header = new PictureBox(picGrid);
-        header->setCursor(Qt::PointingHandCursor);
-        header->hide();
-    }
-    VSGridScroll = new QScrollBar(Qt::Vertical, picGrid);
-    VSGridScroll->hide();
-    column->addWidget(picGrid, 1);
-    return side;
+    AlertDialog = new frmAlert(this);
+    BindParts(*this);
 }

@@ -1,4 +1,6 @@
 // The load of the main window. The order of its steps is required: later ones read what earlier ones set.
+#include "mainwindow/frame/Load.h"
+
 #include "core/Module1.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
@@ -6,7 +8,16 @@
 #include "editors/frmEvent.h"
 #include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/flows/PreferencesFlow.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/frame/BringForward.h"
+#include "mainwindow/frame/Unload.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/PopupMenus.h"
+#include "mainwindow/modes/Modes.h"
+#include "mainwindow/modes/ViewMenus.h"
+#include "mainwindow/panels/StudyTimer.h"
 #include "persistence/ProcessMarker.h"
 #include "persistence/modConvert.h"
 #include "persistence/modIO.h"
@@ -18,17 +29,17 @@ namespace {
 
 void PutIntoTray(frmMain& window) {
     AddTrayIcon("Planovarium Homework System",
-                {.doubleClicked = [&window] { window.TrayDoubleClick(); },
+                {.doubleClicked = [&window] { TrayDoubleClick(window); },
                  .menuWanted =
                      [&window] {
-                         window.ShowTrayMenu();
+                         ShowTrayMenu(window);
                          std::vector<std::string> captions;
                          for (const PopupItem& item : window.TrayItems) {
                              captions.push_back(item.caption);
                          }
                          return captions;
                      },
-                 .itemChosen = [&window](int index) { window.RunTrayCommand(index); }});
+                 .itemChosen = [&window](int index) { RunTrayCommand(window, index); }});
 }
 
 // A planner on a drive neither starts with the desktop session nor shows its folder. Both commands stay.
@@ -52,14 +63,15 @@ void LoadDialogs(frmMain& window) {
 
 } // namespace
 
-bool frmMain::LoadPlanner() {
-    PutIntoTray(*this);
-    OnTermination([this] { Unload(); });
-    ReceiveLinkCommands(LinkApplication, LinkTopic,
-                        [this](const std::string& /*any command is accepted*/) { return LinkExecute(); });
+bool LoadPlanner(frmMain& window) {
+    PutIntoTray(window);
+    OnTermination([&window] { Unload(window); });
+    ReceiveLinkCommands(
+        LinkApplication, LinkTopic,
+        [&window](const std::string& /*any command is accepted*/) { return LinkExecute(window); });
     FileWrittenFlags = {};
-    ClickedDate = Today();
-    SelectedDate = Today();
+    window.ClickedDate = Today();
+    window.SelectedDate = Today();
     DeleteDeadMarkers();
     MakeProcessMarker();
     if (!SetupFolders()) {
@@ -69,24 +81,24 @@ bool frmMain::LoadPlanner() {
     ReadTermsAndClasses();
     ReadTasks();
     ReadEvents();
-    HideUnofferedItems(*this);
+    HideUnofferedItems(window);
     SetFirstOpenFlags();
-    LoadDialogs(*this);
+    LoadDialogs(window);
     StartupComplete = true;
     if (ShuttingDown) {
         return false;
     }
     InitViewMenus();
     SetDefaultTypeTable();
-    const std::string term = ReadPreferences();
-    ApplyStartDayOfWeek();
-    SetActiveTerm(term);
+    const std::string term = ReadPreferences(window);
+    ApplyStartDayOfWeek(window);
+    SetActiveTerm(window, term);
     if (ShuttingDown) {
         return false;
     }
-    ShowCalendarMode();
-    ClearStudyTimer();
-    TimerStatusBar->start();
-    picGrid->setFocus();
+    ShowCalendarMode(window);
+    ClearStudyTimer(window);
+    window.TimerStatusBar->start();
+    window.picGrid->setFocus();
     return true;
 }

@@ -1,6 +1,7 @@
 // The one procedure in which every change of the window ends: what is redone, by reason and mode.
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "mainwindow/panels/AlertButtons.h"
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/study/StudyTimeToday.h"
 
@@ -47,7 +48,7 @@ void RunStep(frmMain& window, RefreshStep step) {
         window.FillGrid();
         break;
     case RefreshStep::Alerts:
-        window.StudyTimeAlerts();
+        StudyTimeAlerts(window);
         break;
     case RefreshStep::StudyTime:
         ShowStudyTimeToday(window, window.ClickedDate);

@@ -1,7 +1,10 @@
 // The ordered shutdown, asked for by the tray menu, a termination signal or the end of the desktop session.
 // Record files are not written here: each change was saved when it was made.
+#include "mainwindow/frame/Unload.h"
+
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "mainwindow/flows/PreferencesFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/ProcessMarker.h"
 #include "persistence/modIO.h"
@@ -19,7 +22,7 @@ void RunShutdownSteps(const frmMain& window) {
     try {
         DeleteProcessMarker();
         if (window.PreferencesWereRead) {
-            window.WritePreferences();
+            WritePreferences(window);
         }
         RotateBackups();
         RemoveTrayIcon();
@@ -40,12 +43,12 @@ void HideAllWindows(frmMain& window) {
 
 } // namespace
 
-void frmMain::Unload() {
+void Unload(frmMain& window) {
     if (ShuttingDown) {
         return;
     }
     ShuttingDown = true;
-    RunShutdownSteps(*this);
-    HideAllWindows(*this);
+    RunShutdownSteps(window);
+    HideAllWindows(window);
     QApplication::exit();
 }

@@ -7,6 +7,8 @@
 #include "planner/dates/DateTitles.h"
 #include "toolkit/Text.h"
 
+#include <QSignalBlocker>
+
 void ShowTopTitles(frmMain& window, const QString& top) {
     window.LabelTop->setText(top);
     window.LabelInfoTitle->setText(FromScreen(DayTitle(window.ClickedDate)));
@@ -36,4 +38,14 @@ void PlaceScrollBar(frmMain& window) {
     const int width = ScrollStripWidth / UnitsPerPixel;
     window.VSGridScroll->setGeometry(window.picGrid->width() - width, 0, width, window.picGrid->height());
     window.VSGridScroll->show();
+}
+
+// Silent, since a fill is under way that shows what the bar then says.
+void frmMain::SetGridScroll() {
+    const GridScroll scroll = GridScrollFor(RowCount, RowsVisible);
+    const QSignalBlocker silence(VSGridScroll);
+    VSGridScroll->setEnabled(scroll.enabled);
+    VSGridScroll->setRange(1, scroll.greatest);
+    VSGridScroll->setPageStep(scroll.largeStep);
+    FirstRow = VSGridScroll->value();
 }

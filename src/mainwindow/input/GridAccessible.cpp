@@ -130,7 +130,7 @@ public:
     void doAction(const QString& name) override {
         if (name == pressAction() && isValid()) {
             QTimer::singleShot(0, grid, [window = WindowOf(grid), pressedRow = row, pressedColumn = column] {
-                PressTableCell(*window, pressedRow, pressedColumn);
+                emit window->Asked(PressOnTableCell(*window, pressedRow, pressedColumn));
             });
         }
     }

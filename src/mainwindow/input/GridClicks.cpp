@@ -1,10 +1,12 @@
-// The clicks on the grid and on its titles, and what they open.
-#include "core/RowLists.h"
+// What clicks on the grid and on its titles mean.
+#include "mainwindow/input/GridClicks.h"
+
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridAccessible.h"
+#include "mainwindow/input/GridKeys.h"
 #include "mainwindow/input/GridPointer.h"
-#include "planner/reminders/ReminderItems.h"
+#include "mainwindow/input/GridScroll.h"
+#include "mainwindow/modes/ModeTables.h"
 
 namespace {
 
@@ -12,7 +14,55 @@ bool OnSurface(const PictureBox& grid, int x, int y) {
     return Holds({0, 0, grid.WidthInUnits(), grid.HeightInUnits()}, x, y);
 }
 
-// What ClickedRow becomes: the cell of the month from 0, the box of the day or 0, the row under the titles.
+QPoint InPixels(int x, int y) {
+    return {x / UnitsPerPixel, y / UnitsPerPixel};
+}
+
+ViewAction ClickOnMonth(const frmMain& window, int x, int y, bool right) {
+    const int cell = window.ClickedRow;
+    if (cell == NoRow) {
+        return {};
+    }
+    ViewAction action{.kind = ViewActionKind::GoToDate,
+                      .date = window.Month.CellDate[static_cast<std::size_t>(cell)],
+                      .point = InPixels(x, y)};
+    if (const auto icon = CalendarIconAt(window.CalendarGrid, cell, x, y)) {
+        action.kind = ViewActionKind::OpenDayMenu;
+        action.icon = *icon;
+    } else if (right) {
+        action.kind = ViewActionKind::OpenCalendarMenu;
+    }
+    return action;
+}
+
+ViewAction ClickOnDay(const frmMain& window, int x, int y, bool right) {
+    const int box = window.ClickedRow;
+    const int halfHour = HalfHourAt(y, window.FirstRow);
+    if (right) {
+        return {.kind = ViewActionKind::OpenListMenu,
+                .halfHour = box > 0 ? -1 : halfHour,
+                .point = InPixels(x, y)};
+    }
+    return {.kind = box > 0 ? ViewActionKind::OpenEvent : ViewActionKind::OpenHalfHour,
+            .row = box,
+            .halfHour = halfHour};
+}
+
+ViewAction ClickOnList(const frmMain& window, const ModeRow& mode, int x, int y, bool right) {
+    if (right && mode.listMenu != ListMenu::None) {
+        return {.kind = ViewActionKind::OpenListMenu, .point = InPixels(x, y)};
+    }
+    const int row = window.FirstRow + window.ClickedRow - 1;
+    if (window.ClickedRow == NoRow) {
+        return {};
+    }
+    return row <= window.RowCount
+               ? ViewAction{.kind = ViewActionKind::OpenRow, .row = row}
+               : ViewAction{.kind = ViewActionKind::RunCommand, .command = mode.behindRows};
+}
+
+} // namespace
+
 int RowUnder(const frmMain& window, int x, int y) {
     switch (window.CurrentMode()) {
     case Mode::Calendar:
@@ -24,190 +74,40 @@ int RowUnder(const frmMain& window, int x, int y) {
     }
 }
 
-void ClickCalendar(frmMain& window, int x, int y, bool right) {
-    const int cell = window.ClickedRow;
-    if (cell == NoRow) {
-        return;
-    }
-    const CalendarLayout clicked = window.CalendarGrid; // a day of another month lays its month out anew
-    window.GoToDate(window.Month.CellDate[static_cast<std::size_t>(cell)]);
-    if (const auto icon = CalendarIconAt(clicked, cell, x, y)) {
-        window.ShowDayMenu(*icon);
-    } else if (right) {
-        window.ShowCalendarMenu();
-    }
-}
-
-void ClickDay(frmMain& window, int y, bool right) {
-    const bool onBox = window.ClickedRow > 0;
-    const int halfHour = HalfHourAt(y, window.FirstRow);
-    if (!onBox) {
-        window.EventClickedStartTime = StartTimeOfHalfHour(halfHour);
-    }
-    if (right) {
-        window.ShowEventListMenu();
-    } else if (onBox) {
-        window.OpenEventBox(window.ClickedRow, halfHour);
-    } else {
-        window.OpenHalfHour(halfHour);
-    }
-}
-
-// The keys go on from the row that is opened.
-void MoveCurrentRow(frmMain& window, int row) {
-    if (row != window.CurrentRow) {
-        window.CurrentRow = row;
-        window.RepaintGrid();
-        NotifyGridMoved(window);
-    }
-}
-
-// The same for the half hour, and the event row in it or 0.
-void MoveCurrentHalfHour(frmMain& window, int halfHour, int eventRow) {
-    if (halfHour != window.CurrentHalfHour || eventRow != window.CurrentEvent) {
-        window.CurrentHalfHour = halfHour;
-        window.CurrentEvent = eventRow;
-        window.RepaintGrid();
-        NotifyGridMoved(window);
-    }
-}
-
-void ClickList(frmMain& window, bool right) {
-    if ((right && window.ShowListMenu()) || window.ClickedRow == NoRow) {
-        return;
-    }
-    const Mode mode = window.CurrentMode();
-    const int row = window.FirstRow + window.ClickedRow - 1;
-    if (row <= window.RowCount) {
-        window.OpenRow(row);
-    } else if (mode == Mode::Homework) {
-        window.NewAssignment();
-    } else if (mode == Mode::Tasks) {
-        window.NewTask();
-    }
-}
-
-// The event of a reminder is the occurrence of the row's date, so that day counts as the clicked one.
-void EditReminder(frmMain& window, int row) {
-    const std::string& kind = ReminderRowKind.Item(row);
-    const int position = ReminderRows.Item(row);
-    if (kind == HomeworkMode) {
-        window.EditAssignment(position);
-    } else if (kind == TaskMode) {
-        window.EditTask(position);
-    } else {
-        window.ClickedDate = ReminderRowDate.Item(row);
-        window.EditEvent(position);
-        window.ClickedDate = window.SelectedDate;
-    }
-}
-
-} // namespace
-
-void frmMain::BindGrid() {
-    InstallGridKeys();
-    InstallGridPointer(*this);
-    VSGridScroll->setFocusPolicy(Qt::NoFocus);
-    VSGridScroll->setFocusProxy(picGrid);
-    connect(VSGridScroll, &QScrollBar::valueChanged, this, &frmMain::GridScrolled);
-    connect(picGrid, &PictureBox::Pressed, this, &frmMain::GridPressed);
-    connect(picGrid, &PictureBox::Released, this, &frmMain::GridReleased);
-    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
-    connect(picGrid, &PictureBox::Resized, this, &frmMain::RefreshAfterResize);
-    for (std::size_t i = 0; i < picColHeader.size(); ++i) {
-        connect(picColHeader[i], &PictureBox::Clicked, this,
-                [this, i] { ColumnClicked(static_cast<int>(i)); });
-    }
-}
-
-void frmMain::ResortGrid() {
-    const bool scrolled = VSGridScroll->value() != 1;
-    ScrollGridTo(1);
-    if (scrolled) {
-        picGrid->setFocus();
-    }
-}
-
-void frmMain::ColumnClicked(int column) {
-    if (column == 0) {
-        picGrid->setFocus();
-        return;
-    }
-    if (column == SortColumn) {
-        SortDirection = SortDirection == Ascending ? Descending : Ascending;
-    }
-    SortColumn = column;
-    ResortGrid();
-}
-
-void frmMain::GridPressed(int x, int y) {
-    ClickedRow = RowUnder(*this, x, y);
-}
-
 // Press and release must fall on one row.
-void frmMain::GridReleased(int x, int y, Qt::MouseButton button) {
-    if (!OnSurface(*picGrid, x, y) || RowUnder(*this, x, y) != ClickedRow) {
-        return;
+ViewAction ReleaseOnGrid(const frmMain& window, int x, int y, Qt::MouseButton button) {
+    if (!OnSurface(*window.picGrid, x, y) || RowUnder(window, x, y) != window.ClickedRow) {
+        return {};
     }
     const bool right = button == Qt::RightButton;
-    PointPopupAt(x, y);
-    switch (CurrentMode()) {
+    const Mode mode = window.CurrentMode();
+    switch (mode) {
     case Mode::Calendar:
-        return ClickCalendar(*this, x, y, right);
+        return ClickOnMonth(window, x, y, right);
     case Mode::Events:
-        return ClickDay(*this, y, right);
+        return ClickOnDay(window, x, y, right);
     case Mode::None:
-        return;
+        return {};
     default:
-        return ClickList(*this, right);
+        return ClickOnList(window, RowOf(ModeRows, mode), x, y, right);
     }
 }
 
-void frmMain::PointPopupAt(int x, int y) {
-    PopupPoint = picGrid->mapToGlobal(QPoint(x / UnitsPerPixel, y / UnitsPerPixel));
-}
-
-bool frmMain::ShowListMenu() {
-    switch (CurrentMode()) {
-    case Mode::Homework:
-        ShowHomeworkListMenu();
-        return true;
-    case Mode::Tasks:
-        ShowTaskListMenu();
-        return true;
-    default:
-        return false;
+void BindGrid(frmMain& window) {
+    InstallGridKeys(window);
+    InstallGridPointer(window);
+    BindGridScroll(window);
+    QObject::connect(window.picGrid, &PictureBox::Pressed, &window,
+                     [&window](int x, int y) { window.ClickedRow = RowUnder(window, x, y); });
+    QObject::connect(window.picGrid, &PictureBox::Released, &window,
+                     [&window](int x, int y, Qt::MouseButton button) {
+                         emit window.Asked(ReleaseOnGrid(window, x, y, button));
+                     });
+    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
+    QObject::connect(window.picGrid, &PictureBox::Resized, &window, &frmMain::RefreshAfterResize);
+    for (std::size_t i = 0; i < window.picColHeader.size(); ++i) {
+        QObject::connect(window.picColHeader[i], &PictureBox::Clicked, &window, [&window, i] {
+            emit window.Asked({.kind = ViewActionKind::SortColumn, .index = i});
+        });
     }
-}
-
-void frmMain::OpenRow(int row) {
-    MoveCurrentRow(*this, row);
-    const int place = row - FirstRow + 1;
-    HighlightRow(place, true);
-    switch (CurrentMode()) {
-    case Mode::Homework:
-    case Mode::StudySessions:
-        EditAssignment(HomeworkRows.Item(row));
-        break;
-    case Mode::Tasks:
-        EditTask(TaskRows.Item(row));
-        break;
-    case Mode::Reminders:
-        EditReminder(*this, row);
-        break;
-    default:
-        break;
-    }
-    HighlightRow(place, false);
-}
-
-void frmMain::OpenEventBox(int row, int halfHour) {
-    MoveCurrentHalfHour(*this, HalfHourOfEvent(row, halfHour), row);
-    EditEvent(EventRows.Item(row));
-}
-
-void frmMain::OpenHalfHour(int halfHour) {
-    MoveCurrentHalfHour(*this, std::min(halfHour, HalfHours - 1), 0);
-    EventClickedStartTime = StartTimeOfHalfHour(halfHour);
-    NewEvent();
 }

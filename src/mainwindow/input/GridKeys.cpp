@@ -2,10 +2,12 @@
 // context menu, a digit sorts by the column of that number; in the month H, T and E open the day's menus.
 // With Ctrl the arrows and pages move the selected day from every view, Home goes to today and End to
 // tomorrow.
+#include "mainwindow/input/GridKeys.h"
+
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/grid/GridMoves.h"
-#include "mainwindow/input/GridAccessible.h"
+#include "mainwindow/modes/ModeTables.h"
 
 #include <QKeyEvent>
 
@@ -53,88 +55,83 @@ bool IsMenuKey(int key, Qt::KeyboardModifiers modifiers) {
     return key == Qt::Key_Menu || (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
 }
 
+KeyMeaning Ask(ViewAction action) {
+    return {.taken = true, .action = std::move(action)};
+}
+
+KeyMeaning AskToGo(Date date, bool reveal) {
+    return Ask({.kind = ViewActionKind::GoToDate, .date = date, .reveal = reveal});
+}
+
 // --- The lists ---
 
-void ShowCurrentRow(frmMain& window) {
-    if (window.CurrentRow > 0) {
-        window.ShowRow(window.CurrentRow);
-    }
+ViewAction ShowRowOf(int row) {
+    return {.kind = ViewActionKind::ShowRow, .row = row};
 }
 
-bool ListKey(frmMain& window, int key) {
+bool HasTitle(const frmMain& window, int column) {
+    const int columns = static_cast<int>(window.picColHeader.size());
+    return column >= 1 && column < columns &&
+           window.picColHeader[static_cast<std::size_t>(column)]->isVisible();
+}
+
+KeyMeaning ListKey(const frmMain& window, int key) {
     if (const auto move = MoveOf(key)) {
         const ListView view{window.RowCount, window.FirstRow, window.RowsVisible};
-        window.CurrentRow = MovedRow(*move, window.CurrentRow, view);
-        ShowCurrentRow(window);
-        return true;
+        return Ask(ShowRowOf(MovedRow(*move, window.CurrentRow, view)));
     }
     if (IsEnter(key) && window.CurrentRow > 0) {
-        ShowCurrentRow(window);
-        window.OpenRow(window.CurrentRow);
-        return true;
+        return Ask({.kind = ViewActionKind::OpenRow, .row = window.CurrentRow, .reveal = true});
     }
     const int column = key - Qt::Key_0;
-    const int columns = static_cast<int>(window.picColHeader.size());
-    if (column >= 1 && column < columns &&
-        window.picColHeader[static_cast<std::size_t>(column)]->isVisible()) {
-        window.ColumnClicked(column);
-        return true;
+    if (HasTitle(window, column)) {
+        return Ask({.kind = ViewActionKind::SortColumn, .index = static_cast<std::size_t>(column)});
     }
-    return false;
+    return {};
 }
 
-bool ListMenuKey(frmMain& window) {
-    ShowCurrentRow(window);
-    const int place = std::max(window.CurrentRow - window.FirstRow + 1, 1);
-    window.PointPopupAt(RowNumberRight, RowTop(place + 1));
-    return window.ShowListMenu();
+// A list without a menu shows the row and leaves the key to others.
+KeyMeaning ListMenuKey(const frmMain& window, Mode mode) {
+    if (mode == Mode::None || RowOf(ModeRows, mode).listMenu == ListMenu::None) {
+        return {.taken = false, .action = ShowRowOf(window.CurrentRow)};
+    }
+    return Ask({.kind = ViewActionKind::OpenListMenu, .row = window.CurrentRow, .reveal = true});
 }
 
 // --- The schedule of a day ---
 
-void ShowCurrentHalfHour(frmMain& window) {
-    if (window.CurrentHalfHour >= 0) {
-        window.ShowRow(window.CurrentHalfHour + 1);
-    }
-}
-
 // To the side the keys choose among the events of the half hour.
-void ChooseEvent(frmMain& window, int step) {
+int ChosenEvent(const frmMain& window, GridMove move) {
+    if (move != GridMove::Left && move != GridMove::Right) {
+        return window.CurrentEvent;
+    }
     const std::vector<int> rows = EventRowsInHalfHour(window.CurrentHalfHour);
     const auto at = std::ranges::find(rows, window.CurrentEvent);
-    const auto target = (at - rows.begin()) + step;
-    if (target >= 0 && target < static_cast<std::ptrdiff_t>(rows.size())) {
-        window.CurrentEvent = rows[static_cast<std::size_t>(target)];
-    }
+    const auto target = (at - rows.begin()) + (move == GridMove::Left ? -1 : 1);
+    return target >= 0 && target < std::ssize(rows) ? rows[static_cast<std::size_t>(target)]
+                                                    : window.CurrentEvent;
 }
 
-bool DayKey(frmMain& window, int key) {
+KeyMeaning DayKey(const frmMain& window, int key) {
     if (const auto move = MoveOf(key)) {
-        if (*move == GridMove::Left || *move == GridMove::Right) {
-            ChooseEvent(window, *move == GridMove::Left ? -1 : 1);
-        }
         const ListView view{HalfHours, window.FirstRow, window.RowsVisible};
-        window.CurrentHalfHour = MovedRow(*move, window.CurrentHalfHour + 1, view) - 1;
-        ShowCurrentHalfHour(window);
-        return true;
+        return Ask({.kind = ViewActionKind::ShowHalfHour,
+                    .row = ChosenEvent(window, *move),
+                    .halfHour = MovedRow(*move, window.CurrentHalfHour + 1, view) - 1});
     }
     if (IsEnter(key) && window.CurrentEvent > 0) {
-        window.OpenEventBox(window.CurrentEvent, window.CurrentHalfHour);
-        return true;
+        return Ask({.kind = ViewActionKind::OpenEvent,
+                    .row = window.CurrentEvent,
+                    .halfHour = window.CurrentHalfHour});
     }
     if (IsEnter(key) && window.CurrentHalfHour >= 0) {
-        window.OpenHalfHour(window.CurrentHalfHour);
-        return true;
+        return Ask({.kind = ViewActionKind::OpenHalfHour, .halfHour = window.CurrentHalfHour});
     }
-    return false;
+    return {};
 }
 
-bool DayMenuKeyPressed(frmMain& window) {
-    ShowCurrentHalfHour(window);
-    const int place = std::max(window.CurrentHalfHour - window.FirstRow + 2, 1);
-    window.PointPopupAt(TimeColumnWidth, place * SlotUnits);
-    window.ShowEventListMenu();
-    return true;
+KeyMeaning DayMenuKeyPressed(const frmMain& window) {
+    return Ask({.kind = ViewActionKind::OpenListMenu, .halfHour = window.CurrentHalfHour, .reveal = true});
 }
 
 // --- The month ---
@@ -143,87 +140,79 @@ const CalendarCell& SelectedCell(const frmMain& window) {
     return window.CalendarGrid.cell.at(SelectedCellOf(window.Month));
 }
 
-void PointPopupAtDay(frmMain& window) {
+QPoint MiddleOfDay(const frmMain& window) {
     const UnitRect& area = SelectedCell(window).area;
-    window.PointPopupAt(area.left + area.width / 2, area.top + area.height / 2);
+    return {(area.left + area.width / 2) / UnitsPerPixel, (area.top + area.height / 2) / UnitsPerPixel};
+}
+
+KeyMeaning AskForDayMenu(const frmMain& window, CalendarIcon icon) {
+    return Ask({.kind = ViewActionKind::OpenDayMenu, .icon = icon, .point = MiddleOfDay(window)});
+}
+
+KeyMeaning AskForCalendarMenu(const frmMain& window) {
+    return Ask({.kind = ViewActionKind::OpenCalendarMenu, .point = MiddleOfDay(window)});
 }
 
 // Enter opens the first of the day's menus that has anything to show, else the menu of the calendar.
-void OpenDay(frmMain& window) {
+KeyMeaning OpenDay(const frmMain& window) {
     for (const DayMenuKey& menu : DayMenuKeys) {
         if (SelectedCell(window).icon[static_cast<std::size_t>(menu.menu)].width > 0) {
-            return window.ShowDayMenu(menu.menu);
+            return AskForDayMenu(window, menu.menu);
         }
     }
-    window.ShowCalendarMenu();
+    return AskForCalendarMenu(window);
 }
 
-bool MonthKey(frmMain& window, int key) {
+KeyMeaning MonthKey(const frmMain& window, int key) {
     if (const auto move = MoveOf(key)) {
-        window.GoToDate(MovedDate(*move, window.ClickedDate));
-        NotifyGridMoved(window);
-        return true;
+        return AskToGo(MovedDate(*move, window.ClickedDate), true);
+    }
+    if (IsEnter(key)) {
+        return OpenDay(window);
     }
     const auto* const menu = std::ranges::find(DayMenuKeys, key, &DayMenuKey::key);
-    if (menu == DayMenuKeys.end() && !IsEnter(key)) {
-        return false;
-    }
-    PointPopupAtDay(window);
-    if (IsEnter(key)) {
-        OpenDay(window);
-    } else {
-        window.ShowDayMenu(menu->menu);
-    }
-    return true;
-}
-
-bool MonthMenuKey(frmMain& window) {
-    PointPopupAtDay(window);
-    window.ShowCalendarMenu();
-    return true;
+    return menu == DayMenuKeys.end() ? KeyMeaning{} : AskForDayMenu(window, menu->menu);
 }
 
 // --- All views ---
 
 // The selected day, moved from every view in which the calendar reacts.
-bool DateKey(frmMain& window, int key) {
+KeyMeaning DateKey(const frmMain& window, int key) {
     const auto move = MoveOf(key);
     if (!move || window.MenuReminders->isChecked()) {
-        return false;
+        return {};
     }
     if (*move == GridMove::Home || *move == GridMove::End) {
-        window.GoToDate(*move == GridMove::Home ? Today() : Today() + std::chrono::days{1});
-    } else {
-        window.GoToDate(MovedDate(*move, window.ClickedDate));
+        return AskToGo(*move == GridMove::Home ? Today() : Today() + std::chrono::days{1}, false);
     }
-    return true;
+    return AskToGo(MovedDate(*move, window.ClickedDate), false);
 }
 
-bool PlainKey(frmMain& window, int key) {
+KeyMeaning PlainKey(const frmMain& window, int key) {
     switch (window.CurrentMode()) {
     case Mode::Calendar:
         return MonthKey(window, key);
     case Mode::Events:
         return DayKey(window, key);
     case Mode::None:
-        return false;
+        return {};
     default:
         return ListKey(window, key);
     }
 }
 
-bool MenuKeyPressed(frmMain& window) {
-    switch (window.CurrentMode()) {
+KeyMeaning MenuKeyPressed(const frmMain& window) {
+    const Mode mode = window.CurrentMode();
+    switch (mode) {
     case Mode::Calendar:
-        return MonthMenuKey(window);
+        return AskForCalendarMenu(window);
     case Mode::Events:
         return DayMenuKeyPressed(window);
     default:
-        return ListMenuKey(window);
+        return ListMenuKey(window, mode);
     }
 }
 
-// Brings the grid's keys to the window before the toolkit makes anything of them.
 class GridKeyFilter : public QObject {
 public:
     explicit GridKeyFilter(frmMain& owner) : QObject(&owner), window(owner) {}
@@ -233,7 +222,9 @@ public:
             return false;
         }
         const auto* const press = static_cast<QKeyEvent*>(event);
-        return window.GridKeyPressed(press->key(), press->modifiers());
+        const KeyMeaning meaning = MeaningOfKey(window, press->key(), press->modifiers());
+        emit window.Asked(meaning.action);
+        return meaning.taken;
     }
 
 private:
@@ -242,17 +233,26 @@ private:
 
 } // namespace
 
-void frmMain::InstallGridKeys() {
-    picGrid->installEventFilter(new GridKeyFilter(*this));
+void InstallGridKeys(frmMain& window) {
+    window.picGrid->installEventFilter(new GridKeyFilter(window));
 }
 
-bool frmMain::GridKeyPressed(int key, Qt::KeyboardModifiers modifiers) {
+KeyMeaning MeaningOfKey(const frmMain& window, int key, Qt::KeyboardModifiers modifiers) {
     const Qt::KeyboardModifiers held = modifiers & ~Qt::KeypadModifier;
     if (IsMenuKey(key, held)) {
-        return MenuKeyPressed(*this);
+        return MenuKeyPressed(window);
     }
     if (held == Qt::ControlModifier) {
-        return DateKey(*this, key);
+        return DateKey(window, key);
     }
-    return held == Qt::NoModifier && PlainKey(*this, key);
+    return held == Qt::NoModifier ? PlainKey(window, key) : KeyMeaning{};
+}
+
+QPoint PointBesideKeys(const frmMain& window) {
+    if (window.CurrentMode() == Mode::Events) {
+        const int place = std::max(window.CurrentHalfHour - window.FirstRow + 2, 1);
+        return {TimeColumnWidth / UnitsPerPixel, place * SlotUnits / UnitsPerPixel};
+    }
+    const int place = std::max(window.CurrentRow - window.FirstRow + 1, 1);
+    return {RowNumberRight / UnitsPerPixel, RowTop(place + 1) / UnitsPerPixel};
 }

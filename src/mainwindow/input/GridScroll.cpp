@@ -1,53 +1,72 @@
-// The scroll bar of the grid, the wheel, and which layout and fill the mode has.
+// The scroll bar of the grid, the wheel, and the order of the rows.
+#include "mainwindow/input/GridScroll.h"
+
 #include "mainwindow/frmMain.h"
 #include "mainwindow/grid/GridLayout.h"
 #include "mainwindow/input/GridAccessible.h"
-#include "mainwindow/input/GridPointer.h"
 
-#include <QSignalBlocker>
 #include <QWheelEvent>
 
 #include <algorithm>
 
-// Silent, since a fill is under way that shows what the bar then says.
-void frmMain::SetGridScroll() {
-    const GridScroll scroll = GridScrollFor(RowCount, RowsVisible);
-    const QSignalBlocker silence(VSGridScroll);
-    VSGridScroll->setEnabled(scroll.enabled);
-    VSGridScroll->setRange(1, scroll.greatest);
-    VSGridScroll->setPageStep(scroll.largeStep);
-    FirstRow = VSGridScroll->value();
+namespace {
+
+void GridScrolled(frmMain& window) {
+    window.FirstRow = window.VSGridScroll->value();
+    window.RepaintGrid();
 }
 
-void frmMain::GridScrolled() {
-    FirstRow = VSGridScroll->value();
-    RepaintGrid();
-}
-
-void frmMain::RepaintGrid() {
-    LayoutGrid();
-    FillGrid();
-}
-
-void frmMain::ScrollGridTo(int firstRow) {
-    const int value = std::clamp(firstRow, VSGridScroll->minimum(), VSGridScroll->maximum());
-    if (value == VSGridScroll->value()) {
-        RepaintGrid();
+// Repaints the grid from this row on, or from the nearest one that the scroll bar reaches.
+void ScrollGridTo(frmMain& window, int firstRow) {
+    const int value = std::clamp(firstRow, window.VSGridScroll->minimum(), window.VSGridScroll->maximum());
+    if (value == window.VSGridScroll->value()) {
+        window.RepaintGrid();
     } else {
-        VSGridScroll->setValue(value); // repaints
+        window.VSGridScroll->setValue(value); // repaints
     }
 }
 
-void frmMain::ShowRow(int row) {
-    ScrollGridTo(FirstRowShowing(row, FirstRow, RowsVisible));
-    NotifyGridMoved(*this);
+void ResortGrid(frmMain& window) {
+    const bool scrolled = window.VSGridScroll->value() != 1;
+    ScrollGridTo(window, 1);
+    if (scrolled) {
+        window.picGrid->setFocus();
+    }
 }
 
 // The bar is hidden, but not disabled, while the month is shown.
-void frmMain::MouseWheel(int rotation) {
-    if (VSGridScroll->isEnabled() && !VSGridScroll->isHidden()) {
-        VSGridScroll->setValue(WheelTarget(rotation, VSGridScroll->value(), VSGridScroll->maximum()));
+void MouseWheel(frmMain& window, int rotation) {
+    QScrollBar& bar = *window.VSGridScroll;
+    if (bar.isEnabled() && !bar.isHidden()) {
+        bar.setValue(WheelTarget(rotation, bar.value(), bar.maximum()));
     }
+}
+
+} // namespace
+
+void BindGridScroll(frmMain& window) {
+    window.VSGridScroll->setFocusPolicy(Qt::NoFocus);
+    window.VSGridScroll->setFocusProxy(window.picGrid);
+    QObject::connect(window.VSGridScroll, &QScrollBar::valueChanged, &window,
+                     [&window] { GridScrolled(window); });
+}
+
+void ShowRow(frmMain& window, int row) {
+    ScrollGridTo(window, FirstRowShowing(row, window.FirstRow, window.RowsVisible));
+    NotifyGridMoved(window);
+}
+
+void ColumnClicked(frmMain& window, std::size_t index) {
+    const auto column = static_cast<int>(index);
+    if (column == 0) {
+        window.picGrid->setFocus();
+        return;
+    }
+    if (column == window.SortColumn) {
+        window.SortDirection = window.SortDirection == Ascending ? Descending : Ascending;
+    }
+    window.SortColumn = column;
+    ResortGrid(window);
 }
 
 // The wheel counts wherever the pointer is over the window: nothing there takes it for itself but the scroll
@@ -57,53 +76,7 @@ void frmMain::wheelEvent(QWheelEvent* event) {
     const int notches = WheelRest / QWheelEvent::DefaultDeltasPerStep;
     WheelRest -= notches * QWheelEvent::DefaultDeltasPerStep;
     if (notches != 0) {
-        MouseWheel(notches);
+        MouseWheel(*this, notches);
     }
     event->accept();
-}
-
-void frmMain::LayoutGrid() {
-    switch (CurrentMode()) {
-    case Mode::Homework:
-        return LayoutHomeworkGrid();
-    case Mode::Calendar:
-        return LayoutCalendarGrid();
-    case Mode::StudySessions:
-        return LayoutStudyGrid();
-    case Mode::Tasks:
-        return LayoutTaskGrid();
-    case Mode::Events:
-        return LayoutEventGrid();
-    case Mode::Reminders:
-        return LayoutReminderGrid();
-    case Mode::None:
-        return;
-    }
-}
-
-void frmMain::FillGrid() {
-    switch (CurrentMode()) {
-    case Mode::Homework:
-        FillHomeworkList();
-        break;
-    case Mode::Calendar:
-        ShowCalendarTitles();
-        break;
-    case Mode::StudySessions:
-        FillStudyList();
-        break;
-    case Mode::Tasks:
-        FillTaskList();
-        break;
-    case Mode::Events:
-        FillEventDay();
-        break;
-    case Mode::Reminders:
-        FillReminderList();
-        break;
-    case Mode::None:
-        return;
-    }
-    RefreshGridPointer(*this);
-    NotifyGridChanged(*this);
 }

@@ -96,21 +96,6 @@ QString EventText(int eventRow, int column) {
     }
 }
 
-// --- What can be pressed without being on the screen ---
-
-void PressRow(frmMain& window, int row) {
-    window.CurrentRow = row;
-    window.ShowRow(row);
-    window.OpenRow(row);
-}
-
-void PressEvent(frmMain& window, int row) {
-    window.CurrentHalfHour = HalfHourOfEvent(row, 0);
-    window.CurrentEvent = row;
-    window.ShowRow(window.CurrentHalfHour + 1);
-    window.OpenEventBox(row, window.CurrentHalfHour);
-}
-
 } // namespace
 
 GridTable TableOf(const frmMain& window) {
@@ -201,14 +186,23 @@ TableCell TableCellAt(const frmMain& window, QPoint point) {
     return {TitleRow, -1};
 }
 
-void PressTableCell(frmMain& window, int row, int column) {
+ViewAction PressOnTableCell(const frmMain& window, int row, int column) {
     const Mode mode = window.CurrentMode();
-    if (ListOf(mode)) {
-        return row < 0 ? window.ColumnClicked(column) : PressRow(window, row + 1);
+    const bool list = ListOf(mode).has_value();
+    if (row < 0) {
+        return list
+                   ? ViewAction{.kind = ViewActionKind::SortColumn, .index = static_cast<std::size_t>(column)}
+                   : ViewAction{};
     }
-    if (mode == Mode::Calendar && row >= 0) {
-        window.GoToDate(window.Month.CellDate[CellIndex(row, column)]);
-    } else if (mode == Mode::Events && row >= 0) {
-        PressEvent(window, row + 1);
+    if (list) {
+        return {.kind = ViewActionKind::OpenRow, .row = row + 1, .reveal = true};
     }
+    if (mode == Mode::Calendar) {
+        return {.kind = ViewActionKind::GoToDate, .date = window.Month.CellDate[CellIndex(row, column)]};
+    }
+    return mode == Mode::Events ? ViewAction{.kind = ViewActionKind::OpenEvent,
+                                             .row = row + 1,
+                                             .halfHour = HalfHourOfEvent(row + 1, 0),
+                                             .reveal = true}
+                                : ViewAction{};
 }

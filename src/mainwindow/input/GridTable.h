@@ -2,6 +2,8 @@
 // events of the day, each with the texts that are painted. Rows and columns count from 0 here.
 #pragma once
 
+#include "mainwindow/state/ViewAction.h"
+
 #include <QRect>
 #include <QString>
 
@@ -42,5 +44,5 @@ TableCell CurrentTableCell(const frmMain& window);
 // The cell or title at a point of the grid in pixels; column -1 for none.
 TableCell TableCellAt(const frmMain& window, QPoint point);
 
-// What a click on the cell does; on a title it sorts.
-void PressTableCell(frmMain& window, int row, int column);
+// What a press on the cell asks for; on a title, to sort.
+ViewAction PressOnTableCell(const frmMain& window, int row, int column);

@@ -1,4 +1,6 @@
 // The items that say whether and how the planner starts with the desktop session.
+#include "mainwindow/menus/AutoStart.h"
+
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/menus/StartupShortcut.h"
@@ -12,16 +14,19 @@ std::array<QAction*, StartModes.size()> StartItems(const frmMain& window) {
 
 } // namespace
 
-void frmMain::CheckAutoStartItem(const std::string& word) {
-    const std::array items = StartItems(*this);
+void CheckAutoStartItem(const frmMain& window, const std::string& word) {
+    const std::array items = StartItems(window);
     for (std::size_t i = 0; i < items.size(); ++i) {
         items[i]->setChecked(word == StartModes[i]);
     }
 }
 
-void frmMain::ChooseAutoStart(const std::string& word) {
-    CheckAutoStartItem(word);
-    AutoStart = word;
+namespace {
+
+// Starts with the desktop session from now on as the word says.
+void ChooseAutoStart(frmMain& window, const std::string& word) {
+    CheckAutoStartItem(window, word);
+    window.AutoStart = word;
     if (word == "No") {
         RemoveStartupShortcut();
     } else {
@@ -29,15 +34,18 @@ void frmMain::ChooseAutoStart(const std::string& word) {
     }
 }
 
-void frmMain::BindAutoStart() {
-    const std::array items = StartItems(*this);
+} // namespace
+
+void BindAutoStart(frmMain& window) {
+    const std::array items = StartItems(window);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        connect(items[i], &QAction::triggered, this, [this, item = items[i], i](bool nowChecked) {
-            if (nowChecked) {
-                ChooseAutoStart(std::string(StartModes[i]));
-            } else {
-                item->setChecked(true); // it was chosen already
-            }
-        });
+        QObject::connect(items[i], &QAction::triggered, &window,
+                         [&window, item = items[i], i](bool nowChecked) {
+                             if (nowChecked) {
+                                 ChooseAutoStart(window, std::string(StartModes[i]));
+                             } else {
+                                 item->setChecked(true); // it was chosen already
+                             }
+                         });
     }
 }

@@ -1,8 +1,8 @@
-// The commands of the menu bar, the mode bar and the buttons, bound to their procedures.
-#include "core/Module1.h"
+// The menu bar, the mode bar and the buttons: which command each of them asks for.
+#include "mainwindow/menus/Commands.h"
+
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeTables.h"
-#include "platform/Process.h"
 
 namespace {
 
@@ -20,7 +20,9 @@ void BindModeChoices(frmMain& window) {
     const auto controls = window.AllModeControls();
     for (const ModeRow& row : ModeRows) {
         const ModeControls& mode = RowOf(controls, row.mode);
-        const auto choose = [&window, chosen = row.mode] { window.ChooseMode(chosen); };
+        const auto choose = [&window, chosen = row.mode] {
+            emit window.Asked({.kind = ViewActionKind::ChooseMode, .mode = chosen});
+        };
         BindCheckable(mode.item, choose);
         if (row.mode != Mode::Reminders) {
             QObject::connect(mode.picture, &PictureBox::Clicked, &window, choose);
@@ -31,24 +33,50 @@ void BindModeChoices(frmMain& window) {
     }
 }
 
+template <class Control>
+struct CommandOf {
+    Control* frmMain::*control;
+    Command command;
+};
+
+constexpr std::array<CommandOf<QAction>, 6> ItemCommands{{
+    {&frmMain::MenuNewAssignment, Command::NewAssignment},
+    {&frmMain::MenuNewTask, Command::NewTask},
+    {&frmMain::MenuNewEvent, Command::NewEvent},
+    {&frmMain::MenuClassSchedule, Command::ClassSchedule},
+    {&frmMain::MenuData, Command::OpenDataFolder},
+    {&frmMain::MenuExit, Command::HideWindows},
+}};
+
+constexpr std::array<CommandOf<QToolButton>, 3> SmallButtonCommands{{
+    {&frmMain::ButtonNewAssignmentSmall, Command::NewAssignment},
+    {&frmMain::ButtonNewTaskSmall, Command::NewTask},
+    {&frmMain::ButtonNewEventSmall, Command::NewEvent},
+}};
+
+constexpr std::array<CommandOf<QPushButton>, 4> ButtonCommands{{
+    {&frmMain::ButtonNewAssignment, Command::NewAssignment},
+    {&frmMain::ButtonNewTask, Command::NewTask},
+    {&frmMain::ButtonNewEvent, Command::NewEvent},
+    {&frmMain::ButtonSelectTerm, Command::ClassSchedule},
+}};
+
+template <class Control, std::size_t Count, class Signal>
+void BindControls(frmMain& window, const std::array<CommandOf<Control>, Count>& rows, Signal chosen) {
+    for (const CommandOf<Control>& row : rows) {
+        QObject::connect(window.*row.control, chosen, &window, [&window, command = row.command] {
+            emit window.Asked({.kind = ViewActionKind::RunCommand, .command = command});
+        });
+    }
+}
+
 } // namespace
 
-void frmMain::BindCommands() {
-    BindModeChoices(*this);
-    connect(MenuNewAssignment, &QAction::triggered, this, &frmMain::NewAssignment);
-    connect(MenuNewTask, &QAction::triggered, this, &frmMain::NewTask);
-    connect(MenuNewEvent, &QAction::triggered, this, &frmMain::NewMorningEvent);
-    connect(ButtonNewAssignmentSmall, &QToolButton::clicked, this, &frmMain::NewAssignment);
-    connect(ButtonNewTaskSmall, &QToolButton::clicked, this, &frmMain::NewTask);
-    connect(ButtonNewEventSmall, &QToolButton::clicked, this, &frmMain::NewMorningEvent);
-    connect(ButtonNewAssignment, &QPushButton::clicked, this, &frmMain::NewAssignment);
-    connect(ButtonNewTask, &QPushButton::clicked, this, &frmMain::NewTask);
-    connect(ButtonNewEvent, &QPushButton::clicked, this, &frmMain::NewMorningEvent);
-    connect(MenuClassSchedule, &QAction::triggered, this, &frmMain::ClassSchedule);
-    connect(ButtonSelectTerm, &QPushButton::clicked, this, [this] {
-        ClassSchedule();
-        picGrid->setFocus();
-    });
-    connect(MenuData, &QAction::triggered, this, [] { StartProcess("explorer", {DataFolder.string()}); });
-    connect(MenuExit, &QAction::triggered, this, &frmMain::HideWindows);
+void BindCommands(frmMain& window) {
+    BindModeChoices(window);
+    BindControls(window, ItemCommands, &QAction::triggered);
+    BindControls(window, SmallButtonCommands, &QToolButton::clicked);
+    BindControls(window, ButtonCommands, &QPushButton::clicked);
+    QObject::connect(window.ButtonSelectTerm, &QPushButton::clicked, &window,
+                     [&window] { window.picGrid->setFocus(); }); // behind its command
 }

@@ -1,9 +1,10 @@
-// The menus that are built as they are wanted, and the one procedure that runs their commands.
+// The menus that are built as they are wanted.
+#include "mainwindow/menus/PopupMenus.h"
+
 #include "core/Module1.h"
-#include "core/RowLists.h"
-#include "core/Values.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/menus/PopupCaptions.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "planner/lists/EventSelection.h"
 #include "planner/lists/HomeworkSelection.h"
 #include "planner/lists/RowSorts.h"
@@ -12,38 +13,10 @@
 #include "toolkit/Modal.h"
 #include "toolkit/Text.h"
 
-#include <optional>
+#include <algorithm>
+#include <array>
 
 namespace {
-
-enum class PopupCommand {
-    ShowWindow,
-    Shutdown,
-    SeeCalendar,
-    NewAssignment,
-    SeeHomework,
-    NewTask,
-    SeeTasks,
-    NewEvent,
-    SeeEvents
-};
-
-struct TagCommand {
-    std::string_view tag;
-    PopupCommand command;
-};
-
-constexpr std::array<TagCommand, 9> TagCommands{{
-    {"tray view", PopupCommand::ShowWindow},
-    {"tray shutdown", PopupCommand::Shutdown},
-    {"calendar view", PopupCommand::SeeCalendar},
-    {"homework new", PopupCommand::NewAssignment},
-    {"homework view", PopupCommand::SeeHomework},
-    {"task new", PopupCommand::NewTask},
-    {"task view", PopupCommand::SeeTasks},
-    {"event new", PopupCommand::NewEvent},
-    {"event view", PopupCommand::SeeEvents},
-}};
 
 // The part of an item's caption that begins with its key; no two of them have the same one.
 struct ItemKey {
@@ -70,57 +43,8 @@ void SortBy(frmMain& window, NamedColumn column) {
     window.SortDirection = Ascending;
 }
 
-void OpenWindow(frmMain& window) {
-    if (window.isVisible() && window.isMinimized()) {
-        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    } else {
-        window.show();
-    }
-}
-
-void RunCommand(frmMain& window, PopupCommand command) {
-    switch (command) {
-    case PopupCommand::ShowWindow:
-        return OpenWindow(window);
-    case PopupCommand::Shutdown:
-        return window.Unload();
-    case PopupCommand::SeeCalendar:
-        return window.ShowCalendarMode();
-    case PopupCommand::NewAssignment:
-        return window.NewAssignment();
-    case PopupCommand::SeeHomework:
-        return window.ShowHomeworkMode();
-    case PopupCommand::NewTask:
-        return window.NewTask();
-    case PopupCommand::SeeTasks:
-        return window.ShowTaskMode();
-    case PopupCommand::NewEvent:
-        return window.NewMorningEvent();
-    case PopupCommand::SeeEvents:
-        return window.ShowEventMode();
-    }
-}
-
-void OpenRowOf(frmMain& window, const std::string& subject, int row) {
-    if (subject == "homework") {
-        window.EditAssignment(HomeworkRows.Item(row));
-    } else if (subject == "task") {
-        window.EditTask(TaskRows.Item(row));
-    } else if (subject == "event") {
-        window.EditEvent(EventRows.Item(row));
-    }
-}
-
-// A verb that is none does nothing.
-void RunTag(frmMain& window, const std::string& tag) {
-    const auto* const known = std::ranges::find(TagCommands, tag, &TagCommand::tag);
-    if (known != TagCommands.end()) {
-        return RunCommand(window, known->command);
-    }
-    const std::size_t blank = std::min(tag.find(' '), tag.size());
-    if (const auto row = IdIn(tag.substr(blank))) {
-        OpenRowOf(window, tag.substr(0, blank), *row);
-    }
+void AskFor(frmMain& window, const PopupItem& item) {
+    emit window.Asked({.kind = ViewActionKind::RunPopupItem, .words = item.tag});
 }
 
 QString KeyedCaption(const PopupItem& item) {
@@ -132,7 +56,7 @@ QString KeyedCaption(const PopupItem& item) {
     return FromStore(item.caption.substr(0, at) + "&" + item.caption.substr(at));
 }
 
-// Shows the items where the last click or key wants them, and runs the one that is chosen.
+// Shows the items where the last click or key wants them, and asks for the one that is chosen.
 void ShowPopup(frmMain& window, const PopupItems& items) {
     window.mnuPopupItems = items;
     QMenu& menu = *window.mnuPopup;
@@ -147,70 +71,84 @@ void ShowPopup(frmMain& window, const PopupItems& items) {
     DropDoubleClick();
     const QAction* chosen = menu.exec(window.PopupPoint);
     if (chosen != nullptr && !ShuttingDown) {
-        window.RunPopupCommand(chosen->data().toInt());
+        RunPopupCommand(window, chosen->data().toInt());
     }
 }
 
 } // namespace
 
-void frmMain::ShowCalendarMenu() {
-    ShowPopup(*this, CalendarMenuItems());
+void ShowCalendarMenu(frmMain& window) {
+    ShowPopup(window, CalendarMenuItems());
 }
 
-void frmMain::ShowHomeworkListMenu() {
-    ShowPopup(*this, HomeworkListMenuItems());
+void ShowHomeworkListMenu(frmMain& window) {
+    ShowPopup(window, HomeworkListMenuItems());
 }
 
-void frmMain::ShowEventListMenu() {
-    ShowPopup(*this, EventListMenuItems());
+void ShowEventListMenu(frmMain& window) {
+    ShowPopup(window, EventListMenuItems());
 }
 
-void frmMain::ShowTaskListMenu() {
-    ShowPopup(*this, TaskListMenuItems());
+void ShowTaskListMenu(frmMain& window) {
+    ShowPopup(window, TaskListMenuItems());
 }
 
-void frmMain::ShowHomeworkDayMenu() {
-    HomeworkDayList(ClickedDate, CurrentFilter());
-    SortBy(*this, HomeworkColumn::Done);
-    SortHomeworkRows(CurrentSort());
-    ShowPopup(*this, HomeworkDayMenuItems());
-}
-
-void frmMain::ShowTaskDayMenu() {
-    SelectTasksForDay(ClickedDate);
-    SortBy(*this, TaskColumn::Done);
-    SortTaskRows(CurrentSort());
-    ShowPopup(*this, TaskDayMenuItems());
-}
-
-void frmMain::ShowEventDayMenu() {
-    SelectEventsForDay(ClickedDate, CurrentFilter());
-    SortBy(*this, EventColumn::Time);
-    SortEventRows(CurrentSort());
-    ShowPopup(*this, EventDayMenuItems());
-}
-
-void frmMain::ShowDayMenu(CalendarIcon icon) {
-    switch (icon) {
-    case CalendarIcon::Homework:
-        return ShowHomeworkDayMenu();
-    case CalendarIcon::Tasks:
-        return ShowTaskDayMenu();
-    case CalendarIcon::Events:
-        return ShowEventDayMenu();
+void ShowListMenu(frmMain& window) {
+    switch (RowOf(ModeRows, window.CurrentMode()).listMenu) {
+    case ListMenu::Homework:
+        return ShowHomeworkListMenu(window);
+    case ListMenu::Tasks:
+        return ShowTaskListMenu(window);
+    case ListMenu::Events:
+        return ShowEventListMenu(window);
+    case ListMenu::None:
+        return;
     }
 }
 
-void frmMain::ShowTrayMenu() {
-    TrayItems = ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(isVisible() && !isMinimized());
+void ShowHomeworkDayMenu(frmMain& window) {
+    HomeworkDayList(window.ClickedDate, window.CurrentFilter());
+    SortBy(window, HomeworkColumn::Done);
+    SortHomeworkRows(window.CurrentSort());
+    ShowPopup(window, HomeworkDayMenuItems());
 }
 
-void frmMain::RunPopupCommand(int index) {
-    RunTag(*this, mnuPopupItems.at(static_cast<std::size_t>(index)).tag);
+void ShowTaskDayMenu(frmMain& window) {
+    SelectTasksForDay(window.ClickedDate);
+    SortBy(window, TaskColumn::Done);
+    SortTaskRows(window.CurrentSort());
+    ShowPopup(window, TaskDayMenuItems());
 }
 
-void frmMain::RunTrayCommand(int index) {
+void ShowEventDayMenu(frmMain& window) {
+    SelectEventsForDay(window.ClickedDate, window.CurrentFilter());
+    SortBy(window, EventColumn::Time);
+    SortEventRows(window.CurrentSort());
+    ShowPopup(window, EventDayMenuItems());
+}
+
+void ShowDayMenu(frmMain& window, CalendarIcon icon) {
+    switch (icon) {
+    case CalendarIcon::Homework:
+        return ShowHomeworkDayMenu(window);
+    case CalendarIcon::Tasks:
+        return ShowTaskDayMenu(window);
+    case CalendarIcon::Events:
+        return ShowEventDayMenu(window);
+    }
+}
+
+void ShowTrayMenu(frmMain& window) {
+    window.TrayItems =
+        ModalDialogIsOpen() ? PopupItems{} : TrayMenuItems(window.isVisible() && !window.isMinimized());
+}
+
+void RunPopupCommand(frmMain& window, int index) {
+    AskFor(window, window.mnuPopupItems.at(static_cast<std::size_t>(index)));
+}
+
+void RunTrayCommand(frmMain& window, int index) {
     if (!ModalDialogIsOpen()) {
-        RunTag(*this, TrayItems.at(static_cast<std::size_t>(index)).tag);
+        AskFor(window, window.TrayItems.at(static_cast<std::size_t>(index)));
     }
 }

@@ -1,4 +1,6 @@
 // The dark bar of the modes under the menu bar: a picture and a word for each.
+#include "mainwindow/modes/ModeBar.h"
+
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeBarEntry.h"
 #include "mainwindow/modes/ModeTables.h"
@@ -39,36 +41,37 @@ ModeBarEntry* Entry(PictureBox* picture, ClickLabel* word, const char* tip, cons
     return entry;
 }
 
-} // namespace
-
-void frmMain::MakeModeBarParts() {
+void MakeModeBarParts(frmMain& window) {
     for (PictureBox** picture :
-         {&PictureBarCalendar, &PictureBarHomework, &PictureBarStudySessions, &PictureBarEvents,
-          &PictureBarTasks, &PictureBarReminders, &PictureBarWeb, &picHelp}) {
+         {&window.PictureBarCalendar, &window.PictureBarHomework, &window.PictureBarStudySessions,
+          &window.PictureBarEvents, &window.PictureBarTasks, &window.PictureBarReminders,
+          &window.PictureBarWeb, &window.picHelp}) {
         *picture = BarPicture();
     }
-    PictureBarWeb->ShowPicture(QStringLiteral("picBarWeb.svg"));
-    picHelp->ShowPicture(QStringLiteral("picHelp.svg"));
-    DescribeAs(picHelp, QAccessible::Button);
-    picHelp->setAccessibleName(QStringLiteral("Help"));
-    LabelBarCalendar = BarLabel("Calendar", QAccessible::PageTab);
-    LabelBarHomework = BarLabel("Homework", QAccessible::PageTab);
-    LabelBarEvents = BarLabel("Events", QAccessible::PageTab);
-    LabelBarTasks = BarLabel("Tasks", QAccessible::PageTab);
-    LabelBarReminders = BarLabel("Reminders", QAccessible::Button);
-    LabelBarWeb = BarLabel("Homework Help", QAccessible::Button);
-    BarEntries = {
-        Entry(PictureBarHomework, LabelBarHomework, "Homework", MenuHomework),
-        Entry(PictureBarCalendar, LabelBarCalendar, "Calendar", MenuCalendar),
-        Entry(PictureBarStudySessions, nullptr, "Study Sessions", MenuStudySessions),
-        Entry(PictureBarTasks, LabelBarTasks, "Tasks", MenuTasks),
-        Entry(PictureBarEvents, LabelBarEvents, "Events", MenuEvents),
-        Entry(PictureBarReminders, LabelBarReminders, "Reminders", MenuPopupReminders),
+    window.PictureBarWeb->ShowPicture(QStringLiteral("picBarWeb.svg"));
+    window.picHelp->ShowPicture(QStringLiteral("picHelp.svg"));
+    DescribeAs(window.picHelp, QAccessible::Button);
+    window.picHelp->setAccessibleName(QStringLiteral("Help"));
+    window.LabelBarCalendar = BarLabel("Calendar", QAccessible::PageTab);
+    window.LabelBarHomework = BarLabel("Homework", QAccessible::PageTab);
+    window.LabelBarEvents = BarLabel("Events", QAccessible::PageTab);
+    window.LabelBarTasks = BarLabel("Tasks", QAccessible::PageTab);
+    window.LabelBarReminders = BarLabel("Reminders", QAccessible::Button);
+    window.LabelBarWeb = BarLabel("Homework Help", QAccessible::Button);
+    window.BarEntries = {
+        Entry(window.PictureBarHomework, window.LabelBarHomework, "Homework", window.MenuHomework),
+        Entry(window.PictureBarCalendar, window.LabelBarCalendar, "Calendar", window.MenuCalendar),
+        Entry(window.PictureBarStudySessions, nullptr, "Study Sessions", window.MenuStudySessions),
+        Entry(window.PictureBarTasks, window.LabelBarTasks, "Tasks", window.MenuTasks),
+        Entry(window.PictureBarEvents, window.LabelBarEvents, "Events", window.MenuEvents),
+        Entry(window.PictureBarReminders, window.LabelBarReminders, "Reminders", window.MenuPopupReminders),
     };
 }
 
-QWidget* frmMain::BuildModeBar() {
-    MakeModeBarParts();
+} // namespace
+
+QWidget* BuildModeBar(frmMain& window) {
+    MakeModeBarParts(window);
     auto* bar = new QWidget;
     bar->setFixedHeight(BarHeight);
     bar->setAutoFillBackground(true);
@@ -78,12 +81,13 @@ QWidget* frmMain::BuildModeBar() {
     row->setSpacing(GapBetweenEntries);
     for (const Mode mode :
          {Mode::Calendar, Mode::Homework, Mode::Events, Mode::Tasks, Mode::Reminders, Mode::StudySessions}) {
-        row->addWidget(RowOf(BarEntries, mode));
+        row->addWidget(RowOf(window.BarEntries, mode));
     }
-    PictureBarStudySessions->hide();
-    RowOf(BarEntries, Mode::StudySessions)->hide();
+    window.PictureBarStudySessions->hide();
+    RowOf(window.BarEntries, Mode::StudySessions)->hide();
     row->addStretch(1);
-    row->addWidget(Entry(PictureBarWeb, LabelBarWeb, "Online Homework Help", MenuHomeworkHelp));
-    row->addWidget(Entry(picHelp, nullptr, "Help", MenuHelpDB));
+    row->addWidget(
+        Entry(window.PictureBarWeb, window.LabelBarWeb, "Online Homework Help", window.MenuHomeworkHelp));
+    row->addWidget(Entry(window.picHelp, nullptr, "Help", window.MenuHelpDB));
     return bar;
 }

@@ -1,6 +1,7 @@
 // What each mode says, shows, enables and offers, and the steps of a refresh: tables of one row a mode.
 #pragma once
 
+#include "mainwindow/state/Command.h"
 #include "mainwindow/state/Mode.h"
 #include "planner/lists/RowSorts.h"
 
@@ -10,23 +11,31 @@
 // What a mode entry does to a control.
 enum class Turn { Kept, Off, On };
 
+// The context menu of a list.
+enum class ListMenu { None, Homework, Tasks, Events };
+
 struct ModeRow {
     Mode mode;
     std::string_view caption;             // the status bar's left text
     int gridTopic, rangeTopic, listTopic; // help topics of the list and of the two filter menus; 0 is kept
     NamedColumn firstSort;                // none keeps the sort as it is
     bool leavesCalendar;                  // Calendar stays checked, and the mode bar's words as they are
+    ListMenu listMenu;                    // by a right click on the list
+    Command behindRows;                   // by a click behind the last row
 };
 
 // Study Sessions and Reminders leave Calendar alone: entered from it both are checked, and the window counts
 // as in Calendar mode, as is meant.
 inline constexpr std::array<ModeRow, ModeCount> ModeRows{{
-    {Mode::Homework, "Homework Mode", 153, 112, 114, HomeworkColumn::Done, false},
-    {Mode::Calendar, "Calendar Mode", 154, 0, 0, {}, false},
-    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, StudyColumn::DoneOn, true},
-    {Mode::Tasks, "Task Mode", 156, 113, 115, TaskColumn::Day, false},
-    {Mode::Events, "Event Mode", 155, 0, 0, EventColumn::Day, false},
-    {Mode::Reminders, "Today's Reminders", 0, 0, 0, ReminderColumn::When, true},
+    {Mode::Homework, "Homework Mode", 153, 112, 114, HomeworkColumn::Done, false, ListMenu::Homework,
+     Command::NewAssignment},
+    {Mode::Calendar, "Calendar Mode", 154, 0, 0, {}, false, ListMenu::None, Command::None},
+    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, StudyColumn::DoneOn, true, ListMenu::None,
+     Command::None},
+    {Mode::Tasks, "Task Mode", 156, 113, 115, TaskColumn::Day, false, ListMenu::Tasks, Command::NewTask},
+    {Mode::Events, "Event Mode", 155, 0, 0, EventColumn::Day, false, ListMenu::Events, Command::None},
+    {Mode::Reminders, "Today's Reminders", 0, 0, 0, ReminderColumn::When, true, ListMenu::None,
+     Command::None},
 }};
 
 struct PanelRow {

@@ -1,7 +1,10 @@
 // The mode entries: what each mode checks, shows and hides.
+#include "mainwindow/modes/Modes.h"
+
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeBarEntry.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "mainwindow/modes/ViewMenus.h"
 #include "toolkit/HelpTopics.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
@@ -184,62 +187,67 @@ Mode frmMain::CurrentMode() const {
     return Mode::None;
 }
 
-void frmMain::EnterMode(Mode mode) {
+namespace {
+
+// The entry that all six share.
+void EnterMode(frmMain& window, Mode mode) {
     const ModeRow& row = RowOf(ModeRows, mode);
-    const QWidget* focused = focusWidget();
-    ChangingMode = true;
-    SaveViewMenus();
-    SetTopics(*this, row);
-    CheckMode(*this, row);
-    EnableEditItems(*this, RowOf(EditMenuRows, mode));
-    TurnExportItems(*this, RowOf(ExportRows, mode));
-    TurnPanels(*this, RowOf(PanelRows, mode));
-    TurnNewButtons(*this, RowOf(NewButtonRows, mode));
-    FillViewMenus(mode);
-    ShowCounters(*this, RowOf(CounterRows, mode));
-    ModeCaption = row.caption;
-    PaintStatusBar();
+    const QWidget* focused = window.focusWidget();
+    window.ChangingMode = true;
+    SaveViewMenus(window);
+    SetTopics(window, row);
+    CheckMode(window, row);
+    EnableEditItems(window, RowOf(EditMenuRows, mode));
+    TurnExportItems(window, RowOf(ExportRows, mode));
+    TurnPanels(window, RowOf(PanelRows, mode));
+    TurnNewButtons(window, RowOf(NewButtonRows, mode));
+    FillViewMenus(window, mode);
+    ShowCounters(window, RowOf(CounterRows, mode));
+    window.ModeCaption = row.caption;
+    window.PaintStatusBar();
     if (row.firstSort.number != 0) {
-        SortColumn = row.firstSort.number;
-        SortDirection = Ascending;
+        window.SortColumn = row.firstSort.number;
+        window.SortDirection = Ascending;
     }
-    CurrentRow = 0; // the keys stand nowhere yet
-    CurrentHalfHour = -1;
-    CurrentEvent = 0;
-    ChangingMode = false;
-    RefreshFor(ReasonModeChange);
-    picLock->setVisible(mode == Mode::Reminders);
-    if (focused != nullptr && !focused->isVisibleTo(this)) {
-        picGrid->setFocus(); // and not whatever control comes next
+    window.CurrentRow = 0; // the keys stand nowhere yet
+    window.CurrentHalfHour = -1;
+    window.CurrentEvent = 0;
+    window.ChangingMode = false;
+    window.RefreshFor(ReasonModeChange);
+    window.picLock->setVisible(mode == Mode::Reminders);
+    if (focused != nullptr && !focused->isVisibleTo(&window)) {
+        window.picGrid->setFocus(); // and not whatever control comes next
     }
 }
 
-void frmMain::ShowCalendarMode() {
-    EnterMode(Mode::Calendar);
+} // namespace
+
+void ShowCalendarMode(frmMain& window) {
+    EnterMode(window, Mode::Calendar);
 }
 
-void frmMain::ShowHomeworkMode() {
-    EnterMode(Mode::Homework);
+void ShowHomeworkMode(frmMain& window) {
+    EnterMode(window, Mode::Homework);
 }
 
-void frmMain::ShowStudySessionsMode() {
-    EnterMode(Mode::StudySessions);
+void ShowStudySessionsMode(frmMain& window) {
+    EnterMode(window, Mode::StudySessions);
 }
 
-void frmMain::ShowTaskMode() {
-    EnterMode(Mode::Tasks);
+void ShowTaskMode(frmMain& window) {
+    EnterMode(window, Mode::Tasks);
 }
 
-void frmMain::ShowEventMode() {
-    EnterMode(Mode::Events);
+void ShowEventMode(frmMain& window) {
+    EnterMode(window, Mode::Events);
 }
 
-void frmMain::ShowReminderMode() {
-    EnterMode(Mode::Reminders);
+void ShowReminderMode(frmMain& window) {
+    EnterMode(window, Mode::Reminders);
 }
 
-void frmMain::ChooseMode(Mode mode) {
-    if (!RowOf(AllModeControls(), mode).item->isChecked()) {
-        EnterMode(mode);
+void ChooseMode(frmMain& window, Mode mode) {
+    if (!RowOf(window.AllModeControls(), mode).item->isChecked()) {
+        EnterMode(window, mode);
     }
 }

@@ -1,4 +1,6 @@
 // The filter menus, and the filters kept from mode to mode.
+#include "mainwindow/modes/ViewMenus.h"
+
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeTables.h"
@@ -33,62 +35,62 @@ void FillMenu(QComboBox* menu, const std::array<std::string_view, 4>& items) {
     }
 }
 
+void PaintViewMenus(const frmMain& window) {
+    if (const auto color = ViewMenuColor(ToStore(window.ComboList->currentText()))) {
+        SetColor(window.PictureBoxViewMenus, QPalette::Window, *color);
+    }
+}
+
+void RestoreViewMenus(const frmMain& window) {
+    if (const ChosenFilter* filter = FilterOfCheckedMode(window)) {
+        window.ComboList->setCurrentText(FromStore(filter->list));
+        window.ComboDateRange->setCurrentText(FromStore(filter->range));
+    }
+    PaintViewMenus(window);
+}
+
 } // namespace
 
-void frmMain::InitViewMenus() {
+void InitViewMenus() {
     for (std::size_t i = 0; i < FilterRows.size(); ++i) {
         ChosenFilters[i] = {std::string(FilterRows[i].startList), std::string(FilterRows[i].startRange)};
     }
 }
 
-void frmMain::SaveViewMenus() {
+void SaveViewMenus(const frmMain& window) {
     if (StartupComplete) {
         StartupComplete = false; // the menus are still empty
         return;
     }
-    if (ChosenFilter* filter = FilterOfCheckedMode(*this)) {
-        *filter = {ToStore(ComboList->currentText()), ToStore(ComboDateRange->currentText())};
+    if (ChosenFilter* filter = FilterOfCheckedMode(window)) {
+        *filter = {ToStore(window.ComboList->currentText()), ToStore(window.ComboDateRange->currentText())};
     }
 }
 
-void frmMain::RestoreViewMenus() {
-    if (const ChosenFilter* filter = FilterOfCheckedMode(*this)) {
-        ComboList->setCurrentText(FromStore(filter->list));
-        ComboDateRange->setCurrentText(FromStore(filter->range));
-    }
-    PaintViewMenus();
-}
-
-void frmMain::PaintViewMenus() {
-    if (const auto color = ViewMenuColor(ToStore(ComboList->currentText()))) {
-        SetColor(PictureBoxViewMenus, QPalette::Window, *color);
-    }
-}
-
-void frmMain::FillViewMenus(Mode mode) {
+void FillViewMenus(frmMain& window, Mode mode) {
     const auto* const row = std::ranges::find(FilterRows, mode, &FilterRow::mode);
     if (row == FilterRows.end()) {
         return;
     }
-    FillMenu(ComboList, row->list);
-    FillMenu(ComboDateRange, row->range);
-    RestoreViewMenus();
+    FillMenu(window.ComboList, row->list);
+    FillMenu(window.ComboDateRange, row->range);
+    RestoreViewMenus(window);
 }
 
-void frmMain::BindViewMenus() {
+void BindViewMenus(frmMain& window) {
     // The menus also tell of what the program itself puts into them: a mode entry, and a refresh under way,
     // are not the student's choice.
-    const auto chosen = [this] {
-        if (!MenuCalendar->isChecked() && !MenuEvents->isChecked() && !ChangingMode &&
-            RefreshReason == ReasonNone) {
-            RefreshFor(ReasonViewChange);
+    const auto chosen = [&window] {
+        if (!window.MenuCalendar->isChecked() && !window.MenuEvents->isChecked() && !window.ChangingMode &&
+            window.RefreshReason == ReasonNone) {
+            emit window.Asked({.kind = ViewActionKind::ChooseFilter});
         }
     };
-    connect(ComboList, &QComboBox::currentIndexChanged, this, [this, chosen] {
-        PaintViewMenus();
+    QObject::connect(window.ComboList, &QComboBox::currentIndexChanged, &window, [&window, chosen] {
+        PaintViewMenus(window);
         chosen();
     });
-    connect(ComboDateRange, &QComboBox::currentIndexChanged, this, chosen);
+    QObject::connect(window.ComboDateRange, &QComboBox::currentIndexChanged, &window, chosen);
 }
 
 ListFilter frmMain::CurrentFilter() const {

@@ -1,5 +1,7 @@
 // The controls of the small calendar: days, steppers held down, today and tomorrow, the first day of the
 // week. In Reminders mode none of them reacts.
+#include "mainwindow/panels/CalendarSteps.h"
+
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
 #include "toolkit/Modal.h"
@@ -57,99 +59,106 @@ void ShowStepper(const frmMain& window, const Stepper& stepper, const char* stat
     (window.*stepper.box)->ShowPicture(QLatin1String(stepper.picture) + QLatin1String(state));
 }
 
-} // namespace
+// Asks for the date of an entry of CellDate.
+void GoToEntry(frmMain& window, std::size_t entry) {
+    if (!window.MenuReminders->isChecked()) {
+        emit window.Asked({.kind = ViewActionKind::GoToDate, .date = window.Month.CellDate[entry]});
+    }
+}
 
-void frmMain::BindCalendar() {
-    TimerButton = new QTimer(this);
-    TimerButton->setInterval(RepeatMilliseconds);
-    connect(TimerButton, &QTimer::timeout, this, &frmMain::StepperTick);
+void AskForStartDay(frmMain& window, std::string_view day) {
+    emit window.Asked({.kind = ViewActionKind::ChooseStartDay, .words = std::string(day)});
+}
+
+// --- The steppers, which repeat while they are held ---
+
+void PressStepper(frmMain& window, std::size_t index) {
+    if (window.MenuReminders->isChecked()) {
+        return;
+    }
+    ShowStepper(window, Steppers[index], "Down.svg");
+    window.StepperHeld = true;
+    window.HeldStepper = index;
+    GoToEntry(window, Steppers[index].entry);
+    window.TimerButton->start();
+}
+
+void ReleaseStepper(frmMain& window) {
+    window.StepperHeld = false;
+    window.TimerButton->stop();
+    ShowStepper(window, Steppers[window.HeldStepper], "Up.svg");
+}
+
+void StepperTick(frmMain& window) {
+    if (!window.StepperHeld) {
+        return;
+    }
+    if (ModalDialogIsOpen() || !window.isVisible()) { // the release of the button is not told to this window
+        ReleaseStepper(window);
+        return;
+    }
+    GoToEntry(window, Steppers[window.HeldStepper].entry);
+}
+
+void BindSteppers(frmMain& window) {
+    window.TimerButton = new QTimer(&window);
+    window.TimerButton->setInterval(RepeatMilliseconds);
+    QObject::connect(window.TimerButton, &QTimer::timeout, &window, [&window] { StepperTick(window); });
     for (std::size_t index = 0; index < Steppers.size(); ++index) {
-        const PictureBox* box = this->*Steppers[index].box;
-        ShowStepper(*this, Steppers[index], "Up.svg");
-        connect(box, &PictureBox::Pressed, this, [this, index](int, int, Qt::MouseButton button) {
-            if (button == Qt::LeftButton) {
-                PressStepper(index);
-            }
-        });
-        connect(box, &PictureBox::Released, this, &frmMain::ReleaseStepper);
+        const PictureBox* box = window.*Steppers[index].box;
+        ShowStepper(window, Steppers[index], "Up.svg");
+        QObject::connect(box, &PictureBox::Pressed, &window,
+                         [&window, index](int, int, Qt::MouseButton button) {
+                             if (button == Qt::LeftButton) {
+                                 PressStepper(window, index);
+                             }
+                         });
+        QObject::connect(box, &PictureBox::Released, &window, [&window] { ReleaseStepper(window); });
     }
-    for (std::size_t cell = 0; cell < LabelCalDate.size(); ++cell) {
-        connect(LabelCalDate[cell], &ClickLabel::Clicked, this, [this, cell] { GoToEntry(cell); });
-    }
-    connect(LabelToday, &ClickLabel::Clicked, this, [this] { GoToEntry(TodayEntry); });
-    connect(LabelTomorrow, &ClickLabel::Clicked, this, [this] { GoToEntry(TomorrowEntry); });
-    for (ClickLabel* head : LabelCalDay) {
-        connect(head, &ClickLabel::Clicked, this, [this, head] {
+}
+
+void BindDay(frmMain& window, const ClickLabel* label, std::size_t entry) {
+    QObject::connect(label, &ClickLabel::Clicked, &window, [&window, entry] { GoToEntry(window, entry); });
+}
+
+void BindStartDays(frmMain& window) {
+    for (ClickLabel* head : window.LabelCalDay) {
+        QObject::connect(head, &ClickLabel::Clicked, &window, [&window, head] {
             const std::string day = ToStore(head->property(HeadTag).toString());
-            if (!MenuReminders->isChecked() && IsStartDay(day)) {
-                ChooseStartDayOfWeek(day);
+            if (!window.MenuReminders->isChecked() && IsStartDay(day)) {
+                AskForStartDay(window, day);
             }
         });
     }
-    auto* startDays = new QActionGroup(this); // one of them is checked at a time
-    const std::array items = StartDayItems(*this);
+    auto* startDays = new QActionGroup(&window); // one of them is checked at a time
+    const std::array items = StartDayItems(window);
     for (std::size_t i = 0; i < items.size(); ++i) {
         startDays->addAction(items[i]);
-        connect(items[i], &QAction::triggered, this,
-                [this, i] { ChooseStartDayOfWeek(std::string(StartDays[i])); });
+        QObject::connect(items[i], &QAction::triggered, &window,
+                         [&window, i] { AskForStartDay(window, StartDays[i]); });
     }
 }
 
-void frmMain::PressStepper(std::size_t index) {
-    if (MenuReminders->isChecked()) {
-        return;
+} // namespace
+
+void BindCalendar(frmMain& window) {
+    BindSteppers(window);
+    for (std::size_t cell = 0; cell < window.LabelCalDate.size(); ++cell) {
+        BindDay(window, window.LabelCalDate[cell], cell);
     }
-    ShowStepper(*this, Steppers[index], "Down.svg");
-    StepperHeld = true;
-    HeldStepper = index;
-    GoToEntry(Steppers[index].entry);
-    TimerButton->start();
+    BindDay(window, window.LabelToday, TodayEntry);
+    BindDay(window, window.LabelTomorrow, TomorrowEntry);
+    BindStartDays(window);
 }
 
-void frmMain::StepperTick() {
-    if (!StepperHeld) {
-        return;
-    }
-    if (ModalDialogIsOpen() || !isVisible()) { // the release of the button is not told to this window
-        ReleaseStepper();
-        return;
-    }
-    GoToEntry(Steppers[HeldStepper].entry);
-}
-
-void frmMain::ReleaseStepper() {
-    StepperHeld = false;
-    TimerButton->stop();
-    ShowStepper(*this, Steppers[HeldStepper], "Up.svg");
-}
-
-void frmMain::GoToEntry(std::size_t entry) {
-    if (!MenuReminders->isChecked()) {
-        GoToDate(Month.CellDate[entry]);
-    }
-}
-
-void frmMain::GoToDate(Date date) {
-    ClickedDate = date;
-    RefreshFor(ReasonCalendar);
-}
-
-void frmMain::ChooseStartDayOfWeek(const std::string& day) {
-    if (day != StartDayOfWeek) {
-        StartDayOfWeek = day;
-        ApplyStartDayOfWeek();
-    }
-}
-
-void frmMain::ApplyStartDayOfWeek() {
-    const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(StartDayOfWeek);
+void ShowStartDayOfWeek(frmMain& window) {
+    const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(window.StartDayOfWeek);
     for (std::size_t column = 0; column < heads.size(); ++column) {
-        const bool first = heads[column] == StartDayOfWeek;
-        PaintHead(LabelCalDay[column], heads[column], IsStartDay(heads[column]) && !first);
+        const bool first = heads[column] == window.StartDayOfWeek;
+        PaintHead(window.LabelCalDay[column], heads[column], IsStartDay(heads[column]) && !first);
     }
-    const std::array items = StartDayItems(*this);
+    const std::array items = StartDayItems(window);
     for (std::size_t i = 0; i < items.size(); ++i) {
-        items[i]->setChecked(StartDays[i] == StartDayOfWeek);
+        items[i]->setChecked(StartDays[i] == window.StartDayOfWeek);
     }
-    RefreshFor(ReasonStartDayOfWeek);
 }

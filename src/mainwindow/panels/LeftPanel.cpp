@@ -1,5 +1,7 @@
 // The left panel: the small calendar, the buttons for new records, the panels of the modes, the alerts, the
 // timer.
+#include "mainwindow/panels/LeftPanel.h"
+
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/ModeTables.h"
 #include "planner/rows/Colors.h"
@@ -107,76 +109,55 @@ QString AlertButtonStyle() {
              ToQColor(AccentColor).name());
 }
 
-} // namespace
-
-QWidget* frmMain::BuildLeftPanel() {
-    auto* panel = new QWidget;
-    panel->setFixedWidth(LeftPanelWidth);
-    auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(0, 0, 0, PanelMargin);
-    column->setSpacing(PanelGap);
-    column->addWidget(BuildSmallCalendar());
-    column->addWidget(BuildNewButtons());
-    column->addWidget(BuildTermPanel());
-    column->addWidget(BuildViewMenusPanel());
-    for (QWidget* mode : BuildModePanels()) {
-        column->addWidget(mode);
-    }
-    column->addWidget(BuildCounters());
-    column->addWidget(BuildAlerts());
-    column->addStretch(1);
-    column->addWidget(BuildTimerPanel());
-    return panel;
-}
-
-QWidget* frmMain::BuildSmallCalendar() {
+QWidget* BuildSmallCalendar(frmMain& window) {
     QFrame* ground = Panel(); // white, as are the days that nothing marks, so that a marked one stands out
     SetColor(ground, QPalette::Window, ColorCell);
-    PictureBoxCalendar = ground;
-    auto* grid = new QGridLayout(PictureBoxCalendar);
+    window.PictureBoxCalendar = ground;
+    auto* grid = new QGridLayout(window.PictureBoxCalendar);
     grid->setContentsMargins(2, 2, 2, 2);
     grid->setSpacing(1);
 
     auto* head = new QHBoxLayout;
-    picCalMonthDown = PictureButton(StepperSize, "One month back", Qt::CTRL | Qt::Key_PageUp);
-    picCalMonthUp = PictureButton(StepperSize, "One month on", Qt::CTRL | Qt::Key_PageDown);
-    LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
-    head->addWidget(picCalMonthDown);
-    head->addWidget(LabelMonth, 1);
-    head->addWidget(picCalMonthUp);
+    window.picCalMonthDown = PictureButton(StepperSize, "One month back", Qt::CTRL | Qt::Key_PageUp);
+    window.picCalMonthUp = PictureButton(StepperSize, "One month on", Qt::CTRL | Qt::Key_PageDown);
+    window.LabelMonth = CentredLabel({DayFont.face, DayFont.points, true});
+    head->addWidget(window.picCalMonthDown);
+    head->addWidget(window.LabelMonth, 1);
+    head->addWidget(window.picCalMonthUp);
     grid->addLayout(head, 0, 0, 1, DaysPerWeek);
 
-    BuildDayLabels(grid, HeadsRow, LabelCalDay, LabelCalDate);
-    LabelCalTileBorder = new TileBorder(PictureBoxCalendar);
+    BuildDayLabels(grid, HeadsRow, window.LabelCalDay, window.LabelCalDate);
+    window.LabelCalTileBorder = new TileBorder(window.PictureBoxCalendar);
 
     auto* days = new QHBoxLayout;
     days->setContentsMargins(0, GapAboveToday, 0, 0);
     const QSize buttonSize{LeftPanelWidth / 2 - 6, TodayHeight};
-    picToday = DayButton("Today", buttonSize, LabelToday);
-    picTomorrow = DayButton("Tomorrow", buttonSize, LabelTomorrow);
-    LabelToday->setToolTip(TipWithKey(QStringLiteral("Go to today"), Qt::CTRL | Qt::Key_Home));
-    LabelTomorrow->setToolTip(TipWithKey(QStringLiteral("Go to tomorrow"), Qt::CTRL | Qt::Key_End));
-    for (ClickLabel* label : {LabelToday, LabelTomorrow}) {
+    window.picToday = DayButton("Today", buttonSize, window.LabelToday);
+    window.picTomorrow = DayButton("Tomorrow", buttonSize, window.LabelTomorrow);
+    window.LabelToday->setToolTip(TipWithKey(QStringLiteral("Go to today"), Qt::CTRL | Qt::Key_Home));
+    window.LabelTomorrow->setToolTip(TipWithKey(QStringLiteral("Go to tomorrow"), Qt::CTRL | Qt::Key_End));
+    for (ClickLabel* label : {window.LabelToday, window.LabelTomorrow}) {
         label->setCursor(Qt::PointingHandCursor);
     }
-    days->addWidget(picToday);
-    days->addWidget(picTomorrow);
+    days->addWidget(window.picToday);
+    days->addWidget(window.picTomorrow);
     grid->addLayout(days, TodayRow, 0, 1, DaysPerWeek);
 
-    picLock = new PictureBox;
-    grid->addWidget(picLock, 0, 0, TodayRow + 1, DaysPerWeek); // over all of it
-    picLock->hide();
-    connect(picLock, &PictureBox::Resized, this, [this] { PaintLock(picLock); });
-    return PictureBoxCalendar;
+    window.picLock = new PictureBox;
+    grid->addWidget(window.picLock, 0, 0, TodayRow + 1, DaysPerWeek); // over all of it
+    window.picLock->hide();
+    QObject::connect(window.picLock, &PictureBox::Resized, &window, [&window] { PaintLock(window.picLock); });
+    return window.PictureBoxCalendar;
 }
 
-QWidget* frmMain::BuildNewButtons() {
-    ButtonNewAssignmentSmall = SmallNewButton("ButtonNewAssignmentSmall.svg", MenuNewAssignment);
-    ButtonNewEventSmall = SmallNewButton("ButtonNewEventSmall.svg", MenuNewEvent);
-    ButtonNewTaskSmall = SmallNewButton("ButtonNewTaskSmall.svg", MenuNewTask);
-    ButtonNewAssignment = new QPushButton(QStringLiteral("New Assignment..."));
-    ButtonNewEvent = new QPushButton(QStringLiteral("New Event..."));
-    ButtonNewTask = new QPushButton(QStringLiteral("New Task..."));
+QWidget* BuildNewButtons(frmMain& window) {
+    window.ButtonNewAssignmentSmall =
+        SmallNewButton("ButtonNewAssignmentSmall.svg", window.MenuNewAssignment);
+    window.ButtonNewEventSmall = SmallNewButton("ButtonNewEventSmall.svg", window.MenuNewEvent);
+    window.ButtonNewTaskSmall = SmallNewButton("ButtonNewTaskSmall.svg", window.MenuNewTask);
+    window.ButtonNewAssignment = new QPushButton(QStringLiteral("New Assignment..."));
+    window.ButtonNewEvent = new QPushButton(QStringLiteral("New Event..."));
+    window.ButtonNewTask = new QPushButton(QStringLiteral("New Task..."));
 
     auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
@@ -184,59 +165,60 @@ QWidget* frmMain::BuildNewButtons() {
     column->setSpacing(0);
     auto* small = new QHBoxLayout;
     small->setSpacing(PanelGap);
-    for (QToolButton* button : {ButtonNewAssignmentSmall, ButtonNewEventSmall, ButtonNewTaskSmall}) {
+    for (QToolButton* button :
+         {window.ButtonNewAssignmentSmall, window.ButtonNewEventSmall, window.ButtonNewTaskSmall}) {
         small->addWidget(button);
     }
     small->addStretch(1);
     column->addLayout(small);
-    for (QPushButton* button : {ButtonNewAssignment, ButtonNewEvent, ButtonNewTask}) {
+    for (QPushButton* button : {window.ButtonNewAssignment, window.ButtonNewEvent, window.ButtonNewTask}) {
         button->hide();
         column->addWidget(button);
     }
     return panel;
 }
 
-QWidget* frmMain::BuildTermPanel() {
-    PictureBoxTerm = Panel();
-    auto* column = new QVBoxLayout(PictureBoxTerm);
+QWidget* BuildTermPanel(frmMain& window) {
+    window.PictureBoxTerm = Panel();
+    auto* column = new QVBoxLayout(window.PictureBoxTerm);
     column->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     column->setSpacing(2);
-    LabelTerm = new ElidedLabel;
-    QFont bold = LabelTerm->font();
+    window.LabelTerm = new ElidedLabel;
+    QFont bold = window.LabelTerm->font();
     bold.setBold(true);
-    LabelTerm->setFont(bold);
-    LabelDaysLeft = PlainLabel();
-    ButtonSelectTerm = new QPushButton(QStringLiteral("Edit Class Schedule"));
-    column->addWidget(LabelTerm);
-    column->addWidget(LabelDaysLeft);
-    column->addWidget(ButtonSelectTerm);
-    return PictureBoxTerm;
+    window.LabelTerm->setFont(bold);
+    window.LabelDaysLeft = PlainLabel();
+    window.ButtonSelectTerm = new QPushButton(QStringLiteral("Edit Class Schedule"));
+    column->addWidget(window.LabelTerm);
+    column->addWidget(window.LabelDaysLeft);
+    column->addWidget(window.ButtonSelectTerm);
+    return window.PictureBoxTerm;
 }
 
-QWidget* frmMain::BuildViewMenusPanel() {
-    PictureBoxViewMenus = Panel();
-    auto* grid = new QGridLayout(PictureBoxViewMenus);
+QWidget* BuildViewMenusPanel(frmMain& window) {
+    window.PictureBoxViewMenus = Panel();
+    auto* grid = new QGridLayout(window.PictureBoxViewMenus);
     grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     grid->setSpacing(PanelGap);
-    ComboList = new QComboBox;
-    ComboDateRange = new QComboBox;
-    for (QComboBox* combo : {ComboList, ComboDateRange}) {
+    window.ComboList = new QComboBox;
+    window.ComboDateRange = new QComboBox;
+    for (QComboBox* combo : {window.ComboList, window.ComboDateRange}) {
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(LeastComboCharacters);
     }
     auto* listLabel = PlainLabel(QStringLiteral("List Menu"));
     auto* rangeLabel = PlainLabel(QStringLiteral("Range Menu"));
-    listLabel->setBuddy(ComboList);
-    rangeLabel->setBuddy(ComboDateRange);
+    listLabel->setBuddy(window.ComboList);
+    rangeLabel->setBuddy(window.ComboDateRange);
     grid->addWidget(listLabel, 0, 0);
-    grid->addWidget(ComboList, 0, 1);
+    grid->addWidget(window.ComboList, 0, 1);
     grid->addWidget(rangeLabel, 1, 0);
-    grid->addWidget(ComboDateRange, 1, 1);
+    grid->addWidget(window.ComboDateRange, 1, 1);
     grid->setColumnStretch(1, 1);
-    return PictureBoxViewMenus;
+    return window.PictureBoxViewMenus;
 }
 
-std::array<QWidget*, 3> frmMain::BuildModePanels() {
+std::array<QWidget*, 3> BuildModePanels(frmMain& window) {
     const auto titled = [](const char* title) {
         QFrame* panel = Panel();
         auto* column = new QVBoxLayout(panel);
@@ -244,32 +226,35 @@ std::array<QWidget*, 3> frmMain::BuildModePanels() {
         column->addWidget(PlainLabel(QLatin1String(title)));
         return panel;
     };
-    PictureBoxStudySessions = titled("Study Sessions");
-    PictureBoxReminders = titled("Today's Reminders");
-    PictureBoxStudyTime = Panel();
-    auto* grid = new QGridLayout(PictureBoxStudyTime);
+    window.PictureBoxStudySessions = titled("Study Sessions");
+    window.PictureBoxReminders = titled("Today's Reminders");
+    window.PictureBoxStudyTime = Panel();
+    auto* grid = new QGridLayout(window.PictureBoxStudyTime);
     grid->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     grid->setSpacing(2);
-    TextBoxMinimum = NumberBox(QStringLiteral("Minimum"));
-    TextBoxSuggested = NumberBox(QStringLiteral("Suggested"));
+    window.TextBoxMinimum = NumberBox(QStringLiteral("Minimum"));
+    window.TextBoxSuggested = NumberBox(QStringLiteral("Suggested"));
     grid->addWidget(PlainLabel(QStringLiteral("Study Time Today")), 0, 0, 1, 2);
     grid->addWidget(PlainLabel(QStringLiteral("Minimum:")), 1, 0);
-    grid->addWidget(TextBoxMinimum, 1, 1);
+    grid->addWidget(window.TextBoxMinimum, 1, 1);
     grid->addWidget(PlainLabel(QStringLiteral("Suggested:")), 2, 0);
-    grid->addWidget(TextBoxSuggested, 2, 1);
+    grid->addWidget(window.TextBoxSuggested, 2, 1);
     grid->setColumnStretch(0, 1);
-    return {PictureBoxStudySessions, PictureBoxReminders, PictureBoxStudyTime};
+    return {window.PictureBoxStudySessions, window.PictureBoxReminders, window.PictureBoxStudyTime};
 }
 
 // A counter's row holds its label and one box for each mode that shows it, of which one shows at a time.
-QWidget* frmMain::BuildCounters() {
-    for (QLabel** label : {&LabelTotalAssignments, &LabelFinishedAssignments, &LabelTimeRemaining}) {
+QWidget* BuildCounters(frmMain& window) {
+    for (QLabel** label :
+         {&window.LabelTotalAssignments, &window.LabelFinishedAssignments, &window.LabelTimeRemaining}) {
         *label = PlainLabel();
     }
     for (QLineEdit** box :
-         {&TextBoxTotalAssignments, &TextBoxFinishedAssignments, &TextBoxTimeRemaining, &TextBoxStudySessions,
-          &TextboxStudyTime, &TextBoxTotalTasks, &TextBoxFinishedTasks, &TextBoxUndatedTasks, &TextBoxClasses,
-          &TextBoxOtherEvents, &TextBoxSchedStudy, &TextboxAssignments, &TextBoxTasks, &TextBoxEvents}) {
+         {&window.TextBoxTotalAssignments, &window.TextBoxFinishedAssignments, &window.TextBoxTimeRemaining,
+          &window.TextBoxStudySessions, &window.TextboxStudyTime, &window.TextBoxTotalTasks,
+          &window.TextBoxFinishedTasks, &window.TextBoxUndatedTasks, &window.TextBoxClasses,
+          &window.TextBoxOtherEvents, &window.TextBoxSchedStudy, &window.TextboxAssignments,
+          &window.TextBoxTasks, &window.TextBoxEvents}) {
         *box = NumberBox();
         (*box)->hide();
     }
@@ -279,8 +264,8 @@ QWidget* frmMain::BuildCounters() {
     grid->setContentsMargins(PanelGap, 0, PanelGap, 0);
     grid->setSpacing(2);
     grid->setColumnStretch(0, 1);
-    const auto labels = CounterLabels();
-    const auto controls = AllModeControls();
+    const auto labels = window.CounterLabels();
+    const auto controls = window.AllModeControls();
     for (std::size_t counter = 0; counter < labels.size(); ++counter) {
         grid->addWidget(labels[counter], static_cast<int>(counter), 0);
         for (const CounterRow& row : CounterRows) {
@@ -293,12 +278,12 @@ QWidget* frmMain::BuildCounters() {
     return panel;
 }
 
-QWidget* frmMain::BuildAlerts() {
+QWidget* BuildAlerts(frmMain& window) {
     auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(AlertGap);
-    for (QPushButton*& button : ButtonAlert) {
+    for (QPushButton*& button : window.ButtonAlert) {
         button = new QPushButton(QIcon(QStringLiteral(":/icons/picAlert.svg")), QString());
         button->setStyleSheet(AlertButtonStyle());
         button->setFixedHeight(AlertHeight);
@@ -308,23 +293,45 @@ QWidget* frmMain::BuildAlerts() {
     return panel;
 }
 
-QWidget* frmMain::BuildTimerPanel() {
-    PictureBoxTimer = Panel();
-    auto* row = new QHBoxLayout(PictureBoxTimer);
+QWidget* BuildTimerPanel(frmMain& window) {
+    window.PictureBoxTimer = Panel();
+    auto* row = new QHBoxLayout(window.PictureBoxTimer);
     row->setContentsMargins(PanelGap, PanelGap, PanelGap, PanelGap);
     row->setSpacing(2);
-    picTime = new PictureBox;
-    picTime->setFixedSize(TimeSize);
-    DescribeAs(picTime, QAccessible::Clock);
-    picTime->setAccessibleName(QStringLiteral("Study Timer"));
-    ButtonStart = new QPushButton(QStringLiteral("Start"));
-    ButtonStart->setMinimumWidth(1); // it takes what the panel leaves
-    ButtonStart->setFixedHeight(TimerButtonHeight);
-    ButtonReset = IconButton("picTimerReset.svg", "Reset Study Timer");
-    ButtonSeconds = IconButton("picTimerSeconds.svg", "Show or Hide Seconds");
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{picTime, ButtonStart, ButtonReset, ButtonSeconds}) {
+    window.picTime = new PictureBox;
+    window.picTime->setFixedSize(TimeSize);
+    DescribeAs(window.picTime, QAccessible::Clock);
+    window.picTime->setAccessibleName(QStringLiteral("Study Timer"));
+    window.ButtonStart = new QPushButton(QStringLiteral("Start"));
+    window.ButtonStart->setMinimumWidth(1); // it takes what the panel leaves
+    window.ButtonStart->setFixedHeight(TimerButtonHeight);
+    window.ButtonReset = IconButton("picTimerReset.svg", "Reset Study Timer");
+    window.ButtonSeconds = IconButton("picTimerSeconds.svg", "Show or Hide Seconds");
+    for (QWidget* control : std::initializer_list<QWidget*>{window.picTime, window.ButtonStart,
+                                                            window.ButtonReset, window.ButtonSeconds}) {
         row->addWidget(control);
     }
-    return PictureBoxTimer;
+    return window.PictureBoxTimer;
+}
+
+} // namespace
+
+QWidget* BuildLeftPanel(frmMain& window) {
+    auto* panel = new QWidget;
+    panel->setFixedWidth(LeftPanelWidth);
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, PanelMargin);
+    column->setSpacing(PanelGap);
+    column->addWidget(BuildSmallCalendar(window));
+    column->addWidget(BuildNewButtons(window));
+    column->addWidget(BuildTermPanel(window));
+    column->addWidget(BuildViewMenusPanel(window));
+    for (QWidget* mode : BuildModePanels(window)) {
+        column->addWidget(mode);
+    }
+    column->addWidget(BuildCounters(window));
+    column->addWidget(BuildAlerts(window));
+    column->addStretch(1);
+    column->addWidget(BuildTimerPanel(window));
+    return panel;
 }

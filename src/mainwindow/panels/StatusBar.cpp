@@ -1,4 +1,6 @@
 // The status bar and its clock.
+#include "mainwindow/panels/StatusBar.h"
+
 #include "core/DateText.h"
 #include "mainwindow/frmMain.h"
 #include "platform/Formats.h"
@@ -39,9 +41,9 @@ void frmMain::PaintStatusBar() {
                            clock, TextFont, TextColor);
 }
 
-void frmMain::BindStatusBar() {
-    TimerStatusBar = new QTimer(this);
-    TimerStatusBar->setInterval(TickMilliseconds);
-    connect(TimerStatusBar, &QTimer::timeout, this, &frmMain::PaintStatusBar);
-    connect(picStatusBar, &PictureBox::Resized, this, &frmMain::PaintStatusBar);
+void BindStatusBar(frmMain& window) {
+    window.TimerStatusBar = new QTimer(&window);
+    window.TimerStatusBar->setInterval(TickMilliseconds);
+    QObject::connect(window.TimerStatusBar, &QTimer::timeout, &window, &frmMain::PaintStatusBar);
+    QObject::connect(window.picStatusBar, &PictureBox::Resized, &window, &frmMain::PaintStatusBar);
 }

@@ -1,4 +1,6 @@
 // The study timer: a clock that the student starts, pauses and resets.
+#include "mainwindow/panels/StudyTimer.h"
+
 #include "mainwindow/frmMain.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
@@ -21,38 +23,40 @@ void frmMain::PaintStudyTimer() {
                       Timer1->isActive() ? RunningColor : RestingColor);
 }
 
-void frmMain::ClearStudyTimer() {
-    StudyTimer = {};
-    PaintStudyTimer();
+void ClearStudyTimer(frmMain& window) {
+    window.StudyTimer = {};
+    window.PaintStudyTimer();
 }
 
-void frmMain::BindStudyTimer() {
-    Timer1 = new QTimer(this);
-    Timer1->setInterval(TickMilliseconds);
-    connect(Timer1, &QTimer::timeout, this, [this] {
-        TickTimer(StudyTimer, Now());
-        PaintStudyTimer();
+void BindStudyTimer(frmMain& window) {
+    window.Timer1 = new QTimer(&window);
+    window.Timer1->setInterval(TickMilliseconds);
+    QObject::connect(window.Timer1, &QTimer::timeout, &window, [&window] {
+        TickTimer(window.StudyTimer, Now());
+        window.PaintStudyTimer();
     });
-    connect(ButtonStart, &QPushButton::clicked, this, [this] {
-        const bool starts = !Timer1->isActive();
-        ButtonStart->setText(starts ? QStringLiteral("Pause") : QStringLiteral("Start"));
-        ButtonReset->setEnabled(!starts);
+    QObject::connect(window.ButtonStart, &QPushButton::clicked, &window, [&window] {
+        const bool starts = !window.Timer1->isActive();
+        window.ButtonStart->setText(starts ? QStringLiteral("Pause") : QStringLiteral("Start"));
+        window.ButtonReset->setEnabled(!starts);
         if (starts) {
-            StudyTimer.TimerStart = Now();
-            Timer1->start();
+            window.StudyTimer.TimerStart = Now();
+            window.Timer1->start();
         } else {
-            BankTimer(StudyTimer, Now());
-            Timer1->stop();
+            BankTimer(window.StudyTimer, Now());
+            window.Timer1->stop();
         }
     });
-    connect(ButtonReset, &QPushButton::clicked, this, [this] { ResetTimer(StudyTimer); });
-    connect(ButtonSeconds, &QPushButton::clicked, this,
-            [this] { StudyTimer.ShowSeconds = !StudyTimer.ShowSeconds; });
-    for (QPushButton* button : {ButtonStart, ButtonReset, ButtonSeconds}) { // behind what each does itself
-        connect(button, &QPushButton::clicked, this, [this] {
-            PaintStudyTimer();
-            picGrid->setFocus();
+    QObject::connect(window.ButtonReset, &QPushButton::clicked, &window,
+                     [&window] { ResetTimer(window.StudyTimer); });
+    QObject::connect(window.ButtonSeconds, &QPushButton::clicked, &window,
+                     [&window] { window.StudyTimer.ShowSeconds = !window.StudyTimer.ShowSeconds; });
+    for (QPushButton* button :
+         {window.ButtonStart, window.ButtonReset, window.ButtonSeconds}) { // behind what each does itself
+        QObject::connect(button, &QPushButton::clicked, &window, [&window] {
+            window.PaintStudyTimer();
+            window.picGrid->setFocus();
         });
     }
-    connect(picTime, &PictureBox::Resized, this, &frmMain::PaintStudyTimer);
+    QObject::connect(window.picTime, &PictureBox::Resized, &window, &frmMain::PaintStudyTimer);
 }

@@ -1,5 +1,6 @@
 // The schedule of a day as painted.
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 
@@ -42,7 +43,7 @@ protected:
 } // namespace
 
 TEST_F(DaySchedule, OpensAtTheMorning) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(window->FirstRow, 11);
     EXPECT_EQ(DrawnTexts(*window->picGrid).first(), "5 AM");
     EXPECT_EQ(window->RowCount, 47);
@@ -50,7 +51,7 @@ TEST_F(DaySchedule, OpensAtTheMorning) {
 }
 
 TEST_F(DaySchedule, LabelsAreBoldGreyAndEndInTheirColumn) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const DrawnItem label = TextOf("9 AM");
     EXPECT_EQ(label.color, 0x808080);
     EXPECT_EQ(label.font, Bold);
@@ -59,7 +60,7 @@ TEST_F(DaySchedule, LabelsAreBoldGreyAndEndInTheirColumn) {
 }
 
 TEST_F(DaySchedule, NightRowsAreGreyAndLinesTellHours) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const int width = window->picGrid->WidthInUnits() - 255 - 720;
     const std::vector<UnitRect> night = Filled(0xF2F2F2);
     ASSERT_GE(night.size(), 2U);
@@ -78,7 +79,7 @@ TEST_F(DaySchedule, NightRowsAreGreyAndLinesTellHours) {
 TEST_F(DaySchedule, AnEventIsABoxOfItsColours) {
     ColourFriends();
     AddEventRecord({.time = "09:00 AM", .duration = "1 Hour", .desc = "Chess", .type = "Friends"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const int room = window->picGrid->WidthInUnits() - 705 - 255;
     EXPECT_EQ(Filled(FriendsColor), (std::vector<UnitRect>{{705, 8 * SlotUnits, room, 2 * SlotUnits}}));
     const DrawnItem text = TextOf("Friends - Chess");
@@ -89,7 +90,7 @@ TEST_F(DaySchedule, AnEventIsABoxOfItsColours) {
 
 TEST_F(DaySchedule, ABoxHasABlackFrame) {
     AddEventRecord({});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_TRUE(std::ranges::any_of(window->picGrid->Drawn(), [](const DrawnItem& item) {
         return item.kind == DrawnKind::Frame && item.color == 0 && item.left == 705;
     }));
@@ -99,7 +100,7 @@ TEST_F(DaySchedule, BoxesAtOneTimeStandSideBySide) {
     ColourFriends();
     AddEventRecord({.type = "Friends"});
     AddEventRecord({.type = "Friends"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const std::vector<UnitRect> boxes = Filled(FriendsColor);
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_EQ(boxes[0].top, boxes[1].top);
@@ -110,7 +111,7 @@ TEST_F(DaySchedule, TheTextOfANarrowBoxIsShortened) {
     for (int i = 0; i < 6; ++i) {
         AddEventRecord({.desc = "Something that is far too long for a sixth of the width"});
     }
-    window->ShowEventMode();
+    ShowEventMode(*window);
     for (const DrawnItem& item : window->picGrid->Drawn()) {
         if (item.kind == DrawnKind::Text && item.left > 705) {
             EXPECT_LE(TextWidth(item.text, item.font), EventBoxWidth.Item(1));
@@ -122,7 +123,7 @@ TEST_F(DaySchedule, TheTextOfANarrowBoxIsShortened) {
 TEST_F(DaySchedule, BoxesThatAreScrolledAwayAreNotPainted) {
     AddEventRecord({.time = "01:00 AM", .desc = "Early"});
     AddEventRecord({.time = "11:00 PM", .desc = "Late"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_FALSE(DrawnTexts(*window->picGrid).contains(" Early"));
     EXPECT_FALSE(DrawnTexts(*window->picGrid).contains(" Late"));
     window->VSGridScroll->setValue(1);
@@ -130,13 +131,13 @@ TEST_F(DaySchedule, BoxesThatAreScrolledAwayAreNotPainted) {
 }
 
 TEST_F(DaySchedule, ScrollingToTheEndShowsElevenInTheEvening) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->VSGridScroll->setValue(window->VSGridScroll->maximum());
     EXPECT_TRUE(DrawnTexts(*window->picGrid).contains("11 PM"));
 }
 
 TEST_F(DaySchedule, ATallWindowShowsTheWholeDayAndEmptyRowsBehindIt) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->resize(1000, 1900);
     ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible > 62; }));
     EXPECT_EQ(window->FirstRow, 1);
@@ -148,7 +149,7 @@ TEST_F(DaySchedule, ATallWindowShowsTheWholeDayAndEmptyRowsBehindIt) {
 
 TEST_F(DaySchedule, ClassMeetingsShowTheirClass) {
     AddEventRecord({.desc = "Test", .type = "TermID1-ClassID1"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_TRUE(DrawnTexts(*window->picGrid).contains("Algebra - Test"));
     EXPECT_EQ(Filled(0x112233).size(), 1U);
 }
@@ -156,7 +157,7 @@ TEST_F(DaySchedule, ClassMeetingsShowTheirClass) {
 TEST_F(DaySchedule, OfTwoEventsAtOneTimeTheShorterStandsAtTheLeft) {
     AddEventRecord({.time = "09:00 AM", .duration = "2 Hours", .desc = "Long"});
     AddEventRecord({.time = "09:00 AM", .duration = "30 Minutes", .desc = "Short"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_LT(TextOf(" Short").left, TextOf(" Long").left);
 }
 
@@ -165,7 +166,7 @@ TEST_F(DaySchedule, EventsRunColumnByColumn) {
     AddEventRecord({.time = "09:00 AM", .duration = "45 Minutes", .desc = "B"});
     AddEventRecord(
         {.time = "11:00 AM", .duration = "1 Hour", .desc = "C"}); // longer, and in the first column
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const QStringList texts = DrawnTexts(*window->picGrid).filter(QRegularExpression("^ [ABC]$"));
     EXPECT_EQ(texts, (QStringList{" A", " C", " B"}));
     EXPECT_EQ(TextOf(" A").left, TextOf(" C").left);

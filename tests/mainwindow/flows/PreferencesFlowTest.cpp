@@ -1,6 +1,11 @@
 // The main window put where the preferences say, and its place handed back at the shutdown.
+#include "mainwindow/flows/PreferencesFlow.h"
 #include "core/Module1.h"
 #include "core/TypeTable.h"
+#include "mainwindow/flows/WindowFlow.h"
+#include "mainwindow/frame/BringForward.h"
+#include "mainwindow/frame/Load.h"
+#include "mainwindow/frame/Unload.h"
 #include "support/WindowTest.h"
 
 namespace {
@@ -14,7 +19,7 @@ protected:
 
     // The first lines of Prefs.ini after a shutdown: the state and the four places.
     std::string WrittenPlace() {
-        window->Unload();
+        Unload(*window);
         const std::string text = ReadData("Prefs.ini");
         return text.substr(0, text.find("\n\n"));
     }
@@ -50,7 +55,7 @@ TEST_F(TypesAtTheLoad, HaveTheNamesAndColoursOfThePreferencesAndTheDefaultsBesid
     EXPECT_EQ(TypeTable.forecolor.Item(school), "0");
     EXPECT_EQ(TypeTable.forecolor.Item(TypeRow("Event", "Work")), "65280");
     EXPECT_EQ(TypeTable.customname.Item(TypeRow("Event", "Study Time")), "Study Time");
-    window->Unload();
+    Unload(*window);
     EXPECT_NE(ReadData("Prefs.ini").find("\nTaskCN_School=University\n"), std::string::npos);
 }
 
@@ -99,7 +104,7 @@ TEST_F(WindowPlace, IsWrittenInPixels) {
 
 TEST_F(WindowPlace, OfAHiddenWindowIsWrittenAsItWas) {
     Load("FormMainLocationX=100\nFormMainLocationY=60\nFormMainSizeX=790\nFormMainSizeY=590\n");
-    window->HideWindows();
+    HideWindows(*window);
     EXPECT_EQ(WrittenPlace(), PlaceLines("0", {"100", "60", "790", "590"}));
 }
 
@@ -107,8 +112,8 @@ TEST_F(WindowPlace, OfAWindowThatWasNeverShownIsWrittenAsItWasRead) {
     WriteData("Prefs.ini", "FormMainLocationX=100\nFormMainLocationY=60\nFormMainSizeX=790\n");
     window = std::make_unique<frmMain>();
     MainWindow = window.get();
-    ASSERT_TRUE(window->LoadPlanner());
-    window->ShowAtStart("Startup Folder");
+    ASSERT_TRUE(LoadPlanner(*window));
+    ShowAtStart(*window, "Startup Folder");
     ASSERT_FALSE(window->isVisible());
     EXPECT_EQ(WrittenPlace(), PlaceLines("0", {"100", "60", "790", "575"}));
 }
@@ -118,7 +123,7 @@ TEST_F(WindowPlace, OfAMaximizedOrMinimizedWindowIsWrittenAsZeros) {
     window->setWindowState(Qt::WindowMaximized);
     EXPECT_EQ(WrittenPlace(), PlaceLines("2", {"0", "0", "0", "0"}));
     window->setWindowState(Qt::WindowMinimized);
-    window->WritePreferences();
+    WritePreferences(*window);
     EXPECT_TRUE(ReadData("Prefs.ini").starts_with(PlaceLines("1", {"0", "0", "0", "0"})));
 }
 
@@ -134,7 +139,7 @@ TEST_F(WindowPlace, LeavesASideWhereItIsOfWhichAZeroIsSaved) {
     window->resize(900, 700);
     const auto read = [this](const std::string& preferences) {
         WriteData("Prefs.ini", preferences);
-        window->ReadPreferences();
+        ReadPreferences(*window);
         return QRect(window->pos(), window->size());
     };
     EXPECT_EQ(read("FormMainLocationX=100\nFormMainLocationY=0\nFormMainSizeX=0\nFormMainSizeY=650\n"),

@@ -1,5 +1,6 @@
 // What the main window opens when the reminder window has called it forward.
 #include "core/Module1.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
@@ -54,11 +55,11 @@ TEST_F(OpenFromReminders, HomeworkEntersHomeworkMode) {
 }
 
 TEST_F(OpenFromReminders, ModeThatIsCheckedIsNotEnteredAgain) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     window->SortColumn = 2;
     CallIntoEditor("Task", AddTaskRecord({}));
     EXPECT_EQ(window->SortColumn, 2);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->SortColumn = 3;
     CallIntoEditor("Homework", AddAssignmentRecord({}));
     EXPECT_EQ(window->SortColumn, 3);
@@ -80,7 +81,7 @@ TEST_F(OpenFromReminders, SeriesShowsTheDayOfItsReminder) {
 }
 
 TEST_F(OpenFromReminders, EventEntersItsModeEvenWhereItIsChecked) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->SortColumn = 1;
     CallForward("Event", AddEventRecord({.date = "2009/11/03"}));
     EXPECT_EQ(window->SortColumn, 3);

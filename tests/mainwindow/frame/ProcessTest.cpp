@@ -2,6 +2,12 @@
 #include "platform/Process.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/flows/WindowFlow.h"
+#include "mainwindow/frame/BringForward.h"
+#include "mainwindow/frame/Load.h"
+#include "mainwindow/frame/Unload.h"
 #include "persistence/ProcessMarker.h"
 #include "support/LegacyDrive.h"
 #include "support/WindowTest.h"
@@ -29,7 +35,7 @@ protected:
             action();
             editor->close();
         });
-        window->NewTask();
+        NewTask(*window);
     }
 
     // A request to close the window: the window manager's or the program's own. Gives whether it is granted.
@@ -110,7 +116,7 @@ TEST_F(Process, LoadShowsTodayInCalendarModeWithTheStudyTimerAtZero) {
 TEST_F(Process, LoadThatCannotMakeTheMarkerRaisesTheErrorBeforeAnythingIsReadOrMade) {
     std::filesystem::remove(drive / "Host");
     window = std::make_unique<frmMain>();
-    EXPECT_THROW(window->LoadPlanner(), RunTimeError);
+    EXPECT_THROW(LoadPlanner(*window), RunTimeError);
     EXPECT_FALSE(std::filesystem::exists(drive / "Documents" / "Planovarium"));
     EXPECT_EQ(Script.trayTip, "Planovarium Homework System") << "the icon comes first of all";
 }
@@ -189,7 +195,7 @@ TEST_F(Process, DaysLeftAreCountedToTheEndOfTheTerm) {
     EXPECT_EQ(window->LabelDaysLeft->text(), "1 day left in the term");
     for (const int day : {18, 19}) {
         SetClock(2009, 12, day);
-        window->SetActiveTerm("Fall 2009");
+        SetActiveTerm(*window, "Fall 2009");
         EXPECT_EQ(window->LabelDaysLeft->text(), "0 Days Left in Term");
     }
 }
@@ -216,10 +222,10 @@ TEST_F(Process, FirstAppearanceGoesByTheCommandLineAndTheStartMode) {
     for (const AppearanceCase& each : cases) {
         window = std::make_unique<frmMain>();
         MainWindow = window.get();
-        ASSERT_TRUE(window->LoadPlanner());
+        ASSERT_TRUE(LoadPlanner(*window));
         EXPECT_FALSE(window->isVisible()) << "the load shows nothing";
         window->AutoStart = each.autoStart;
-        window->ShowAtStart(each.commandLine);
+        ShowAtStart(*window, each.commandLine);
         EXPECT_EQ(window->isVisible(), each.visible) << each.commandLine << "/" << each.autoStart;
         EXPECT_EQ(window->isMinimized(), each.minimized) << each.commandLine << "/" << each.autoStart;
     }
@@ -228,7 +234,7 @@ TEST_F(Process, FirstAppearanceGoesByTheCommandLineAndTheStartMode) {
 TEST_F(Process, TrayMenuOffersTheWindowOnlyWhileItIsHidden) {
     LoadWindow();
     EXPECT_EQ(TrayMenu(), (std::vector<std::string>{"Show Popup Reminders...", "-", "Shutdown Planovarium"}));
-    window->HideWindows();
+    HideWindows(*window);
     EXPECT_EQ(TrayMenu(), (std::vector<std::string>{"Show Popup Reminders...", "-", "Open Planovarium...",
                                                     "Shutdown Planovarium"}));
     Script.trayEvents.itemChosen(2);
@@ -268,14 +274,14 @@ TEST_F(Process, TrayMenuShutsThePlannerDown) {
 
 TEST_F(Process, TrayDoubleClickShowsTheHiddenWindow) {
     LoadWindow();
-    window->HideWindows();
+    HideWindows(*window);
     Script.trayEvents.doubleClicked();
     EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(Process, ASecondInstanceBringsTheWindowForward) {
     LoadWindow();
-    window->HideWindows();
+    HideWindows(*window);
     EXPECT_TRUE(Script.receiveLink("Take Control"));
     EXPECT_TRUE(window->isVisible());
 }
@@ -292,10 +298,10 @@ TEST_F(Process, ASecondInstanceGivesTheWindowTheFocus) {
 
 TEST_F(Process, AMaximizedWindowComesBackMaximizedInEachWay) {
     LoadWindow();
-    window->HideWindows();
+    HideWindows(*window);
     window->setWindowState(Qt::WindowMaximized);
     const std::vector<std::function<void()>> ways{
-        [this] { window->ShowAtStart(""); },
+        [this] { ShowAtStart(*window, ""); },
         [] { Script.trayEvents.doubleClicked(); },
         [this] {
             ASSERT_EQ(TrayMenu().at(2), "Open Planovarium...");
@@ -307,7 +313,7 @@ TEST_F(Process, AMaximizedWindowComesBackMaximizedInEachWay) {
         comeBack();
         EXPECT_TRUE(window->isVisible());
         EXPECT_TRUE(window->isMaximized());
-        window->HideWindows();
+        HideWindows(*window);
     }
 }
 
@@ -326,7 +332,7 @@ TEST_F(Process, ASecondInstanceSetsAMinimizedWindowToNormal) {
 TEST_F(Process, ASecondInstanceFindsAMaximizedWindowMaximized) {
     LoadWindow();
     window->setWindowState(Qt::WindowMaximized);
-    window->HideWindows();
+    HideWindows(*window);
     EXPECT_TRUE(Script.receiveLink("Take Control"));
     EXPECT_TRUE(window->isMaximized());
 }
@@ -363,7 +369,7 @@ TEST_F(Process, ShutdownWritesThePreferencesAndTakesMarkerAndIconAway) {
     WriteData("terms.xml", TwoTerms);
     WriteData("Prefs.ini", "AutoStart=Min\nActiveTerm=Fall 2009\nStartDayofWeek=Saturday\nCurrentTip=7\n");
     LoadWindow();
-    window->Unload();
+    Unload(*window);
     EXPECT_FALSE(std::filesystem::exists(drive / "Host" / MarkerName()));
     EXPECT_EQ(Script.trayTip, "");
     EXPECT_FALSE(window->isVisible());
@@ -377,7 +383,7 @@ TEST_F(Process, ShutdownStopsTheTimers) {
     for (QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
         timer->start();
     }
-    window->Unload();
+    Unload(*window);
     for (const QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
         EXPECT_FALSE(timer->isActive());
     }
@@ -386,15 +392,15 @@ TEST_F(Process, ShutdownStopsTheTimers) {
 TEST_F(Process, ShutdownRunsOnlyOnce) {
     LoadWindow();
     FileWrittenFlags.tasks = true;
-    window->Unload();
-    window->Unload();
+    Unload(*window);
+    Unload(*window);
     EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "tasks_backup2.xml"));
 }
 
 TEST_F(Process, ShutdownWithoutTheMarkerGoesOn) {
     LoadWindow();
     std::filesystem::remove(drive / "Host" / MarkerName());
-    window->Unload();
+    Unload(*window);
     EXPECT_TRUE(DataExists("Prefs.ini"));
     EXPECT_EQ(Script.trayTip, "");
 }
@@ -405,7 +411,7 @@ TEST_F(Process, AMarkerThatCannotBeDeletedIsARunTimeErrorAndEndsTheShutdownsStep
     std::filesystem::remove(marker);
     std::filesystem::create_directories(marker / "not empty");
     EXPECT_THROW(DeleteProcessMarker(), RunTimeError);
-    window->Unload();
+    Unload(*window);
     EXPECT_FALSE(DataExists("Prefs.ini"));
     EXPECT_FALSE(window->isVisible()) << "the process goes on ending";
 }
@@ -414,7 +420,7 @@ TEST_F(Process, ShutdownRotatesOnlyWhatWasWrittenInThisRun) {
     WriteData("terms.xml", TwoTerms);
     LoadWindow();
     FileWrittenFlags.tasks = true;
-    window->Unload();
+    Unload(*window);
     EXPECT_TRUE(std::filesystem::exists(data / "Backup" / "tasks_backup1.xml"));
     EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "terms_backup1.xml"));
 }
@@ -423,7 +429,7 @@ TEST_F(Process, ShutdownThatCannotWriteThePreferencesLeavesTheRestUndone) {
     LoadWindow();
     FileWrittenFlags.tasks = true;
     std::filesystem::create_directory(data / "Prefs.ini"); // a folder of that name cannot be written
-    window->Unload();
+    Unload(*window);
     EXPECT_FALSE(std::filesystem::exists(drive / "Host" / MarkerName())) << "it went before";
     EXPECT_FALSE(std::filesystem::exists(data / "Backup" / "tasks_backup1.xml"));
     EXPECT_NE(Script.trayTip, "");
@@ -438,9 +444,9 @@ TEST_F(Process, ShutdownDuringALoadStopsItThere) {
     MainWindow = window.get();
     Script.whileBoxIsOpen = [this](const ShownBox& box) {
         EXPECT_EQ(box.title, "Planovarium - File Read Error");
-        window->Unload();
+        Unload(*window);
     };
-    EXPECT_FALSE(window->LoadPlanner());
+    EXPECT_FALSE(LoadPlanner(*window));
     EXPECT_FALSE(DataExists("events.xml"));
     EXPECT_EQ(Preferences(), "ActiveTerm=Fall 2009\n");
 }

@@ -1,6 +1,8 @@
 // The refresh: which steps run for which reason in which mode, told by what they leave behind.
 #include "core/DateText.h"
+#include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 
@@ -123,64 +125,64 @@ TEST_F(Refresh, NothingRunsWhileNoModeIsChecked) {
 }
 
 TEST_F(Refresh, StudySessionsAndRemindersCountAsCalendarWhileItIsChecked) {
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(StepsOf(ReasonNewRecord), "CMLFA");
-    window->ShowCalendarMode();
-    window->ShowReminderMode();
+    ShowCalendarMode(*window);
+    ShowReminderMode(*window);
     EXPECT_EQ(StepsOf(ReasonNewRecord), "CMLFA");
 }
 
 TEST_F(Refresh, RemindersShowTodayWhateverWasSelected) {
-    window->ShowTaskMode();
-    window->GoToDate(Today() + days{17});
-    window->ShowReminderMode();
+    ShowTaskMode(*window);
+    GoToDate(*window, Today() + days{17});
+    ShowReminderMode(*window);
     EXPECT_EQ(window->ClickedDate, Today());
     EXPECT_EQ(window->SelectedDate, Today());
 }
 
 TEST_F(Refresh, AnotherMonthIsMarkedAnewWithoutAnOrder) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     AddTaskRecord({.date = "2009/11/20"});
-    window->GoToDate(Date{std::chrono::year{2009} / 11 / 2});
+    GoToDate(*window, Date{std::chrono::year{2009} / 11 / 2});
     EXPECT_TRUE(window->Month.CellMarked[CellOf("2009/11/20")]);
 }
 
 TEST_F(Refresh, RemindersAreMarkedFromTheListThatTheSameRefreshHasFilled) {
-    window->ShowTaskMode(); // entered from Calendar the reminders would count as Calendar
-    window->ShowReminderMode();
+    ShowTaskMode(*window); // entered from Calendar the reminders would count as Calendar
+    ShowReminderMode(*window);
     AddTaskRecord({.date = "2009/10/12"}); // two days late
     window->RefreshFor(ReasonNewRecord);
     EXPECT_TRUE(window->Month.CellMarked[CellOf("2009/10/12")]);
 }
 
 TEST_F(Refresh, StudyTimeIsThatOfTheDayShown) {
-    window->ShowTaskMode();
-    window->ShowReminderMode();
+    ShowTaskMode(*window);
+    ShowReminderMode(*window);
     AddAssignmentRecord({.date = "2009/10/20", .est_time = "02 : 00"});
-    window->GoToDate(Date{std::chrono::year{2009} / 10 / 14});
+    GoToDate(*window, Date{std::chrono::year{2009} / 10 / 14});
     EXPECT_EQ(window->TextBoxMinimum->text(), "00:00");
     EXPECT_EQ(window->TextBoxSuggested->text(), "00:20");
-    window->GoToDate(Date{std::chrono::year{2009} / 10 / 19});
+    GoToDate(*window, Date{std::chrono::year{2009} / 10 / 19});
     EXPECT_EQ(window->TextBoxMinimum->text(), "02:00");
     EXPECT_EQ(window->TextBoxSuggested->text(), "02:00");
 }
 
 TEST_F(Refresh, CalendarPaintsTheMonthAsItIsWhenTheModeChanges) {
     AddTaskRecord({.date = "2009/10/20"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(DrawnTexts(*window->picGrid).count("0 / 1"), 0);
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(DrawnTexts(*window->picGrid).count("0 / 1"), 1);
 }
 
 TEST_F(Refresh, DayScheduleOpensAtTheMorning) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(window->VSGridScroll->value(), 11);
     EXPECT_EQ(window->FirstRow, 11);
 }
 
 TEST_F(Refresh, DayScheduleStaysWhereItIsBelowTheMorning) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->VSGridScroll->setValue(15);
     window->RefreshFor(ReasonModeChange);
     EXPECT_EQ(window->VSGridScroll->value(), 15);
@@ -190,7 +192,7 @@ TEST_F(Refresh, DayScheduleStaysWhereItIsBelowTheMorning) {
 }
 
 TEST_F(Refresh, ResizeOfTheWindowLaysTheListOutAgainAndBuildsNoMonth) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     MakeStale();
     window->resize(window->width() + 100, window->height() + 60);
     ASSERT_TRUE(WaitUntil([this] { return window->LabelTop->text() != "stale"; }));
@@ -200,7 +202,7 @@ TEST_F(Refresh, ResizeOfTheWindowLaysTheListOutAgainAndBuildsNoMonth) {
 }
 
 TEST_F(Refresh, ResizeDuringARefreshIsLeftOut) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     MakeStale();
     window->RefreshReason = ReasonNewRecord;
     window->resize(window->width() + 100, window->height());
@@ -210,7 +212,7 @@ TEST_F(Refresh, ResizeDuringARefreshIsLeftOut) {
 }
 
 TEST_F(Refresh, ResizeDuringAModeEntryIsLeftOut) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     MakeStale();
     window->ChangingMode = true;
     window->resize(window->width() + 100, window->height());
@@ -228,7 +230,7 @@ TEST_F(Refresh, WindowIsNeverSmallerThanItsDesign) {
 }
 
 TEST_F(Refresh, MinimizedWindowIsLaidOutOnlyWhenItComesBack) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     window->showMinimized();
     QCoreApplication::processEvents();
     MakeStale();

@@ -1,6 +1,10 @@
 // How the main window looks where that is more than colours of records: long names, the buttons for new
 // records, the sort arrow, the ground of the small calendar, lines at fractions of a scale, tips.
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/Looks.h"
 #include "toolkit/WindowStyle.h"
 
@@ -57,16 +61,16 @@ TEST_F(WindowLooks, ALongTermNameIsCutAndTellsTheWholeAndLeavesTheWindowItsSize)
     for (const int length : {40, 200}) {
         const QString name = QString(length, 'W');
         Store.Term.name.Replace(1, name.toStdString());
-        window->SetActiveTerm(name.toStdString());
+        SetActiveTerm(*window, name.toStdString());
         for (QLabel* label : {window->LabelTerm, window->LabelTop}) {
-            window->ShowHomeworkMode();
+            ShowHomeworkMode(*window);
             EXPECT_TRUE(label->text().endsWith(name));
             QHelpEvent asked(QEvent::ToolTip, {}, {});
             QCoreApplication::sendEvent(label, &asked);
             EXPECT_TRUE(label->toolTip().contains(name)) << length;
         }
-        for (const auto enter : {&frmMain::ShowCalendarMode, &frmMain::ShowHomeworkMode}) {
-            (window.get()->*enter)();
+        for (const auto enter : {&ShowCalendarMode, &ShowHomeworkMode}) {
+            enter(*window);
             QCoreApplication::processEvents();
             EXPECT_EQ(window->size(), DesignSize);
             EXPECT_EQ(window->minimumSizeHint().width(), smallest);
@@ -87,18 +91,18 @@ TEST_F(WindowLooks, TheFilterMenusDoNotWidenWithWhatTheyHold) {
 // --- Buttons -----------------------------------------------------------------------------------------------
 
 TEST_F(WindowLooks, AButtonForNewRecordsThatStandsAloneSaysWhatItDoes) {
-    const std::array<std::pair<QToolButton*, void (frmMain::*)()>, 3> alone{
-        {{window->ButtonNewAssignmentSmall, &frmMain::ShowHomeworkMode},
-         {window->ButtonNewEventSmall, &frmMain::ShowEventMode},
-         {window->ButtonNewTaskSmall, &frmMain::ShowTaskMode}}};
+    const std::array<std::pair<QToolButton*, void (*)(frmMain&)>, 3> alone{
+        {{window->ButtonNewAssignmentSmall, &ShowHomeworkMode},
+         {window->ButtonNewEventSmall, &ShowEventMode},
+         {window->ButtonNewTaskSmall, &ShowTaskMode}}};
     const QStringList words{"New Assignment...", "New Event...", "New Task..."};
     for (std::size_t i = 0; i < alone.size(); ++i) {
         const auto& [button, enter] = alone[i];
-        (window.get()->*enter)();
+        enter(*window);
         EXPECT_EQ(button->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
         EXPECT_EQ(button->text(), words[static_cast<qsizetype>(i)]);
         EXPECT_GE(button->width(), button->sizeHint().width());
-        window->ShowCalendarMode();
+        ShowCalendarMode(*window);
         EXPECT_EQ(button->toolButtonStyle(), Qt::ToolButtonIconOnly);
     }
     QCoreApplication::processEvents();
@@ -123,9 +127,9 @@ TEST_F(WindowLooks, EachIconButtonAndStepperHasATipWithItsKey) {
 // --- The sort arrow ----------------------------------------------------------------------------------------
 
 TEST_F(WindowLooks, TheArrowStandsBesideItsTitleInEveryColumnButTheNarrowOnes) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     for (std::size_t column = 1; column < 10; ++column) {
-        window->ColumnClicked(static_cast<int>(column));
+        ColumnClicked(*window, static_cast<int>(column));
         const Title title = TitleOf(column);
         ASSERT_GT(title.arrow.width, 0) << column;
         EXPECT_LE(title.arrow.left + title.arrow.width, title.width) << column;
@@ -151,7 +155,7 @@ TEST_F(WindowLooks, AMarkedDayStandsOutFromTheGroundOfTheSmallCalendar) {
 // there.
 TEST_F(WindowLooks, NoGapsShowBetweenTheLinesOfTheMonthAtAnyScale) {
     ASSERT_EQ(window->StartDayOfWeek, "Sunday");
-    window->GoToDate(Date{std::chrono::year{2009} / 2 / 10});
+    GoToDate(*window, Date{std::chrono::year{2009} / 2 / 10});
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
         const QImage seen = GridAtScale(scale);
         for (std::size_t cell = 0; cell < DaysPerWeek; ++cell) {

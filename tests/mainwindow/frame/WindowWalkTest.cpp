@@ -3,7 +3,9 @@
 // Every run takes ShortWalk steps of each seed; with PLANOVARIUM_LONG_WALK set it takes LongWalk, three times
 // 5,000.
 #include "core/DateText.h"
+#include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include <QApplication>
 #include <QWheelEvent>
@@ -174,7 +176,7 @@ void WindowWalk::TakeStep() {
     switch (Roll(16)) {
     case 0:
     case 1:
-        return window->ChooseMode(modes.at(static_cast<std::size_t>(Roll(static_cast<int>(modes.size())))));
+        return ChooseMode(*window, modes.at(static_cast<std::size_t>(Roll(static_cast<int>(modes.size())))));
     case 2:
     case 3:
         return TurnTheWheel();
@@ -188,7 +190,7 @@ void WindowWalk::TakeStep() {
         return combo->isVisible() ? combo->setCurrentIndex(Roll(combo->count())) : void();
     }
     case 7:
-        return window->ChooseStartDayOfWeek(Roll(2) == 0 ? "Sunday" : "Monday");
+        return ChooseStartDayOfWeek(*window, Roll(2) == 0 ? "Sunday" : "Monday");
     case 8:
         return window->VSGridScroll->setValue(1 + Roll(std::max(window->VSGridScroll->maximum(), 1)));
     case 9:

@@ -1,5 +1,7 @@
 // The grid as a screen reader is told of it.
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include <QAccessible>
 
@@ -90,14 +92,14 @@ protected:
 TEST_F(GridAccessible, AListIsATableOfItsRows) {
     AddAssignmentRecord({.desc = "Page 12", .priority = "True", .done = "True", .grade = "95%"});
     AddAssignments(40);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(Grid()->role(), QAccessible::Table);
     EXPECT_EQ(Grid()->text(QAccessible::Name), "View");
     ASSERT_NE(Table(), nullptr);
     EXPECT_EQ(Table()->rowCount(), 41);
     EXPECT_EQ(Columns(), (QStringList{"Number", "Reminder", "Priority", "Class", "Type", "Description",
                                       "Time", "Due", "Done", "Score"}));
-    window->ColumnClicked(5);
+    ColumnClicked(*window, 5);
     EXPECT_EQ(Row(40), (QStringList{"41", "", "Priority", "Algebra", "Reading", "Page 12", "01:00",
                                     "14-Oct-09", "Done", "95%"}));
 }
@@ -105,16 +107,16 @@ TEST_F(GridAccessible, AListIsATableOfItsRows) {
 TEST_F(GridAccessible, MarksAreReadAsWhatTheyMean) {
     AddAssignmentRecord({.desc = "\xAE", .priority = "True", .reminder = "True"});
     AddTaskRecord({.desc = "!", .reminder = "True"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(Row(0).mid(1, 2), (QStringList{"Reminder", "Priority"}));
     EXPECT_EQ(Row(0)[5], QString(QChar(0xAE))) << "the student's own word";
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(Row(0).mid(1, 2), (QStringList{"Reminder", "!"}));
 }
 
 TEST_F(GridAccessible, CellsTellTheirPlaceAndTheirHeader) {
     AddAssignments(40);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QAccessibleInterface* cell = Table()->cellAt(1, 5);
     EXPECT_EQ(cell->role(), QAccessible::Cell);
     EXPECT_EQ(cell->parent(), Grid());
@@ -133,7 +135,7 @@ TEST_F(GridAccessible, CellsTellTheirPlaceAndTheirHeader) {
 TEST_F(GridAccessible, ChecksAreTold) {
     AddTaskRecord({.done = "True"});
     AddTaskRecord({});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_TRUE(Table()->cellAt(0, 6)->state().checked);
     EXPECT_FALSE(Table()->cellAt(1, 6)->state().checked);
     EXPECT_TRUE(Table()->cellAt(1, 6)->state().checkable);
@@ -144,7 +146,7 @@ TEST_F(GridAccessible, TheMonthIsATableOfItsDays) {
     AddAssignmentRecord({.done = "True"});
     AddAssignmentRecord({});
     AddEventRecord({});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(Table()->rowCount(), 6);
     EXPECT_EQ(Columns(),
               (QStringList{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"}));
@@ -156,7 +158,7 @@ TEST_F(GridAccessible, TheMonthIsATableOfItsDays) {
 
 TEST_F(GridAccessible, TheDayIsATableOfItsEvents) {
     AddEventRecord({.time = "09:00 AM", .duration = "1 Hour", .desc = "Chess"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(Columns(), (QStringList{"Time", "Length", "Event"}));
     EXPECT_EQ(Table()->rowCount(), 1);
     EXPECT_EQ(Row(0), (QStringList{"09:00 AM", "1 Hour", "Chess"}));
@@ -164,7 +166,7 @@ TEST_F(GridAccessible, TheDayIsATableOfItsEvents) {
 
 TEST_F(GridAccessible, TheRowOfTheKeysIsTheSelectedOne) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->picGrid->setFocus();
     EXPECT_EQ(Table()->selectedRows(), QList<int>{});
     EXPECT_EQ(Grid()->focusChild(), nullptr);
@@ -176,7 +178,7 @@ TEST_F(GridAccessible, TheRowOfTheKeysIsTheSelectedOne) {
 
 TEST_F(GridAccessible, PressingATitleSortsAndPressingACellOpens) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QAccessibleInterface* title = Grid()->child(5);
     title->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(WaitUntil([this] { return window->SortColumn == 5; }));
@@ -187,7 +189,7 @@ TEST_F(GridAccessible, PressingATitleSortsAndPressingACellOpens) {
 
 TEST_F(GridAccessible, PressingACellThatIsScrolledAwayShowsItAndOpens) {
     AddAssignments(40);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Table()->cellAt(39, 5)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(WaitUntil([this] { return Opened == QStringList{"Planovarium - Edit Assignment: A40"}; }));
     EXPECT_EQ(Table()->selectedRows(), QList<int>{39});
@@ -198,7 +200,7 @@ TEST_F(GridAccessible, PressingACellThatIsScrolledAwayShowsItAndOpens) {
 TEST_F(GridAccessible, PressingAnEventOfTheDayMovesTheKeysToIt) {
     AddEventRecord({.time = "01:00 AM", .desc = "Stars"});
     AddEventRecord({.time = "09:00 AM", .desc = "Chess"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Table()->cellAt(0, 2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     ASSERT_TRUE(WaitUntil([this] { return Table()->selectedRows() == QList<int>{0}; }));
     EXPECT_EQ(window->CurrentHalfHour, 2);
@@ -207,7 +209,7 @@ TEST_F(GridAccessible, PressingAnEventOfTheDayMovesTheKeysToIt) {
 
 TEST_F(GridAccessible, TheRowScrolledUnderTheTitlesIsOffTheScreen) {
     AddAssignments(40);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(3);
     EXPECT_TRUE(Table()->cellAt(1, 5)->state().offscreen);
     EXPECT_FALSE(Table()->cellAt(2, 5)->state().offscreen);
@@ -215,7 +217,7 @@ TEST_F(GridAccessible, TheRowScrolledUnderTheTitlesIsOffTheScreen) {
 
 TEST_F(GridAccessible, CellsOfRowsThatHaveGoneAreInvalid) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QAccessibleInterface* cell = Table()->cellAt(2, 5);
     EXPECT_TRUE(cell->isValid());
     RemoveRecord(Store.Assignment, AssignmentFields, 3);
@@ -227,9 +229,9 @@ TEST_F(GridAccessible, CellsOfRowsThatHaveGoneAreInvalid) {
 TEST_F(GridAccessible, AChangeOfTheViewIsTold) {
     QAccessible::setActive(true);
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(Table()->rowCount(), 3);
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(Table()->rowCount(), 0);
     EXPECT_EQ(Table()->columnCount(), 7);
     QAccessible::setActive(false);
@@ -237,7 +239,7 @@ TEST_F(GridAccessible, AChangeOfTheViewIsTold) {
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfAChangedView) {
     const Listener listener;
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_TRUE(ChangeIsTold());
     Tellings.clear();
     AddTaskRecord({});
@@ -247,7 +249,7 @@ TEST_F(GridAccessible, AScreenReaderIsToldOfAChangedView) {
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfARowThatTheKeysReach) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const Listener listener;
     Press(Qt::Key_Down);
     EXPECT_TRUE(MoveIsTold());
@@ -255,14 +257,14 @@ TEST_F(GridAccessible, AScreenReaderIsToldOfARowThatTheKeysReach) {
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfARowThatIsClicked) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const Listener listener;
     ClickRow(2);
     EXPECT_TRUE(MoveIsTold());
 }
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfADayThatTheKeysReach) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const Listener listener;
     Press(Qt::Key_Right);
     EXPECT_TRUE(MoveIsTold());
@@ -270,7 +272,7 @@ TEST_F(GridAccessible, AScreenReaderIsToldOfADayThatTheKeysReach) {
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfAnEventThatTheKeysReach) {
     AddEventRecord({.time = "05:00 AM"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const Listener listener;
     Press(Qt::Key_Down);
     EXPECT_TRUE(MoveIsTold());
@@ -278,7 +280,7 @@ TEST_F(GridAccessible, AScreenReaderIsToldOfAnEventThatTheKeysReach) {
 
 TEST_F(GridAccessible, AScreenReaderIsToldOfAnEventThatIsClicked) {
     AddEventRecord({.time = "05:00 AM", .duration = "1 Hour"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const Listener listener;
     Click({300, SlotHeight / 2});
     EXPECT_TRUE(MoveIsTold());

@@ -1,5 +1,7 @@
 // Sorting and clicking on the grid.
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 
@@ -34,7 +36,7 @@ public:
 TEST_F(GridClicks, ATitleSortsByItsColumnAndTurnsAtTheSecondClick) {
     AddAssignmentRecord({.desc = "b"});
     AddAssignmentRecord({.desc = "a"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     ClickTitle(5);
     EXPECT_EQ(window->SortColumn, 5);
     EXPECT_EQ(window->SortDirection, Ascending);
@@ -51,7 +53,7 @@ TEST_F(GridClicks, ATitleSortsByItsColumnAndTurnsAtTheSecondClick) {
 }
 
 TEST_F(GridClicks, TheTitleOfTheNumbersOnlyGivesTheFocus) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->ComboList->setFocus();
     ClickTitle(0);
     EXPECT_EQ(window->SortColumn, 8);
@@ -60,7 +62,7 @@ TEST_F(GridClicks, TheTitleOfTheNumbersOnlyGivesTheFocus) {
 
 TEST_F(GridClicks, SortingAScrolledListShowsItsTop) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(9);
     window->ComboList->setFocus();
     ClickTitle(5);
@@ -71,7 +73,7 @@ TEST_F(GridClicks, SortingAScrolledListShowsItsTop) {
 
 TEST_F(GridClicks, AClickOpensTheRowAndShowsWhich) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(7);
     ClickRow(3);
     EXPECT_EQ(window->ClickedRow, 3);
@@ -83,7 +85,7 @@ TEST_F(GridClicks, AClickOpensTheRowAndShowsWhich) {
 
 TEST_F(GridClicks, AHighlightedNumberIsWhiteOnBlack) {
     AddAssignments(2);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->HighlightRow(2, true);
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).text, "2");
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).forecolor, 0xFFFFFF);
@@ -92,7 +94,7 @@ TEST_F(GridClicks, AHighlightedNumberIsWhiteOnBlack) {
 
 TEST_F(GridClicks, AHighlightedNumberIsSeenBeforeTheEditorLoads) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     PaintCounter paints;
     window->picGrid->installEventFilter(&paints);
     window->HighlightRow(1, true);
@@ -101,8 +103,8 @@ TEST_F(GridClicks, AHighlightedNumberIsSeenBeforeTheEditorLoads) {
 
 TEST_F(GridClicks, NothingIsHighlightedWhereNoListIsShown) {
     AddAssignments(2);
-    window->ShowHomeworkMode();
-    window->ShowCalendarMode();
+    ShowHomeworkMode(*window);
+    ShowCalendarMode(*window);
     ASSERT_EQ(window->RowCount, 2); // of the list that was left
     const std::size_t drawn = window->picGrid->Drawn().size();
     window->HighlightRow(1, false);
@@ -111,7 +113,7 @@ TEST_F(GridClicks, NothingIsHighlightedWhereNoListIsShown) {
 
 TEST_F(GridClicks, ARowThatHasGoneIsNotHighlighted) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const std::size_t drawn = window->picGrid->Drawn().size();
     window->HighlightRow(2, false);
     EXPECT_EQ(window->picGrid->Drawn().size(), drawn);
@@ -119,7 +121,7 @@ TEST_F(GridClicks, ARowThatHasGoneIsNotHighlighted) {
 
 TEST_F(GridClicks, DraggingFromOneRowToAnotherDoesNothing) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QTest::mousePress(window->picGrid, Qt::LeftButton, {}, RowPoint(2));
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, RowPoint(3));
     EXPECT_EQ(window->ClickedRow, 2);
@@ -129,7 +131,7 @@ TEST_F(GridClicks, DraggingFromOneRowToAnotherDoesNothing) {
 
 TEST_F(GridClicks, AReleaseOutsideTheGridDoesNothing) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QTest::mousePress(window->picGrid, Qt::LeftButton, {}, RowPoint(1));
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, QPoint(200, -40));
     EXPECT_EQ(Opened, QStringList{});
@@ -137,21 +139,21 @@ TEST_F(GridClicks, AReleaseOutsideTheGridDoesNothing) {
 
 TEST_F(GridClicks, AClickPastTheRowsAsksForANewItem) {
     AddAssignments(2);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     ClickRow(3);
     EXPECT_EQ(window->ClickedRow, 3);
     EXPECT_EQ(HighlightedNumbers(), QStringList{});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     ClickRow(1); // of an empty list
     EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
 }
 
 TEST_F(GridClicks, AClickPastTheRemindersOrTheStudySessionsDoesNothing) {
     window->MenuCalendar->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     ClickRow(1);
     window->MenuReminders->setChecked(false);
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     ClickRow(1);
     ClickRow(1, Qt::RightButton);
     EXPECT_EQ(Opened, QStringList{});
@@ -159,7 +161,7 @@ TEST_F(GridClicks, AClickPastTheRemindersOrTheStudySessionsDoesNothing) {
 
 TEST_F(GridClicks, AClickOnTheStripOfADisabledScrollBarHitsNoRow) {
     AddAssignments(2);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Click({window->picGrid->width() - 5, 40});
     EXPECT_EQ(window->ClickedRow, 999);
     EXPECT_EQ(Opened, QStringList{});
@@ -167,7 +169,7 @@ TEST_F(GridClicks, AClickOnTheStripOfADisabledScrollBarHitsNoRow) {
 
 TEST_F(GridClicks, TasksOpenByAClick) {
     AddTaskRecord({.desc = "Call"});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     ClickRow(1);
     EXPECT_EQ(HighlightedNumbers(), QStringList{"1"});
     EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Task: Call"});
@@ -181,7 +183,7 @@ TEST_F(GridClicks, StudySessionsOpenTheirAssignmentWithEitherButton) {
     log.time.Add("00 : 45");
     log.date.Add("2009/10/14");
     window->MenuCalendar->setChecked(false);
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     ClickRow(1);
     ClickRow(1, Qt::RightButton);
     EXPECT_EQ(Opened,
@@ -192,8 +194,8 @@ TEST_F(GridClicks, RemindersOpenTheirRecordWithEitherButton) {
     AddAssignmentRecord({.desc = "Page 12", .reminder = "True"});
     AddTaskRecord({.desc = "Call", .reminder = "True"});
     window->MenuCalendar->setChecked(false);
-    window->ShowReminderMode();
-    window->ColumnClicked(1); // by kind: Homework, then Task
+    ShowReminderMode(*window);
+    ColumnClicked(*window, 1); // by kind: Homework, then Task
     ClickRow(1);
     EXPECT_EQ(HighlightedNumbers(), QStringList{"1"});
     ClickRow(2, Qt::RightButton);
@@ -204,7 +206,7 @@ TEST_F(GridClicks, RemindersOpenTheirRecordWithEitherButton) {
 
 TEST_F(GridClicks, TheMiddleButtonIsALeftOne) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     ClickRow(1, Qt::MiddleButton);
     EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A1"});
 }
@@ -212,7 +214,7 @@ TEST_F(GridClicks, TheMiddleButtonIsALeftOne) {
 TEST_F(GridClicks, AnEventOfTheRemindersLeavesTheSelectedDay) {
     AddEventRecord({.date = "2009/10/16", .reminder = "2"}); // two days ahead
     window->MenuCalendar->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     ASSERT_EQ(ReminderRowDate.Count(), 1);
     ASSERT_NE(ReminderRowDate.Item(1), Today());
     ClickRow(1);
@@ -221,7 +223,7 @@ TEST_F(GridClicks, AnEventOfTheRemindersLeavesTheSelectedDay) {
 }
 
 TEST_F(GridClicks, TheDayGivesTheHalfHourThatIsClicked) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Click(HalfHourPoint(18));
     EXPECT_EQ(window->ClickedRow, 0);
     EXPECT_EQ(window->EventClickedStartTime, "9:00 AM");
@@ -231,7 +233,7 @@ TEST_F(GridClicks, TheDayGivesTheHalfHourThatIsClicked) {
 }
 
 TEST_F(GridClicks, TheLastHalfHourIsSpeltWithoutABlank) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->resize(1000, 1900);
     ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible > 62; }));
     Click(HalfHourPoint(47));
@@ -243,7 +245,7 @@ TEST_F(GridClicks, TheLastHalfHourIsSpeltWithoutABlank) {
 
 TEST_F(GridClicks, AClickOnABoxTakesNoTime) {
     AddEventRecord({.time = "09:00 AM"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Click(HalfHourPoint(18));
     EXPECT_EQ(window->ClickedRow, 1);
     EXPECT_EQ(window->EventClickedStartTime, "");
@@ -251,7 +253,7 @@ TEST_F(GridClicks, AClickOnABoxTakesNoTime) {
 
 TEST_F(GridClicks, TheKeysGoOnFromTheHalfHourThatIsClicked) {
     AddEventRecord({.time = "09:00 AM", .duration = "1 Hour"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Click(HalfHourPoint(24));
     EXPECT_EQ(window->CurrentHalfHour, 24);
     EXPECT_EQ(window->CurrentEvent, 0);
@@ -264,7 +266,7 @@ TEST_F(GridClicks, TheKeysGoOnFromTheHalfHourThatIsClicked) {
 
 TEST_F(GridClicks, AClickCloseAboveABoxIsOnItsFirstHalfHour) {
     AddEventRecord({.time = "09:00 AM", .duration = "1 Hour"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Click({300, (18 - window->FirstRow + 1) * SlotHeight - 1});
     EXPECT_EQ(window->ClickedRow, 1);
     EXPECT_EQ(window->CurrentHalfHour, 18);
@@ -272,7 +274,7 @@ TEST_F(GridClicks, AClickCloseAboveABoxIsOnItsFirstHalfHour) {
 }
 
 TEST_F(GridClicks, AClickBeyondTheDayIsOnItsLastHalfHour) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->resize(1000, 1900);
     ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible > 62; }));
     Click(HalfHourPoint(60));
@@ -280,7 +282,7 @@ TEST_F(GridClicks, AClickBeyondTheDayIsOnItsLastHalfHour) {
 }
 
 TEST_F(GridClicks, TheRightButtonTakesTheHalfHourToo) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     WhenPopupOpens([](QMenu*) {});
     Click(HalfHourPoint(20), Qt::RightButton);
     EXPECT_EQ(window->EventClickedStartTime, "10:00 AM");
@@ -289,7 +291,7 @@ TEST_F(GridClicks, TheRightButtonTakesTheHalfHourToo) {
 TEST_F(GridClicks, DraggingFromOneBoxToAnotherOrOffItDoesNothing) {
     AddEventRecord({.time = "09:00 AM"});
     AddEventRecord({.time = "11:00 AM"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     for (const int halfHour : {22, 25}) {
         QTest::mousePress(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(18));
         QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(halfHour));
@@ -298,14 +300,14 @@ TEST_F(GridClicks, DraggingFromOneBoxToAnotherOrOffItDoesNothing) {
 }
 
 TEST_F(GridClicks, AReleaseOffAllBoxesTakesTheHalfHourThere) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     QTest::mousePress(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(18));
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, HalfHourPoint(20)); // no box, no box
     EXPECT_EQ(window->EventClickedStartTime, "10:00 AM");
 }
 
 TEST_F(GridClicks, TheMonthGoesToTheClickedDay) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     Click(CellPoint(20));
     EXPECT_EQ(window->ClickedRow, 20);
     EXPECT_EQ(window->SelectedDate, window->Month.CellDate[20]);
@@ -313,7 +315,7 @@ TEST_F(GridClicks, TheMonthGoesToTheClickedDay) {
 }
 
 TEST_F(GridClicks, TheMonthMovesToTheMonthOfAGreyDay) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const Date last = window->Month.CellDate[41];
     Click(CellPoint(41));
     EXPECT_EQ(window->SelectedDate, last);
@@ -321,7 +323,7 @@ TEST_F(GridClicks, TheMonthMovesToTheMonthOfAGreyDay) {
 }
 
 TEST_F(GridClicks, DraggingFromOneDayToAnotherStaysAtTheDay) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const Date before = window->SelectedDate;
     QTest::mousePress(window->picGrid, Qt::LeftButton, {}, CellPoint(20));
     QTest::mouseRelease(window->picGrid, Qt::LeftButton, {}, CellPoint(21));
@@ -330,7 +332,7 @@ TEST_F(GridClicks, DraggingFromOneDayToAnotherStaysAtTheDay) {
 
 TEST_F(GridClicks, AResizeIsFollowedOnlyInAModeAndWhileIdle) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->RefreshReason = ReasonCalendar;
     const int rows = window->RowsVisible;
     window->resize(900, 800);

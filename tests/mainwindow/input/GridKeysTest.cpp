@@ -1,5 +1,7 @@
 // The keys of the grid.
+#include "mainwindow/input/GridKeys.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 #include "mainwindow/grid/ViewParts.h"
@@ -54,7 +56,7 @@ protected:
 
 TEST_F(GridKeys, ArrowsMoveTheRowAndScrollItIntoView) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->CurrentRow, 0);
     Press(Qt::Key_Down);
     EXPECT_EQ(window->CurrentRow, 1);
@@ -74,7 +76,7 @@ TEST_F(GridKeys, ArrowsMoveTheRowAndScrollItIntoView) {
 
 TEST_F(GridKeys, PagesAndEndsOfAList) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     EXPECT_EQ(window->CurrentRow, 60);
     EXPECT_EQ(window->FirstRow, window->VSGridScroll->maximum());
@@ -89,7 +91,7 @@ TEST_F(GridKeys, PagesAndEndsOfAList) {
 
 TEST_F(GridKeys, EnterOpensTheRow) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_Return);
     EXPECT_EQ(Opened, QStringList{});
     Press(Qt::Key_End);
@@ -100,7 +102,7 @@ TEST_F(GridKeys, EnterOpensTheRow) {
 }
 
 TEST_F(GridKeys, AnEmptyListHasNoRow) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     for (const int key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Return}) {
         Press(key);
         EXPECT_EQ(window->CurrentRow, 0);
@@ -109,7 +111,7 @@ TEST_F(GridKeys, AnEmptyListHasNoRow) {
 
 TEST_F(GridKeys, TheRowFollowsAListThatBecomesShorter) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     RemoveRecord(Store.Assignment, AssignmentFields, 5);
     Refresh();
@@ -119,15 +121,15 @@ TEST_F(GridKeys, TheRowFollowsAListThatBecomesShorter) {
 TEST_F(GridKeys, AnotherModeBeginsWithoutARow) {
     AddAssignments(5);
     AddTaskRecord({});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(window->CurrentRow, 0);
 }
 
 TEST_F(GridKeys, ADigitSortsByItsColumn) {
     AddAssignments(2);
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     Press(Qt::Key_3);
     EXPECT_EQ(window->SortColumn, 3);
     Press(Qt::Key_3);
@@ -138,27 +140,27 @@ TEST_F(GridKeys, ADigitSortsByItsColumn) {
 
 TEST_F(GridKeys, TheMenuKeyOpensTheMenuOfTheList) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(MenuAfter(Qt::Key_Menu).first(), "Add new assignment...");
     EXPECT_EQ(MenuAfter(Qt::Key_F10, Qt::ShiftModifier).first(), "Add new assignment...");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(MenuAfter(Qt::Key_Menu).first(), "Add new task...");
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(MenuAfter(Qt::Key_Menu).first(), "Add new event...");
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(MenuAfter(Qt::Key_Menu).mid(0, 2), (QStringList{"Add new assignment...", "Add new event..."}));
 }
 
 TEST_F(GridKeys, MenusOfKeysOpenBesideTheRow) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     MenuAfter(Qt::Key_Menu);
     EXPECT_EQ(window->picGrid->mapFromGlobal(window->PopupPoint).y(), RowTop(6) / UnitsPerPixel);
 }
 
 TEST_F(GridKeys, TheMonthMovesByDaysWeeksMonthsAndToItsEnds) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     ASSERT_EQ(window->SelectedDate, Wednesday);
     const std::vector<std::pair<int, Date>> steps{
         {Qt::Key_Right, Date{2009y / 10 / 15}},   {Qt::Key_Down, Date{2009y / 10 / 22}},
@@ -174,7 +176,7 @@ TEST_F(GridKeys, TheMonthMovesByDaysWeeksMonthsAndToItsEnds) {
 TEST_F(GridKeys, EnterOpensTheMenuOfADayThatHasItems) {
     AddTaskRecord({.desc = "Call"});
     AddEventRecord({.desc = "Chess"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(MenuAfter(Qt::Key_Return).first(), "(Not Done)  Call ...");
     EXPECT_EQ(MenuAfter(Qt::Key_E).first(), "(09:00 AM)  Chess ...");
     EXPECT_EQ(MenuAfter(Qt::Key_T).first(), "(Not Done)  Call ...");
@@ -184,7 +186,7 @@ TEST_F(GridKeys, EnterOpensTheMenuOfADayThatHasItems) {
 }
 
 TEST_F(GridKeys, TheDayMovesByHalfHours) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Press(Qt::Key_Down);
     EXPECT_EQ(window->CurrentHalfHour, 10);
     EXPECT_TRUE(HalfHourIsFramed(1));
@@ -205,7 +207,7 @@ TEST_F(GridKeys, TheDayMovesByHalfHours) {
 TEST_F(GridKeys, TheDayChoosesAmongTheEventsOfAHalfHour) {
     AddEventRecord({.time = "05:00 AM", .duration = "1 Hour"});
     AddEventRecord({.time = "05:00 AM", .duration = "30 Minutes"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Press(Qt::Key_Down);
     EXPECT_EQ(window->CurrentEvent, 1);
     Press(Qt::Key_Right);
@@ -223,7 +225,7 @@ TEST_F(GridKeys, TheDayChoosesAmongTheEventsOfAHalfHour) {
 TEST_F(GridKeys, TheFrameIsOnTheEventThatWasChosenInTheHalfHour) {
     AddEventRecord({.time = "05:00 AM", .duration = "30 Minutes", .desc = "A"});
     AddEventRecord({.time = "05:00 AM", .duration = "1 Hour", .desc = "B"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(FramedEvents(), QStringList{});
     Press(Qt::Key_Down);
     EXPECT_EQ(FramedEvents(), QStringList{" A"});
@@ -235,11 +237,11 @@ TEST_F(GridKeys, TheFrameIsOnTheEventThatWasChosenInTheHalfHour) {
 
 TEST_F(GridKeys, AnotherModeBeginsWithoutAHalfHour) {
     AddEventRecord({.time = "05:00 AM", .desc = "A"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Press(Qt::Key_Down);
     ASSERT_EQ(FramedEvents(), QStringList{" A"});
-    window->ShowTaskMode();
-    window->ShowEventMode();
+    ShowTaskMode(*window);
+    ShowEventMode(*window);
     EXPECT_EQ(window->CurrentHalfHour, -1);
     EXPECT_EQ(window->CurrentEvent, 0);
     EXPECT_EQ(FramedEvents(), QStringList{});
@@ -247,7 +249,7 @@ TEST_F(GridKeys, AnotherModeBeginsWithoutAHalfHour) {
 }
 
 TEST_F(GridKeys, ControlMovesTheSelectedDayFromEveryView) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     Press(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(window->SelectedDate, Date{2009y / 10 / 15});
     Press(Qt::Key_PageDown, Qt::ControlModifier);
@@ -259,15 +261,15 @@ TEST_F(GridKeys, ControlMovesTheSelectedDayFromEveryView) {
 }
 
 TEST_F(GridKeys, RemindersModeKeepsToToday) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     window->MenuTasks->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     Press(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(window->SelectedDate, Wednesday);
 }
 
 TEST_F(GridKeys, TheFocusIsSeenAroundTheGrid) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->picGrid->setFocus();
     const auto* frame = window->picGrid->findChild<QWidget*>("focusFrame");
     ASSERT_NE(frame, nullptr);
@@ -279,15 +281,15 @@ TEST_F(GridKeys, TheFocusIsSeenAroundTheGrid) {
 }
 
 TEST_F(GridKeys, OtherKeysAreLeftToTheWindow) {
-    window->ShowHomeworkMode();
-    EXPECT_FALSE(window->GridKeyPressed(Qt::Key_Tab, Qt::NoModifier));
-    EXPECT_FALSE(window->GridKeyPressed(Qt::Key_A, Qt::NoModifier));
-    EXPECT_FALSE(window->GridKeyPressed(Qt::Key_Down, Qt::AltModifier));
+    ShowHomeworkMode(*window);
+    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_Tab, Qt::NoModifier).taken);
+    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_A, Qt::NoModifier).taken);
+    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_Down, Qt::AltModifier).taken);
 }
 
 TEST_F(GridKeys, AClickTakesTheFrameWithIt) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     ClickRow(2);
     EXPECT_TRUE(CurrentRowIsFramed(2));
@@ -299,7 +301,7 @@ TEST_F(GridKeys, AClickTakesTheFrameWithIt) {
 
 TEST_F(GridKeys, TheMouseDoesWhatItDidBefore) {
     AddAssignments(5);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     ClickRow(2);
     EXPECT_EQ(Opened, QStringList{"Planovarium - Edit Assignment: A2"});
@@ -308,7 +310,7 @@ TEST_F(GridKeys, TheMouseDoesWhatItDidBefore) {
 
 TEST_F(GridKeys, AKeyToTheSideLeavesTheViewWhereItIs) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(20);
     Press(Qt::Key_Left);
     EXPECT_EQ(window->FirstRow, 20);
@@ -316,14 +318,14 @@ TEST_F(GridKeys, AKeyToTheSideLeavesTheViewWhereItIs) {
 }
 
 TEST_F(GridKeys, AKeyToTheSideLeavesTheDayAtTheMorning) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Press(Qt::Key_Right);
     EXPECT_EQ(window->FirstRow, 11);
     EXPECT_EQ(window->CurrentHalfHour, -1);
 }
 
 TEST_F(GridKeys, TheLastHalfHourIsSeenWhole) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->resize(window->width(), window->height() + SlotHeight - window->picGrid->height() % SlotHeight);
     ASSERT_TRUE(WaitUntil([this] { return window->picGrid->height() % SlotHeight == 0; }));
     Press(Qt::Key_End);
@@ -338,7 +340,7 @@ TEST_F(GridKeys, TheLastHalfHourIsSeenWhole) {
 }
 
 TEST_F(GridKeys, TheLastHalfHourIsSeenWhereAllOthersFit) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->resize(1000, window->height() + 47 * SlotHeight - window->picGrid->height());
     ASSERT_TRUE(WaitUntil([this] { return window->RowsVisible == 47; }));
     Press(Qt::Key_End);
@@ -351,7 +353,7 @@ TEST_F(GridKeys, TheLastHalfHourIsSeenWhereAllOthersFit) {
 
 TEST_F(GridKeys, TheMenuKeyShowsTheRowOfTheKeys) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Press(Qt::Key_End);
     window->VSGridScroll->setValue(1);
     MenuAfter(Qt::Key_Menu);
@@ -361,7 +363,7 @@ TEST_F(GridKeys, TheMenuKeyShowsTheRowOfTheKeys) {
 }
 
 TEST_F(GridKeys, TheMenuKeyShowsTheHalfHourOfTheKeys) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     Press(Qt::Key_Home);
     window->VSGridScroll->setValue(20);
     MenuAfter(Qt::Key_Menu);

@@ -1,6 +1,9 @@
 // What the pointer is shown on the grid as it passes: what a click opens, and the tips.
 #include "mainwindow/input/GridPointer.h"
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 #include "toolkit/Text.h"
 
 #include <QHelpEvent>
@@ -48,7 +51,7 @@ protected:
 
 TEST_F(GridPointer, ARowUnderThePointerShowsThatItCanBeOpened) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const QImage before = window->picGrid->grab().toImage();
     PointAt(RowPoint(2));
     EXPECT_EQ(window->picGrid->Hover(), RowRect(2));
@@ -64,7 +67,7 @@ TEST_F(GridPointer, ARowUnderThePointerShowsThatItCanBeOpened) {
 
 TEST_F(GridPointer, NothingIsShownOnceThePointerHasLeftTheRows) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     for (QWidget* beyond :
          {static_cast<QWidget*>(window->picColHeader[5]), static_cast<QWidget*>(window->VSGridScroll)}) {
         PointAt(RowPoint(1));
@@ -81,12 +84,12 @@ TEST_F(GridPointer, NothingIsShownOnceThePointerHasLeftTheRows) {
 
 TEST_F(GridPointer, ARowThatIsGoneIsNotShownAnyMore) {
     AddAssignments(2);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     PointAt(RowPoint(2));
     window->ComboDateRange->setCurrentText("Day");
     ASSERT_EQ(window->RowCount, 2);
     EXPECT_EQ(window->picGrid->Hover(), RowRect(2));
-    window->GoToDate(window->ClickedDate + std::chrono::days{1});
+    GoToDate(*window, window->ClickedDate + std::chrono::days{1});
     ASSERT_EQ(window->RowCount, 0);
     EXPECT_EQ(window->picGrid->Hover(), std::nullopt);
 }
@@ -94,14 +97,14 @@ TEST_F(GridPointer, ARowThatIsGoneIsNotShownAnyMore) {
 TEST_F(GridPointer, AnEventAndADaysCountersShowThatTheyCanBeOpened) {
     AddEventRecord({.time = "06:00 AM", .duration = "1 Hour"});
     AddTaskRecord({});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     const UnitRect box = EventBoxOf(1, window->FirstRow);
     PointAt(Middle(box));
     EXPECT_EQ(window->picGrid->Hover(), box);
     PointAt(Middle(box) + QPoint(0, 3 * SlotHeight));
     EXPECT_EQ(window->picGrid->Hover(), std::nullopt);
 
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const UnitRect tasks = SelectedDay().icon[1];
     PointAt(Middle(tasks));
     EXPECT_EQ(window->picGrid->Hover(), tasks);
@@ -115,8 +118,8 @@ TEST_F(GridPointer, AShortenedCellTellsItsWholeTextAndOneThatFitsNothing) {
     AddClassRecord({.id = "2", .name = LongName.substr(0, 40)});
     AddAssignmentRecord({.class_ = "2", .desc = "<b>"});
     SetupActiveClasses();
-    window->ShowHomeworkMode();
-    window->ColumnClicked(5); // "<b>", "Page 12", the long one
+    ShowHomeworkMode(*window);
+    ColumnClicked(*window, 5); // "<b>", "Page 12", the long one
     ASSERT_LT(Cell(ListKind::Homework, 3, Description).text.size(), 200);
     EXPECT_EQ(Tip(CellPoint(3, Description)), FromStore(LongName));
     EXPECT_EQ(Tip(CellPoint(2, Description)), "");
@@ -129,8 +132,8 @@ TEST_F(GridPointer, AShortenedCellTellsItsWholeTextAndOneThatFitsNothing) {
 TEST_F(GridPointer, AMarkTellsWhatItMeans) {
     AddAssignmentRecord({.priority = "True", .reminder = "True"});
     AddAssignmentRecord({});
-    window->ShowHomeworkMode();
-    window->ColumnClicked(1);
+    ShowHomeworkMode(*window);
+    ColumnClicked(*window, 1);
     const bool first = !Cell(ListKind::Homework, 1, 1).text.isEmpty();
     EXPECT_EQ(Tip(CellPoint(first ? 1 : 2, 1)), "Reminder");
     EXPECT_EQ(Tip(CellPoint(first ? 1 : 2, 2)), "Priority");
@@ -138,12 +141,12 @@ TEST_F(GridPointer, AMarkTellsWhatItMeans) {
 }
 
 TEST_F(GridPointer, TitlesTellWhatTheySortByAndTheKey) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->picColHeader[1]->toolTip(), "Sort by Reminder (1)");
     EXPECT_EQ(window->picColHeader[2]->toolTip(), "Sort by Priority (2)");
     EXPECT_EQ(window->picColHeader[8]->toolTip(), "Sort by Done (8)");
     EXPECT_EQ(window->picColHeader[0]->toolTip(), "") << "it does not sort";
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(window->picColHeader[2]->toolTip(), "Sort by Name (2)");
 }
 
@@ -154,7 +157,7 @@ TEST_F(GridPointer, TheCountersOfADayTellWhatTheyCount) {
     AddEventRecord({});
     AddEventRecord({});
     AddTaskRecord({.date = "2009/10/15"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(Tip(Middle(SelectedDay().icon[0])), "Homework of the day: 1 / 2 done (H)");
     EXPECT_EQ(Tip(Middle(SelectedDay().icon[1])), "Tasks of the day: 0 / 1 done (T)");
     EXPECT_EQ(Tip(Middle(SelectedDay().icon[2])), "Events of the day: 2 (E)");
@@ -166,7 +169,7 @@ TEST_F(GridPointer, TheCountersOfADayTellWhatTheyCount) {
 TEST_F(GridPointer, AShortenedEventTellsItsWholeText) {
     AddEventRecord({.time = "06:00 AM", .duration = "1 Hour", .desc = LongName});
     AddEventRecord({.time = "08:00 AM", .duration = "1 Hour", .desc = "Chess"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     for (int row = 1; row <= 2; ++row) {
         const bool isLong = EventBoxText(row).size() > LongName.size();
         EXPECT_EQ(Tip(Middle(EventBoxOf(row, window->FirstRow))),
@@ -176,7 +179,7 @@ TEST_F(GridPointer, AShortenedEventTellsItsWholeText) {
 
 TEST_F(GridPointer, ATipAppearsAsItIsAskedForAndShowsTheTextAsItStands) {
     AddAssignmentRecord({.desc = "<b>" + LongName});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const QPoint point = CellPoint(1, Description);
     QHelpEvent asked(QEvent::ToolTip, point, window->picGrid->mapToGlobal(point));
     QCoreApplication::sendEvent(window->picGrid, &asked);

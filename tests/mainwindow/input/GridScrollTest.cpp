@@ -1,5 +1,6 @@
 // The scroll bar of the grid and the mouse wheel.
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 
@@ -23,7 +24,7 @@ protected:
 
 TEST_F(GridScrolls, TheScrollBarIsDisabledWhileAllRowsFit) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_FALSE(window->VSGridScroll->isEnabled());
     EXPECT_TRUE(window->VSGridScroll->isVisible());
     EXPECT_EQ(window->VSGridScroll->value(), 1);
@@ -31,7 +32,7 @@ TEST_F(GridScrolls, TheScrollBarIsDisabledWhileAllRowsFit) {
 
 TEST_F(GridScrolls, TheScrollBarRunsUntilTheLastRowIsTheLastVisible) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_TRUE(window->VSGridScroll->isEnabled());
     EXPECT_EQ(window->VSGridScroll->minimum(), 1);
     EXPECT_EQ(window->VSGridScroll->maximum(), 60 - window->RowsVisible + 1);
@@ -43,7 +44,7 @@ TEST_F(GridScrolls, TheScrollBarRunsUntilTheLastRowIsTheLastVisible) {
 
 TEST_F(GridScrolls, ScrollingShowsTheRowsFromItsValueOn) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(7);
     EXPECT_EQ(window->FirstRow, 7);
     EXPECT_EQ(RowTexts(ListKind::Homework, 1).mid(0, 6),
@@ -52,7 +53,7 @@ TEST_F(GridScrolls, ScrollingShowsTheRowsFromItsValueOn) {
 
 TEST_F(GridScrolls, TheFirstRowSurvivesARefresh) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(7);
     Refresh();
     EXPECT_EQ(window->FirstRow, 7);
@@ -60,7 +61,7 @@ TEST_F(GridScrolls, TheFirstRowSurvivesARefresh) {
 
 TEST_F(GridScrolls, AListThatBecomesShorterKeepsItsLastRowsInView) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setValue(window->VSGridScroll->maximum());
     while (Store.Assignment.id.Count() > 40) {
         RemoveRecord(Store.Assignment, AssignmentFields, 1);
@@ -78,7 +79,7 @@ TEST_F(GridScrolls, AListThatBecomesShorterKeepsItsLastRowsInView) {
 
 TEST_F(GridScrolls, TheScrollBarHandsItsFocusToTheGrid) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->VSGridScroll->setFocus();
     EXPECT_EQ(window->focusWidget(), window->picGrid);
     EXPECT_EQ(window->VSGridScroll->focusPolicy(), Qt::NoFocus);
@@ -86,7 +87,7 @@ TEST_F(GridScrolls, TheScrollBarHandsItsFocusToTheGrid) {
 
 TEST_F(GridScrolls, TheWheelMovesThreeRowsAndStopsAtBothEnds) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->picGrid, -120);
     EXPECT_EQ(window->FirstRow, 4);
     TurnWheel(window->picGrid, 120);
@@ -100,7 +101,7 @@ TEST_F(GridScrolls, TheWheelMovesThreeRowsAndStopsAtBothEnds) {
 
 TEST_F(GridScrolls, TheWheelCountsOverTitlesAndOverTheRestOfTheWindow) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->picColHeader[3], -120);
     EXPECT_EQ(window->FirstRow, 4);
     TurnWheel(window->LabelTop, -120);
@@ -109,7 +110,7 @@ TEST_F(GridScrolls, TheWheelCountsOverTitlesAndOverTheRestOfTheWindow) {
 
 TEST_F(GridScrolls, TheWheelCountsOverEveryPicture) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     for (PictureBox* picture : {window->picStatusBar, window->PictureBarTasks, window->picCalMonthUp,
                                 window->picCalDayDown, window->picToday, window->picTime}) {
         window->VSGridScroll->setValue(1);
@@ -120,7 +121,7 @@ TEST_F(GridScrolls, TheWheelCountsOverEveryPicture) {
 
 TEST_F(GridScrolls, HalfNotchesOverTwoPicturesAreAWholeOne) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->picGrid, -60);
     TurnWheel(window->picColHeader[3], -60);
     EXPECT_EQ(window->FirstRow, 4);
@@ -128,7 +129,7 @@ TEST_F(GridScrolls, HalfNotchesOverTwoPicturesAreAWholeOne) {
 
 TEST_F(GridScrolls, TheWheelMovesThreeRowsOverTheScrollBarToo) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->VSGridScroll, -120);
     EXPECT_EQ(window->FirstRow, 4);
     TurnWheel(window->VSGridScroll, 120);
@@ -136,7 +137,7 @@ TEST_F(GridScrolls, TheWheelMovesThreeRowsOverTheScrollBarToo) {
 }
 
 TEST_F(GridScrolls, TheWheelMovesTheDayByThreeHalfHours) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     TurnWheel(window->picGrid, -120);
     EXPECT_EQ(window->FirstRow, 14);
     TurnWheel(window->picGrid, 120);
@@ -145,7 +146,7 @@ TEST_F(GridScrolls, TheWheelMovesTheDayByThreeHalfHours) {
 
 TEST_F(GridScrolls, TheWheelCountsWholeNotches) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->picGrid, -60);
     EXPECT_EQ(window->FirstRow, 1);
     TurnWheel(window->picGrid, -60);
@@ -154,12 +155,12 @@ TEST_F(GridScrolls, TheWheelCountsWholeNotches) {
 
 TEST_F(GridScrolls, TheWheelDoesNothingWhileTheScrollBarIsDisabledOrHidden) {
     AddAssignments(60);
-    window->ShowHomeworkMode();
-    window->ShowCalendarMode();
+    ShowHomeworkMode(*window);
+    ShowCalendarMode(*window);
     TurnWheel(window->picGrid, -120);
     EXPECT_EQ(window->VSGridScroll->value(), 1);
     Store.Assignment = {};
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     TurnWheel(window->picGrid, -120);
     EXPECT_EQ(window->VSGridScroll->value(), 1);
 }

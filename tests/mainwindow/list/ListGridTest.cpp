@@ -1,5 +1,7 @@
 // The lists of the grid: their titles, their rows as painted, and the texts over them.
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 
@@ -29,7 +31,7 @@ TEST_F(ListGrid, HomeworkShowsItsCells) {
                          .time_left = "01 : 30",
                          .grade = " 95% ",
                          .reminder = "True"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(RowTexts(ListKind::Homework, 1),
               (QStringList{"1", Mark, "!", "Algebra ", "Reading", "Page 12 ", "01:30", "16-Oct-09",
                            "picStashUnchecked.svg", "95%"}));
@@ -43,7 +45,7 @@ TEST_F(ListGrid, HomeworkShowsItsCells) {
 
 TEST_F(ListGrid, HomeworkWithoutMarksOrDescription) {
     AddAssignmentRecord({.desc = "", .type = "", .done = "True"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(RowTexts(ListKind::Homework, 1),
               (QStringList{"1", "", "", "Algebra ", "", "New Assignment", "01:00", "14-Oct-09",
                            "picStashChecked.svg", ""}));
@@ -56,7 +58,7 @@ TEST_F(ListGrid, StudySessionsShowTheirCells) {
     log.assignment.Add("1");
     log.time.Add("00 : 45");
     log.date.Add("2009/10/14");
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     window->MenuCalendar->setChecked(false); // an entry from Calendar mode leaves it checked
     window->RefreshFor(ReasonModeChange);
     EXPECT_EQ(RowTexts(ListKind::StudySessions, 1),
@@ -77,7 +79,7 @@ TEST_F(ListGrid, TasksShowTheirCells) {
     TypeTable.customname.Replace(type, "Way");
     TypeTable.forecolor.Replace(type, "255");
     TypeTable.backcolor.Replace(type, "65280");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(RowTexts(ListKind::Tasks, 1),
               (QStringList{"1", Mark, "Call ", "Way ", "High", "16-Oct-09", "picStashChecked.svg"}));
     EXPECT_EQ(Cell(ListKind::Tasks, 1, 2).backcolor, 65280);
@@ -86,14 +88,14 @@ TEST_F(ListGrid, TasksShowTheirCells) {
 
 TEST_F(ListGrid, TasksWithoutValuesShowNone) {
     AddTaskRecord({.desc = "", .date_exists = "False"});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(RowTexts(ListKind::Tasks, 1),
               (QStringList{"1", "", "New Task", " ", "", "", "picStashUnchecked.svg"}));
 }
 
 TEST_F(ListGrid, RemindersShowTheirCells) {
     AddAssignmentRecord({.date = "2009/10/12", .desc = "Page 12", .reminder = "True"});
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     window->MenuCalendar->setChecked(false);
     window->RefreshFor(ReasonModeChange);
     EXPECT_EQ(RowTexts(ListKind::Reminders, 1),
@@ -114,25 +116,25 @@ TEST_F(ListGrid, EventListShowsItsCells) {
 }
 
 TEST_F(ListGrid, TitlesAreThoseOfTheMode) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(Titles(window->picColHeader), (QStringList{" #", Mark, " !", "Class", "Type", "Description",
                                                          "Time", "Due", "Done", "Score"}));
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(Titles(window->picColHeader),
               (QStringList{"#", Mark, "Name", "Type", "Priority", "Date", "Done"}));
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(Titles(window->picColHeader), QStringList{});
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(Titles(window->picColHeader),
               (QStringList{"#", "Class", "Type", "Description", "Priority", "Time", "Done On", "Due"}));
     window->MenuStudySessions->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_EQ(Titles(window->picColHeader),
               (QStringList{"#", "For", "Class", "Type", "Description", "When", "Date"}));
 }
 
 TEST_F(ListGrid, TitlesStandInBoldVerdanaFromTheCorner) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const DrawnItem title = window->picColHeader[3]->Drawn().back();
     EXPECT_EQ(title.left, 45);
     EXPECT_EQ(title.top, 45);
@@ -142,7 +144,7 @@ TEST_F(ListGrid, TitlesStandInBoldVerdanaFromTheCorner) {
 
 TEST_F(ListGrid, RowsAreInArialNine) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const DrawnItem last = window->picGrid->Drawn().back();
     ASSERT_EQ(last.kind, DrawnKind::Rectangle); // the empty score
     for (const DrawnItem& item : window->picGrid->Drawn()) {
@@ -154,7 +156,7 @@ TEST_F(ListGrid, RowsAreInArialNine) {
 
 TEST_F(ListGrid, NumbersEndAtTheSamePlace) {
     AddAssignments(12);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     for (const DrawnItem& item : window->picGrid->Drawn()) {
         if (item.kind == DrawnKind::Text && item.left < 345) {
             EXPECT_EQ(item.left + TextWidth(item.text, item.font), 345);
@@ -164,19 +166,19 @@ TEST_F(ListGrid, NumbersEndAtTheSamePlace) {
 }
 
 TEST_F(ListGrid, TheSortColumnCarriesTheArrowEvenOverAnEmptyList) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     ASSERT_EQ(window->SortColumn, 8);
     EXPECT_EQ(SortPicture(8), "picStashGridTitleUp.svg");
     for (std::size_t column : {0U, 1U, 5U, 7U, 9U}) {
         EXPECT_EQ(SortPicture(column), "") << column;
     }
-    window->ColumnClicked(8);
+    ColumnClicked(*window, 8);
     EXPECT_EQ(SortPicture(8), "picStashGridTitleDown.svg");
     EXPECT_EQ(RowsPainted(), 0);
 }
 
 TEST_F(ListGrid, AnEmptyListPaintsTitlesAndLinesOnly) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(DrawnTexts(*window->picGrid), QStringList{});
     int lines = 0;
     for (const DrawnItem& item : window->picGrid->Drawn()) {
@@ -186,7 +188,7 @@ TEST_F(ListGrid, AnEmptyListPaintsTitlesAndLinesOnly) {
 }
 
 TEST_F(ListGrid, LinesRunAtEveryRowAndColumn) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     const auto lineAt = [this](int left, int top, int color) {
         return std::ranges::any_of(window->picGrid->Drawn(), [=](const DrawnItem& item) {
             return item.kind == DrawnKind::Line && item.left == left && item.top == top &&
@@ -211,7 +213,7 @@ TEST_F(ListGrid, LinesRunAtEveryRowAndColumn) {
 
 TEST_F(ListGrid, TextsAndChecksStandInTheirColumns) {
     AddAssignments(1);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const std::vector<ColumnPlace> places =
         PlaceColumns(ColumnsOf(ListKind::Homework), window->picGrid->WidthInUnits());
     std::vector<int> texts;
@@ -227,7 +229,7 @@ TEST_F(ListGrid, TextsAndChecksStandInTheirColumns) {
 }
 
 TEST_F(ListGrid, TheLayoutLeavesEmptyTitles) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->LayoutTaskGrid();
     for (std::size_t column = 0; column < ColumnsOf(ListKind::Tasks).size(); ++column) {
         const PictureBox& header = *window->picColHeader[column];
@@ -245,18 +247,17 @@ TEST_F(ListGrid, TheGridStandsBesideAPanelOfThreeThousandUnits) {
 }
 
 TEST_F(ListGrid, TheDayStandsOverEveryMode) {
-    for (const auto& enter :
-         {&frmMain::ShowCalendarMode, &frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode,
-          &frmMain::ShowEventMode, &frmMain::ShowStudySessionsMode, &frmMain::ShowReminderMode}) {
+    for (const auto& enter : {&ShowCalendarMode, &ShowHomeworkMode, &ShowTaskMode, &ShowEventMode,
+                              &ShowStudySessionsMode, &ShowReminderMode}) {
         window->LabelInfoTitle->clear();
-        (window.get()->*enter)();
+        enter(*window);
         EXPECT_EQ(window->LabelInfoTitle->text(), "Wednesday, Oct 14");
     }
 }
 
 TEST_F(ListGrid, ATextWiderThanItsColumnLosesItsTail) {
     AddAssignmentRecord({.desc = std::string(300, 'm')});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     const ColumnPlace column =
         PlaceColumns(ColumnsOf(ListKind::Homework), window->picGrid->WidthInUnits())[5];
     const QString text = Cell(ListKind::Homework, 1, 5).text;
@@ -269,14 +270,14 @@ TEST_F(ListGrid, ATextWiderThanItsColumnLosesItsTail) {
 
 TEST_F(ListGrid, OnlyVisibleRowsArePainted) {
     AddAssignments(500);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_GE(RowsPainted(), window->RowsVisible);
     EXPECT_LE(RowsPainted(), window->RowsVisible + 1);
     EXPECT_LT(window->picGrid->Drawn().size(), 800U);
 }
 
 TEST_F(ListGrid, RowsVisibleFollowTheHeight) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->HeaderHeight, 21);
     EXPECT_EQ(window->RowsVisible, (window->picGrid->height() - 21) / 22);
     window->resize(900, 800);
@@ -285,7 +286,7 @@ TEST_F(ListGrid, RowsVisibleFollowTheHeight) {
 }
 
 TEST_F(ListGrid, ColumnsFollowTheWidth) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->resize(1200, 700);
     const auto expected = [this] {
         return PlaceColumns(ColumnsOf(ListKind::Homework), window->picGrid->WidthInUnits())[5].left / 15;
@@ -296,7 +297,7 @@ TEST_F(ListGrid, ColumnsFollowTheWidth) {
 }
 
 TEST_F(ListGrid, HomeworkIsNamedForItsTermOrItsDay) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->LabelTop->text(), "Homework for Fall 2009");
     EXPECT_EQ(window->LabelInfoTitle->text(), "Wednesday, Oct 14");
     window->ComboDateRange->setCurrentText("Day");
@@ -307,7 +308,7 @@ TEST_F(ListGrid, HomeworkIsNamedForItsTermOrItsDay) {
 TEST_F(ListGrid, HomeworkWithoutATermHasNoName) {
     Store.Term = {};
     ChooseActiveTerm("");
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->LabelTop->text(), "");
     window->ComboDateRange->setCurrentText("Day");
     Refresh();
@@ -316,7 +317,7 @@ TEST_F(ListGrid, HomeworkWithoutATermHasNoName) {
 
 TEST_F(ListGrid, StudyIsNamedForItsTermOrItsDay) {
     window->MenuCalendar->setChecked(false);
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(window->LabelTop->text(), "Study for Fall 2009");
     window->ComboDateRange->setCurrentText("Day");
     Refresh();
@@ -328,7 +329,7 @@ TEST_F(ListGrid, StudyIsNamedForItsTermOrItsDay) {
 }
 
 TEST_F(ListGrid, TasksAreNamedForTheirRange) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     const std::array<std::pair<const char*, const char*>, 4> names{{
         {"Day", "Tasks for Wednesday, October 14, 2009"},
         {"All", "All Tasks"},
@@ -343,24 +344,24 @@ TEST_F(ListGrid, TasksAreNamedForTheirRange) {
 }
 
 TEST_F(ListGrid, RemindersAndEventsAreNamedForTheDay) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(window->LabelTop->text(), "Events for Wednesday, October 14, 2009");
     window->MenuEvents->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_EQ(window->LabelTop->text(), "Reminders for Wednesday, October 14, 2009");
 }
 
 TEST_F(ListGrid, CountersFollowTheFill) {
     AddAssignmentRecord({.time_left = "01 : 30"});
     AddAssignmentRecord({.done = "True"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(window->TextBoxTotalAssignments->text(), "2");
     EXPECT_EQ(window->TextBoxFinishedAssignments->text(), "1");
     EXPECT_EQ(window->TextBoxTimeRemaining->text(), "01:30");
     AddTaskRecord({});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(window->TextBoxTotalTasks->text(), "1");
     AddEventRecord({});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(window->TextBoxOtherEvents->text(), "1");
 }

@@ -1,4 +1,5 @@
 // The items of "Launch on System Startup".
+#include "mainwindow/frame/Unload.h"
 #include "support/WindowTest.h"
 #include "toolkit/Text.h"
 
@@ -112,7 +113,7 @@ TEST_F(AutoStart, CheckedItemDoesNothing) {
 TEST_F(AutoStart, ChoiceIsKeptInThePreferences) {
     Load("AutoStart=Full\n");
     window->MenuStartNo->trigger();
-    window->Unload();
+    Unload(*window);
     EXPECT_NE(ReadData("Prefs.ini").find("\nAutoStart=No\n"), std::string::npos);
 }
 

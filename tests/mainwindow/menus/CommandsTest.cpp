@@ -1,5 +1,6 @@
 // The commands of the menu bar, the mode bar and the buttons.
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 #include "toolkit/Text.h"
 
 #include <QMenuBar>
@@ -133,8 +134,8 @@ TEST_F(Commands, ModeBarIsPressedAndReleasedOnOneThing) {
 }
 
 TEST_F(Commands, StudySessionsAreNotShownInTheModeBar) {
-    for (const auto& enter : {&frmMain::ShowStudySessionsMode, &frmMain::ShowTaskMode}) {
-        (window.get()->*enter)();
+    for (const auto& enter : {&ShowStudySessionsMode, &ShowTaskMode}) {
+        enter(*window);
         EXPECT_TRUE(window->PictureBarStudySessions->isHidden());
     }
     EXPECT_FALSE(window->MenuStudySessions->isVisible());

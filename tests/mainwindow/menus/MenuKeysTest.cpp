@@ -1,5 +1,7 @@
 // The keys of the menus' items: each item has one, and no two of a menu share it.
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/menus/PopupMenus.h"
+#include "mainwindow/modes/Modes.h"
 
 #include <QMenuBar>
 
@@ -41,9 +43,9 @@ void ExpectKeys(const QList<QAction*>& items, const QString& menu) {
 } // namespace
 
 TEST_F(MenuKeys, EachItemOfTheMenuBarHasAKeyOfItsOwnInEveryMode) {
-    for (const auto enter : {&frmMain::ShowCalendarMode, &frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode,
-                             &frmMain::ShowEventMode, &frmMain::ShowStudySessionsMode}) {
-        (window.get()->*enter)();
+    for (const auto enter :
+         {&ShowCalendarMode, &ShowHomeworkMode, &ShowTaskMode, &ShowEventMode, &ShowStudySessionsMode}) {
+        enter(*window);
         ExpectKeys(window->menuBar()->actions(), "menu bar");
     }
     window->MenuStartup->menuAction()->setVisible(true);
@@ -56,13 +58,12 @@ TEST_F(MenuKeys, EachCommandOfAContextMenuHasAKeyOfItsOwn) {
     AddTaskRecord({});
     AddEventRecord({});
     Refresh();
-    for (const auto show : {&frmMain::ShowCalendarMenu, &frmMain::ShowHomeworkListMenu,
-                            &frmMain::ShowTaskListMenu, &frmMain::ShowEventListMenu}) {
-        WhenPopupOpens([](QMenu* menu) { ExpectKeys(menu->actions(), "context menu"); });
-        (window.get()->*show)();
-    }
     for (const auto show :
-         {&frmMain::ShowHomeworkDayMenu, &frmMain::ShowTaskDayMenu, &frmMain::ShowEventDayMenu}) {
+         {&ShowCalendarMenu, &ShowHomeworkListMenu, &ShowTaskListMenu, &ShowEventListMenu}) {
+        WhenPopupOpens([](QMenu* menu) { ExpectKeys(menu->actions(), "context menu"); });
+        show(*window);
+    }
+    for (const auto show : {&ShowHomeworkDayMenu, &ShowTaskDayMenu, &ShowEventDayMenu}) {
         WhenPopupOpens([](QMenu* menu) {
             const QList<QAction*> items = menu->actions();
             ASSERT_GT(items.size(), 2);
@@ -70,7 +71,7 @@ TEST_F(MenuKeys, EachCommandOfAContextMenuHasAKeyOfItsOwn) {
             ASSERT_TRUE(items[1]->isSeparator());
             ExpectKeys(items.mid(2), "menu of a day");
         });
-        (window.get()->*show)();
+        show(*window);
     }
 }
 

@@ -1,5 +1,10 @@
 // The context menus: what opens where, and what their commands do.
+#include "mainwindow/menus/PopupMenus.h"
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/flows/WindowFlow.h"
+#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
 #include "toolkit/Text.h"
@@ -47,7 +52,7 @@ const QStringList HomeworkMenu{"Add new assignment...",    "Customize colors..."
 
 TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheHomeworkList) {
     AddAssignments(3);
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(MenuOfClick(RowPoint(2), Qt::RightButton), HomeworkMenu);
     EXPECT_EQ(Opened, QStringList{});
     EXPECT_EQ(MenuOfClick(RowPoint(9), Qt::RightButton), HomeworkMenu); // past the rows
@@ -55,7 +60,7 @@ TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheHomeworkList) {
 }
 
 TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheTaskList) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(MenuOfClick(Somewhere, Qt::RightButton),
               (QStringList{"Add new task...", "Customize colors...", "-", "See all assignments...",
                            "See this day's events...", "See the Calendar..."}));
@@ -63,7 +68,7 @@ TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheTaskList) {
 
 TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheEvents) {
     AddEventRecord({});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(MenuOfClick(Somewhere, Qt::RightButton),
               (QStringList{"Add new event...", "Customize colors...", "-", "See all assignments...",
                            "See all tasks...", "See the Calendar..."}));
@@ -71,7 +76,7 @@ TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheEvents) {
 }
 
 TEST_F(PopupMenus, TheRightButtonOpensTheMenuOfTheMonthAtItsDay) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const UnitRect& area = window->CalendarGrid.cell[20].area;
     const QPoint point{area.left / UnitsPerPixel + 4, area.top / UnitsPerPixel + 4};
     EXPECT_EQ(MenuOfClick(point, Qt::RightButton),
@@ -84,7 +89,7 @@ TEST_F(PopupMenus, TheLinesOfADayOpenItsMenusWithEitherButton) {
     AddAssignmentRecord({.desc = "Page 12"});
     AddTaskRecord({.desc = "Call"});
     AddEventRecord({.desc = "Chess"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
         EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Homework), button),
                   (QStringList{"(01:00 left)  Algebra - Page 12 ...", "-", "Add new assignment...",
@@ -104,8 +109,8 @@ TEST_F(PopupMenus, TheLinesOfADayOpenItsMenusWithEitherButton) {
 TEST_F(PopupMenus, TheLinesOfAGreyDayOpenItsMenusAsTheyWerePainted) {
     AddTaskRecord({.date = "2009/10/27", .desc = "Call"});
     AddEventRecord({.date = "2009/09/29", .desc = "Chess"}); // the cell's place in October
-    window->ShowCalendarMode();
-    window->GoToDate(Date{std::chrono::year{2009} / 11 / 10});
+    ShowCalendarMode(*window);
+    GoToDate(*window, Date{std::chrono::year{2009} / 11 / 10});
     const auto day = std::ranges::find(window->Month.CellDate, Date{std::chrono::year{2009} / 10 / 27});
     const CalendarCell cell =
         window->CalendarGrid.cell.at(static_cast<std::size_t>(day - window->Month.CellDate.begin()));
@@ -113,7 +118,7 @@ TEST_F(PopupMenus, TheLinesOfAGreyDayOpenItsMenusAsTheyWerePainted) {
     ASSERT_GT(line.width, 0);
     const QPoint point = QPoint(line.left + line.width / 2, line.top + line.height / 2) / UnitsPerPixel;
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
-        window->GoToDate(Date{std::chrono::year{2009} / 11 / 10});
+        GoToDate(*window, Date{std::chrono::year{2009} / 11 / 10});
         EXPECT_EQ(MenuOfClick(point, button),
                   (QStringList{"(Not Done)  Call ...", "-", "Add new task...", "See all tasks..."}));
         EXPECT_EQ(window->LabelTop->text(), "October 2009");
@@ -123,7 +128,7 @@ TEST_F(PopupMenus, TheLinesOfAGreyDayOpenItsMenusAsTheyWerePainted) {
 TEST_F(PopupMenus, ADayMenuSortsUpwards) {
     AddEventRecord({.time = "11:00 AM", .desc = "Later"});
     AddEventRecord({.time = "09:00 AM", .desc = "Sooner"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     window->SortDirection = Descending;
     EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Events), Qt::LeftButton).mid(0, 2),
               (QStringList{"(09:00 AM)  Sooner ...", "(11:00 AM)  Later ..."}));
@@ -135,13 +140,13 @@ TEST_F(PopupMenus, TheHomeworkListTakesTheSortOfTheDayMenu) {
     AddAssignmentRecord({.desc = "B", .done = "True"});
     AddAssignmentRecord({.desc = "A"});
     AddAssignmentRecord({.desc = "C"});
-    window->ShowHomeworkMode();
-    window->ColumnClicked(5);
-    window->ColumnClicked(5);
+    ShowHomeworkMode(*window);
+    ColumnClicked(*window, 5);
+    ColumnClicked(*window, 5);
     ASSERT_EQ(SortPicture(5), "picStashGridTitleDown.svg");
     ASSERT_EQ(Cell(ListKind::Homework, 1, 5).text, "C ");
     WhenPopupOpens([](QMenu*) {});
-    window->ShowHomeworkDayMenu();
+    ShowHomeworkDayMenu(*window);
     Refresh();
     EXPECT_EQ(SortPicture(5), "");
     EXPECT_EQ(SortPicture(8), "picStashGridTitleUp.svg");
@@ -149,7 +154,7 @@ TEST_F(PopupMenus, TheHomeworkListTakesTheSortOfTheDayMenu) {
 }
 
 TEST_F(PopupMenus, AShutdownWhileAMenuIsOpenRunsNoCommand) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     WhenPopupOpens([](QMenu* menu) {
         ShuttingDown = true;
         Choose(menu, "See all tasks...");
@@ -159,7 +164,7 @@ TEST_F(PopupMenus, AShutdownWhileAMenuIsOpenRunsNoCommand) {
 }
 
 TEST_F(PopupMenus, ADayMenuWithoutItemsShowsWhatStandsBehindThem) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     const std::array<QStringList, CalendarIcons> menus{{
         {"-", "Add new assignment...", "See all assignments...", "See GPA..."},
         {"-", "Add new task...", "See all tasks..."},
@@ -168,20 +173,20 @@ TEST_F(PopupMenus, ADayMenuWithoutItemsShowsWhatStandsBehindThem) {
     for (const CalendarIcon icon : {CalendarIcon::Homework, CalendarIcon::Tasks, CalendarIcon::Events}) {
         QStringList captions;
         WhenPopupOpens([&](QMenu* menu) { captions = Captions(menu); });
-        window->ShowDayMenu(icon);
+        ShowDayMenu(*window, icon);
         EXPECT_EQ(captions, menus[static_cast<std::size_t>(icon)]);
     }
 }
 
 TEST_F(PopupMenus, AnAmpersandIsShownAsItIs) {
     AddAssignmentRecord({.desc = "Q&A"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton).first(),
               "(01:00 left)  Algebra - Q&A ...");
 }
 
 TEST_F(PopupMenus, CommandsChangeTheMode) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     MenuOfClick(Somewhere, Qt::RightButton, "See all tasks...");
     EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
     MenuOfClick(Somewhere, Qt::RightButton, "See this day's events...");
@@ -193,7 +198,7 @@ TEST_F(PopupMenus, CommandsChangeTheMode) {
 }
 
 TEST_F(PopupMenus, CommandsAskForNewItems) {
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     MenuOfClick({30, 60}, Qt::RightButton, "Add new assignment...");
     MenuOfClick({30, 60}, Qt::RightButton, "Add new task...");
     EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
@@ -202,26 +207,26 @@ TEST_F(PopupMenus, CommandsAskForNewItems) {
 TEST_F(PopupMenus, RowsOfADayMenuOpenTheirRecords) {
     AddAssignments(3);
     AddTaskRecord({.desc = "Call"});
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton, "(01:00 left)  Algebra - A2 ...");
     MenuOfClick(IconPoint(CalendarIcon::Tasks), Qt::LeftButton, "(Not Done)  Call ...");
     EXPECT_EQ(Opened, (QStringList{"Planovarium - Edit Assignment: A2", "Planovarium - Edit Task: Call"}));
 }
 
 TEST_F(PopupMenus, ANewEventOfAMenuBeginsAtNine) {
-    window->ShowEventMode();
+    ShowEventMode(*window);
     MenuOfClick(Somewhere, Qt::RightButton, "Add new event...");
     EXPECT_EQ(window->EventClickedStartTime, "9:00 AM");
 }
 
 TEST_F(PopupMenus, AMenuThatIsClosedDoesNothing) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     MenuOfClick(Somewhere, Qt::RightButton);
     EXPECT_EQ(window->CurrentMode(), Mode::Homework);
 }
 
 TEST_F(PopupMenus, TheTrayMayBuildItsMenuWhileAnotherIsOpen) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     WhenPopupOpens([this](QMenu* menu) {
         Script.trayEvents.menuWanted();
         Choose(menu, "See all tasks...");
@@ -232,21 +237,21 @@ TEST_F(PopupMenus, TheTrayMayBuildItsMenuWhileAnotherIsOpen) {
 
 // A tray may show a menu that it was given long ago.
 TEST_F(PopupMenus, TheTraysItemsKeepTheirCommandsWhateverMenuCameLater) {
-    window->ShowHomeworkMode();
-    window->HideWindows();
+    ShowHomeworkMode(*window);
+    HideWindows(*window);
     ASSERT_EQ(Script.trayEvents.menuWanted().at(2), "Open Planovarium...");
     window->show();
     MenuOfClick(Somewhere, Qt::RightButton, "See the Calendar...");
-    window->HideWindows();
+    HideWindows(*window);
     Script.trayEvents.itemChosen(2);
     EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(PopupMenus, AVerbThatIsNoneDoesNothing) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     for (const char* tag : {"homework", "homework ", "homework dance", "task see", "", "lecture 1"}) {
         window->mnuPopupItems = {{"An item", tag}};
-        window->RunPopupCommand(0);
+        RunPopupCommand(*window, 0);
         EXPECT_EQ(window->CurrentMode(), Mode::Homework) << tag;
     }
 }

@@ -1,6 +1,7 @@
 // The look of the mode bar: the active mode stands out, its parts react to the pointer, and each has a tip.
 #include "mainwindow/modes/ModeBarEntry.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/WindowTest.h"
 #include "toolkit/WindowColors.h"
 
@@ -43,7 +44,7 @@ const std::pair<QColor, QColor> Plain{ToQColor(BarColor), ToQColor(BarColor)};
 
 TEST_F(ModeBar, TheActiveModeHasAGroundAndALineOfItsOwn) {
     for (const Mode mode : {Mode::Homework, Mode::Tasks, Mode::Events, Mode::Calendar}) {
-        window->ChooseMode(mode);
+        ChooseMode(*window, mode);
         for (const Mode other : {Mode::Homework, Mode::Tasks, Mode::Events, Mode::Calendar}) {
             EXPECT_EQ(Entry(other)->IsActive(), other == mode);
             EXPECT_EQ(Look(Entry(other)),

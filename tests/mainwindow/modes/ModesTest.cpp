@@ -1,4 +1,5 @@
 // The mode entries: what each mode checks, shows, enables and offers, and what it leaves as it was.
+#include "mainwindow/modes/Modes.h"
 #include "core/Module1.h"
 #include "mainwindow/modes/ModeTables.h"
 #include "support/WindowTest.h"
@@ -33,17 +34,17 @@ protected:
     void Enter(Mode mode) {
         switch (mode) {
         case Mode::Homework:
-            return window->ShowHomeworkMode();
+            return ShowHomeworkMode(*window);
         case Mode::Calendar:
-            return window->ShowCalendarMode();
+            return ShowCalendarMode(*window);
         case Mode::StudySessions:
-            return window->ShowStudySessionsMode();
+            return ShowStudySessionsMode(*window);
         case Mode::Tasks:
-            return window->ShowTaskMode();
+            return ShowTaskMode(*window);
         case Mode::Events:
-            return window->ShowEventMode();
+            return ShowEventMode(*window);
         case Mode::Reminders:
-            return window->ShowReminderMode();
+            return ShowReminderMode(*window);
         case Mode::None:
             return;
         }

@@ -1,5 +1,7 @@
 // The filter menus: the filters kept from mode to mode, the colour of their panel, and what a choice does.
+#include "mainwindow/modes/ViewMenus.h"
 #include "core/Module1.h"
+#include "mainwindow/modes/Modes.h"
 #include "planner/rows/Colors.h"
 #include "support/WindowTest.h"
 
@@ -31,83 +33,83 @@ protected:
 
 TEST_F(ViewMenus, StartWithTheFirstFiltersOfEachMode) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/Term");
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/Term");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/All");
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/Month");
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/Today");
 }
 
 TEST_F(ViewMenus, FirstModeEntryOfARunSavesNothing) {
     LoadWindow();
     EXPECT_FALSE(StartupComplete) << "cleared by the entry of Calendar";
-    window->InitViewMenus();
+    InitViewMenus();
     StartupComplete = true;
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     Choose("Done", "Day");
     StartupComplete = true;
-    window->ShowHomeworkMode();
-    window->ShowTaskMode();
+    ShowHomeworkMode(*window);
+    ShowTaskMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/All");
 }
 
 TEST_F(ViewMenus, ModeComesBackWithTheFiltersThatWereLeft) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     Choose("Not Done", "Day");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     Choose("Done", "Without Date");
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "Not Done/Day");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "Done/Without Date");
 }
 
 TEST_F(ViewMenus, CalendarStoresTheFiltersOfTheModeLeftAndTouchesNothingElse) {
     LoadWindow();
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     Choose("Done", "Day");
-    window->ShowCalendarMode();
+    ShowCalendarMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "Done/Day") << "the hidden menus are left as they are";
     EXPECT_EQ(ChosenFilters[2].list + "/" + ChosenFilters[2].range, "Done/Day");
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "All/Term") << "Calendar itself has stored nothing";
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(List() + "/" + Range(), "Done/Day");
 }
 
 TEST_F(ViewMenus, StudySessionsKeepTheirFilterEvenWhenEnteredFromCalendar) {
     LoadWindow();
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     Choose("All", "Day");
-    window->ShowTaskMode();
-    window->ShowStudySessionsMode();
+    ShowTaskMode(*window);
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(Range(), "Day");
 }
 
 TEST_F(ViewMenus, PanelTakesTheColorOfTheWord) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(PanelColor(), ToQColor(ColorAll));
     window->ComboList->setCurrentText("Done");
     EXPECT_EQ(PanelColor(), ToQColor(ColorDone));
     window->ComboList->setCurrentText("Not Done");
     EXPECT_EQ(PanelColor(), ToQColor(ColorNotDone));
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     window->ComboList->setCurrentText("Tasks");
     EXPECT_EQ(PanelColor(), ToQColor(ColorTasks));
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(PanelColor(), ToQColor(ColorNotDone)) << "restored with the mode";
 }
 
 TEST_F(ViewMenus, EmptyWordLeavesTheColor) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->ComboList->setCurrentText("Done");
     window->ComboList->setCurrentIndex(-1);
     EXPECT_EQ(PanelColor(), ToQColor(ColorDone));
@@ -115,14 +117,14 @@ TEST_F(ViewMenus, EmptyWordLeavesTheColor) {
 
 TEST_F(ViewMenus, ListPaintsThePanelEvenWhereItCannotRefresh) {
     LoadWindow();
-    window->ShowEventMode();
+    ShowEventMode(*window);
     window->ComboList->setCurrentText("Classes");
     EXPECT_EQ(PanelColor(), ToQColor(ColorTasks));
 }
 
 TEST_F(ViewMenus, RangeDoesNotPaintThePanel) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     QPalette colors = window->PictureBoxViewMenus->palette();
     colors.setColor(QPalette::Window, Qt::magenta);
     window->PictureBoxViewMenus->setPalette(colors);
@@ -134,7 +136,7 @@ TEST_F(ViewMenus, RangeDoesNotPaintThePanel) {
 
 TEST_F(ViewMenus, ChoiceRefreshesTheView) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_TRUE(RefreshesWhen([this] { window->ComboList->setCurrentText("Done"); }));
     EXPECT_TRUE(RefreshesWhen([this] { window->ComboDateRange->setCurrentText("Day"); }));
     EXPECT_EQ(window->RefreshReason, "None");
@@ -142,42 +144,42 @@ TEST_F(ViewMenus, ChoiceRefreshesTheView) {
 
 TEST_F(ViewMenus, ChoiceRefreshesStudySessionsAndReminders) {
     LoadWindow();
-    window->ShowTaskMode(); // entered from Calendar they would leave it checked
-    window->ShowStudySessionsMode();
+    ShowTaskMode(*window); // entered from Calendar they would leave it checked
+    ShowStudySessionsMode(*window);
     EXPECT_TRUE(RefreshesWhen([this] { window->ComboDateRange->setCurrentText("Day"); }));
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_TRUE(RefreshesWhen([this] { window->ComboList->setCurrentText("Tasks"); }));
 }
 
 TEST_F(ViewMenus, ChoiceByKeyRefreshesTheView) {
     LoadWindow();
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_TRUE(RefreshesWhen([this] { QTest::keyClick(window->ComboDateRange, Qt::Key_Down); }));
     EXPECT_EQ(Range(), "With Date");
 }
 
 TEST_F(ViewMenus, NeitherRefreshesInEventsMode) {
     LoadWindow();
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_FALSE(RefreshesWhen([this] { Choose("Classes", "Day"); }));
 }
 
 TEST_F(ViewMenus, NeitherRefreshesWhileCalendarIsChecked) {
     LoadWindow();
-    window->ShowReminderMode(); // Calendar stays checked
+    ShowReminderMode(*window); // Calendar stays checked
     EXPECT_FALSE(RefreshesWhen([this] { window->ComboList->setCurrentText("Tasks"); }));
 }
 
 TEST_F(ViewMenus, NeitherRefreshesWhileAModeIsEntered) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->ChangingMode = true;
     EXPECT_FALSE(RefreshesWhen([this] { Choose("Done", "Day"); }));
 }
 
 TEST_F(ViewMenus, NeitherRefreshesDuringARefresh) {
     LoadWindow();
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->RefreshReason = "NewRecord";
     EXPECT_FALSE(RefreshesWhen([this] { Choose("Done", "Day"); }));
     EXPECT_EQ(window->RefreshReason, "NewRecord");

@@ -1,4 +1,5 @@
 // The large calendar as it was painted on the grid.
+#include "mainwindow/flows/ViewFlow.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
@@ -76,7 +77,7 @@ TEST_F(LargeCalendar, HidesTheScrollBarAndTheTitles) {
 TEST_F(LargeCalendar, HeadsNameTheWeekdaysFromTheFirst) {
     const QStringList heads = DrawnTexts(*window->picGrid).mid(0, 7);
     EXPECT_EQ(heads.join(' ').toStdString(), "Sunday Monday Tuesday Wednesday Thursday Friday Saturday");
-    window->ChooseStartDayOfWeek("Monday");
+    ChooseStartDayOfWeek(*window, "Monday");
     EXPECT_EQ(DrawnTexts(*window->picGrid).value(0), "Monday");
     EXPECT_EQ(DrawnTexts(*window->picGrid).value(6), "Sunday");
 }
@@ -143,7 +144,7 @@ TEST_F(LargeCalendar, EveryCellHasATabWithItsDay) {
 }
 
 TEST_F(LargeCalendar, TodayHasAFrameTwoLinesThick) {
-    window->GoToDate(Date{2009y / 10 / 20});
+    GoToDate(*window, Date{2009y / 10 / 20});
     std::vector<DrawnItem> frames;
     std::ranges::copy_if(Drawn(), std::back_inserter(frames), [](const DrawnItem& item) {
         return item.kind == DrawnKind::Frame && item.color == 0x5A4239; // RGB 57, 66, 90
@@ -158,7 +159,7 @@ TEST_F(LargeCalendar, TodayHasAFrameTwoLinesThick) {
 }
 
 TEST_F(LargeCalendar, TodayAsAGreyCellHasNoFrame) {
-    window->GoToDate(Date{2009y / 9 / 2}); // 14 October is beyond; 1 October would be seen
+    GoToDate(*window, Date{2009y / 9 / 2}); // 14 October is beyond; 1 October would be seen
     SetClock(2009, 10, 1);
     window->RefreshFor(ReasonCalendar);
     EXPECT_TRUE(std::ranges::none_of(Drawn(), [](const DrawnItem& item) {
@@ -233,7 +234,7 @@ TEST_F(LargeCalendar, NothingOfALineIsCutOffAtTheSmallestSize) {
 TEST_F(LargeCalendar, TitlesNameTheMonthAndTheDay) {
     EXPECT_EQ(window->LabelTop->text(), "October 2009");
     EXPECT_EQ(window->LabelInfoTitle->text(), "Wednesday, Oct 14");
-    window->GoToDate(Date{2010y / 2 / 1});
+    GoToDate(*window, Date{2010y / 2 / 1});
     EXPECT_EQ(window->LabelTop->text(), "February 2010");
     EXPECT_EQ(window->LabelInfoTitle->text(), "Monday, Feb 1");
 }

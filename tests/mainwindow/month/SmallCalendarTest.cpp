@@ -1,4 +1,6 @@
 // The small calendar of the main window: what it shows, and its days and buttons.
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/EventRecords.h"
 #include "support/Looks.h"
 #include "support/StoreRecords.h"
@@ -74,10 +76,10 @@ TEST_F(SmallCalendar, DaysStandApartFromTheButtonsBelow) {
 
 TEST_F(SmallCalendar, TodayAsAGreyCellHasNoFrame) {
     SetClock(2009, 10, 31);
-    window->GoToDate(Date{2009y / 11 / 2});
+    GoToDate(*window, Date{2009y / 11 / 2});
     EXPECT_EQ(Day(6)->text(), "31");
     EXPECT_FALSE(window->LabelCalTileBorder->isVisible());
-    window->GoToDate(Date{2009y / 10 / 2});
+    GoToDate(*window, Date{2009y / 10 / 2});
     EXPECT_TRUE(window->LabelCalTileBorder->isVisible());
 }
 
@@ -99,14 +101,14 @@ TEST_F(SmallCalendar, AClickWithinTheMonthDoesNotMakeTheMarksAnew) {
 
 TEST_F(SmallCalendar, AnotherMonthHasItsOwnMarks) {
     AddEventRecord({.date = "2009/11/10"});
-    window->GoToDate(Date{2009y / 11 / 1});
+    GoToDate(*window, Date{2009y / 11 / 1});
     EXPECT_EQ(Day(16)->text(), "10");
     EXPECT_TRUE(HasBackColor(Day(16), ColorAll));
 }
 
 TEST_F(SmallCalendar, TheSameMonthOfAnotherYearHasItsOwnMarks) {
     AddEventRecord({.date = "2010/10/01"});
-    window->GoToDate(Date{2010y / 10 / 20});
+    GoToDate(*window, Date{2010y / 10 / 20});
     EXPECT_EQ(Day(5)->text(), "1");
     EXPECT_TRUE(HasBackColor(Day(5), ColorAll));
 }
@@ -114,10 +116,10 @@ TEST_F(SmallCalendar, TheSameMonthOfAnotherYearHasItsOwnMarks) {
 TEST_F(SmallCalendar, MarksAreThoseOfTheMode) {
     AddAssignmentRecord({.date = "2009/10/01"});
     AddTaskRecord({.date = "2009/10/02"});
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_TRUE(HasBackColor(Day(Cell1), ColorCell));
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorAll));
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_TRUE(HasBackColor(Day(Cell1), ColorAll));
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorCell));
 }
@@ -125,7 +127,7 @@ TEST_F(SmallCalendar, MarksAreThoseOfTheMode) {
 TEST_F(SmallCalendar, MarksFollowTheFilter) {
     AddAssignmentRecord({.date = "2009/10/01", .done = "False"});
     AddAssignmentRecord({.date = "2009/10/02", .done = "True"});
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     window->ComboList->setCurrentText("Done");
     EXPECT_TRUE(HasBackColor(Day(Cell1), ColorCell));
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorDone));
@@ -140,7 +142,7 @@ TEST_F(SmallCalendar, StudySessionsEnteredFromCalendarMarkTheirLog) {
     log.time.Add("00:30");
     log.date.Add("2009/10/02");
     AddEventRecord({.date = "2009/10/01"});
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_TRUE(window->MenuCalendar->isChecked());
     EXPECT_TRUE(HasBackColor(Day(Cell1), ColorCell)); // the calendar's marks are gone
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorCell)); // the entry belongs to no assignment
@@ -149,7 +151,7 @@ TEST_F(SmallCalendar, StudySessionsEnteredFromCalendarMarkTheirLog) {
 TEST_F(SmallCalendar, RemindersEnteredFromCalendarKeepTheCalendarsMarks) {
     AddEventRecord({.date = "2009/10/01"}); // no reminder of today's
     AddTaskRecord({.date = "2009/10/02", .done = "True"});
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     ASSERT_TRUE(window->MenuCalendar->isChecked());
     EXPECT_TRUE(HasBackColor(Day(Cell1), ColorAll));
     EXPECT_TRUE(HasBackColor(Day(Cell2), ColorAll));
@@ -158,7 +160,7 @@ TEST_F(SmallCalendar, RemindersEnteredFromCalendarKeepTheCalendarsMarks) {
 TEST_F(SmallCalendar, RemindersMarkTheirTasksInTheColorOfTasks) {
     AddTaskRecord({.date = "2009/10/02", .reminder = "True"});
     window->MenuCalendar->setChecked(false);
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     window->ComboList->setCurrentText("Tasks");
     EXPECT_TRUE(HasBackColor(Day(Cell2), 0xD7EBFA));
 }
@@ -211,7 +213,7 @@ TEST_F(SmallCalendar, TheButtonOfTodayIsMarkedOnToday) {
 }
 
 TEST_F(SmallCalendar, TheButtonOfTomorrowIsMarkedOnTomorrow) {
-    window->GoToDate(Date{2009y / 10 / 15});
+    GoToDate(*window, Date{2009y / 10 / 15});
     EXPECT_TRUE(HasForeColor(window->LabelTomorrow, Red));
     EXPECT_TRUE(window->LabelTomorrow->font().bold());
     EXPECT_EQ(PictureOf(window->picTomorrow), "picStashTomorrowDown.svg");
@@ -221,7 +223,7 @@ TEST_F(SmallCalendar, TheButtonOfTomorrowIsMarkedOnTomorrow) {
 }
 
 TEST_F(SmallCalendar, OnAnyOtherDayNeitherButtonIsMarked) {
-    window->GoToDate(Date{2009y / 10 / 20});
+    GoToDate(*window, Date{2009y / 10 / 20});
     for (const ClickLabel* label : {window->LabelToday, window->LabelTomorrow}) {
         EXPECT_TRUE(HasForeColor(label, ColorBlack));
         EXPECT_FALSE(label->font().bold());
@@ -231,7 +233,7 @@ TEST_F(SmallCalendar, OnAnyOtherDayNeitherButtonIsMarked) {
 }
 
 TEST_F(SmallCalendar, InRemindersModeTomorrowIsGrey) {
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_TRUE(HasForeColor(window->LabelToday, Red));
     EXPECT_TRUE(HasForeColor(window->LabelTomorrow, 0xA9A9A9));
 }

@@ -1,6 +1,8 @@
 // The alert buttons, and the window behind each.
+#include "mainwindow/flows/Alerts.h"
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmAlert.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
 #include "toolkit/Modal.h"
@@ -108,9 +110,8 @@ TEST_F(Alerts, AllFourFitIntoTheSmallestWindowInEachModeOfTheBar) {
         AddHomework(date);
     }
     ASSERT_EQ(window->size(), QSize(780, 575));
-    for (const auto& enter : {&frmMain::ShowHomeworkMode, &frmMain::ShowEventMode, &frmMain::ShowTaskMode,
-                              &frmMain::ShowCalendarMode}) {
-        (window.get()->*enter)();
+    for (const auto& enter : {&ShowHomeworkMode, &ShowEventMode, &ShowTaskMode, &ShowCalendarMode}) {
+        enter(*window);
         QCoreApplication::sendPostedEvents();
         int above = window->PictureBoxCalendar->mapTo(window.get(), QPoint(0, 0)).y();
         for (const QWidget* widget : Stack()) {
@@ -176,21 +177,21 @@ TEST_F(Alerts, FirstMessageOpensBesideTheMainWindowAndLaterOnesWhereItWasLeft) {
         dialog->move(333, 222);
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_EQ(first, window->pos() + QPoint(250, 150));
     EXPECT_FALSE(AlertDBFirstOpen);
     WhenDialogOpens([&second](QWidget* dialog) {
         second = dialog->pos();
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_EQ(second, QPoint(333, 222));
 }
 
 TEST_F(Alerts, CloseOfTheMessageOnlyHidesIt) {
     AddHomework("2009/10/13");
     WhenDialogOpens([](QWidget* dialog) { EXPECT_FALSE(dialog->close()); });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_TRUE(window->AlertDialog->isHidden());
 }
 
@@ -202,14 +203,14 @@ TEST_F(Alerts, MessageIsModalOverTheMainWindow) {
         EXPECT_EQ(dialog->parentWidget(), window.get());
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_FALSE(ModalDialogIsOpen());
 }
 
 TEST_F(Alerts, EscapeHidesTheMessage) {
     AddHomework("2009/10/13");
     WhenDialogOpens([](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_TRUE(window->AlertDialog->isHidden());
 }
 
@@ -227,5 +228,5 @@ TEST_F(Alerts, MessageCannotBeTypedInto) {
         EXPECT_TRUE(text->isReadOnly());
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
 }

@@ -1,4 +1,7 @@
 // The small calendar of the main window: its steppers and the first day of the week.
+#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/EventRecords.h"
 #include "support/Looks.h"
 #include "support/WindowTest.h"
@@ -50,7 +53,7 @@ TEST_F(CalendarSteps, EachStepperStepsAtThePressWithItsPictureDown) {
         {window->picCalDayDown, Date{2009y / 10 / 13}, "picStashCalDayLeft"},
     };
     for (const Case& row : cases) {
-        window->GoToDate(Date{2009y / 10 / 14});
+        GoToDate(*window, Date{2009y / 10 / 14});
         QTest::mousePress(row.stepper, Qt::LeftButton);
         EXPECT_EQ(window->ClickedDate, row.date);
         EXPECT_EQ(PictureOf(row.stepper), row.picture + "Down.svg");
@@ -98,7 +101,7 @@ TEST_F(CalendarSteps, AStepperLetsGoWhenADialogOpens) {
         FireTimer(window->TimerButton);
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_FALSE(window->TimerButton->isActive());
     EXPECT_EQ(PictureOf(window->picCalDayUp), "picStashCalDayRightUp.svg");
     EXPECT_EQ(window->ClickedDate, Date{2009y / 10 / 15});
@@ -112,16 +115,16 @@ TEST_F(CalendarSteps, TheRightButtonDoesNotStep) {
 }
 
 TEST_F(CalendarSteps, OneMonthOnFrom31JanuaryIsTheLastOfFebruary) {
-    window->GoToDate(Date{2009y / 1 / 31});
+    GoToDate(*window, Date{2009y / 1 / 31});
     QTest::mouseClick(window->picCalMonthUp, Qt::LeftButton);
     EXPECT_EQ(window->ClickedDate, Date{2009y / 2 / 28});
-    window->GoToDate(Date{2012y / 1 / 31});
+    GoToDate(*window, Date{2012y / 1 / 31});
     QTest::mouseClick(window->picCalMonthUp, Qt::LeftButton);
     EXPECT_EQ(window->ClickedDate, Date{2012y / 2 / 29});
 }
 
 TEST_F(CalendarSteps, SteppingPastTheLastDateStaysThere) {
-    window->GoToDate(Date{3100y / 12 / 31});
+    GoToDate(*window, Date{3100y / 12 / 31});
     for (PictureBox* stepper : {window->picCalDayUp, window->picCalMonthUp}) {
         QTest::mouseClick(stepper, Qt::LeftButton);
         EXPECT_EQ(window->ClickedDate, Date{3100y / 12 / 31});
@@ -130,7 +133,7 @@ TEST_F(CalendarSteps, SteppingPastTheLastDateStaysThere) {
 }
 
 TEST_F(CalendarSteps, SteppingBeforeTheFirstDateStaysThere) {
-    window->GoToDate(Date{1600y / 1 / 1});
+    GoToDate(*window, Date{1600y / 1 / 1});
     for (PictureBox* stepper : {window->picCalDayDown, window->picCalMonthDown}) {
         QTest::mouseClick(stepper, Qt::LeftButton);
         EXPECT_EQ(window->ClickedDate, Date{1600y / 1 / 1});
@@ -142,16 +145,16 @@ TEST_F(CalendarSteps, SteppingBeforeTheFirstDateStaysThere) {
 
 TEST_F(CalendarSteps, HeadsRunFromTheFirstDayOfTheWeek) {
     EXPECT_EQ(Heads(), "SMTWTFS");
-    window->ChooseStartDayOfWeek("Monday");
+    ChooseStartDayOfWeek(*window, "Monday");
     EXPECT_EQ(Heads(), "MTWTFSS");
     EXPECT_EQ(Day(0)->text(), "28");
-    window->ChooseStartDayOfWeek("Saturday");
+    ChooseStartDayOfWeek(*window, "Saturday");
     EXPECT_EQ(Heads(), "SSMTWTF");
     EXPECT_EQ(Day(0)->text(), "26");
 }
 
 TEST_F(CalendarSteps, AHeadKeepsTheFullNameOfItsDay) {
-    window->ChooseStartDayOfWeek("Monday");
+    ChooseStartDayOfWeek(*window, "Monday");
     EXPECT_EQ(window->LabelCalDay[0]->property("tag").toString(), "Monday");
     EXPECT_EQ(window->LabelCalDay[6]->property("tag").toString(), "Sunday");
 }
@@ -160,7 +163,7 @@ TEST_F(CalendarSteps, TheTwoOtherStartDaysLookClickable) {
     for (std::size_t column = 0; column < 7; ++column) { // from Sunday
         EXPECT_EQ(LooksClickable(window->LabelCalDay[column]), column == 1 || column == 6) << column;
     }
-    window->ChooseStartDayOfWeek("Saturday");
+    ChooseStartDayOfWeek(*window, "Saturday");
     for (std::size_t column = 0; column < 7; ++column) {
         EXPECT_EQ(LooksClickable(window->LabelCalDay[column]), column == 1 || column == 2) << column;
     }
@@ -205,7 +208,7 @@ TEST_F(CalendarSteps, TheMenuItemOfThePresentDayStaysChecked) {
 
 TEST_F(CalendarSteps, ANewFirstDayMakesTheMarksAnew) {
     AddEventRecord({.date = "2009/10/01"});
-    window->ChooseStartDayOfWeek("Monday");
+    ChooseStartDayOfWeek(*window, "Monday");
     EXPECT_EQ(Day(3)->text(), "1");
     EXPECT_TRUE(HasBackColor(Day(3), ColorAll));
 }
@@ -213,7 +216,7 @@ TEST_F(CalendarSteps, ANewFirstDayMakesTheMarksAnew) {
 // --- Reminders mode ---
 
 TEST_F(CalendarSteps, InRemindersModeNoControlReacts) {
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     const QString month = window->LabelMonth->text();
     for (QWidget* control : std::initializer_list<QWidget*>{
              Day(Cell20), Day(0), window->LabelToday, window->LabelTomorrow, window->picCalMonthUp,
@@ -228,7 +231,7 @@ TEST_F(CalendarSteps, InRemindersModeNoControlReacts) {
 }
 
 TEST_F(CalendarSteps, TheLockLiesOverTheWholeCalendarInRemindersMode) {
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     ASSERT_TRUE(window->picLock->isVisible());
     EXPECT_TRUE(WaitUntil([this] {
         return window->picLock->geometry().contains(Day(0)->geometry()) &&

@@ -1,4 +1,5 @@
 // The boxes beside the counters, which take what the rules have worked out.
+#include "mainwindow/modes/Modes.h"
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/rows/Colors.h"
 #include "support/EventRecords.h"
@@ -33,7 +34,7 @@ protected:
 } // namespace
 
 TEST_F(CounterBoxes, OfHomeworkTurnWithWhatIsLeftOfTheDay) {
-    window->ShowHomeworkMode();
+    ShowHomeworkMode(*window);
     EXPECT_EQ(Shown({window->TextBoxTotalAssignments, window->TextBoxFinishedAssignments,
                      window->TextBoxTimeRemaining}),
               "0 white, 0 white, 00:00 white");
@@ -50,14 +51,14 @@ TEST_F(CounterBoxes, OfHomeworkTurnWithWhatIsLeftOfTheDay) {
 }
 
 TEST_F(CounterBoxes, OfStudySessionsCountTheLog) {
-    window->ShowTaskMode(); // entered from Calendar they would leave it checked
+    ShowTaskMode(*window); // entered from Calendar they would leave it checked
     AddAssignmentRecord({});
     StudySessionLists& log = Store.StudySessionRecord;
     log.id.Add("1");
     log.assignment.Add("1");
     log.time.Add("00 : 45");
     log.date.Add("2009/10/14");
-    window->ShowStudySessionsMode();
+    ShowStudySessionsMode(*window);
     EXPECT_EQ(Shown({window->TextBoxStudySessions, window->TextboxStudyTime}), "1 white, 00:45 white");
 }
 
@@ -67,7 +68,7 @@ TEST_F(CounterBoxes, OfTasksCountThoseOfTheRangeAndTheUndatedOnes) {
     for (int i = 0; i < 3; ++i) {
         AddTaskRecord({.date_exists = "False"});
     }
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(Shown({window->TextBoxTotalTasks, window->TextBoxFinishedTasks, window->TextBoxUndatedTasks}),
               "2 white, 1 not done, 3 not done");
 }
@@ -76,17 +77,17 @@ TEST_F(CounterBoxes, OfEventsCountThoseOfTheDay) {
     AddEventRecord({.duration = "2 Hours", .type = "Study Time"});
     AddEventRecord({.type = "Sports"});
     AddEventRecord({.date = "2009/10/15", .type = "Sports"});
-    window->ShowEventMode();
+    ShowEventMode(*window);
     EXPECT_EQ(Shown({window->TextBoxClasses, window->TextBoxOtherEvents, window->TextBoxSchedStudy}),
               "0 white, 1 white, 02:00 white");
 }
 
 TEST_F(CounterBoxes, OfRemindersCountEachSource) {
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     AddAssignmentRecord({.date = "2009/10/12", .est_time = "00 : 45"});
     AddAssignmentRecord({.date = "2009/10/13", .est_time = "00 : 45"});
     AddEventRecord({});
-    window->ShowReminderMode();
+    ShowReminderMode(*window);
     EXPECT_EQ(Shown({window->TextboxAssignments, window->TextBoxTasks, window->TextBoxEvents}),
               "2 not done, 0 white, 1 white");
     EXPECT_EQ(Shown({window->TextBoxMinimum, window->TextBoxSuggested}), "01:30 not done, 01:30 white");

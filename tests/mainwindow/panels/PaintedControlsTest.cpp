@@ -2,6 +2,7 @@
 // role, state, action.
 #include "editors/picker/DatePickerFixture.h"
 #include "mainwindow/input/GridTest.h"
+#include "mainwindow/modes/Modes.h"
 
 #include <QAccessible>
 
@@ -108,7 +109,7 @@ TEST_F(PaintedControls, AHeadIsAButtonWhereItStartsTheWeek) {
 TEST_F(PaintedControls, TheStatusBarTellsModeDateAndClock) {
     EXPECT_EQ(Told(window->picStatusBar)->role(), QAccessible::StatusBar);
     EXPECT_EQ(NameOf(window->picStatusBar), "Calendar Mode, Wednesday, October 14, 2009 12:00 PM");
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(NameOf(window->picStatusBar), "Task Mode, Wednesday, October 14, 2009 12:00 PM");
 }
 

@@ -1,4 +1,6 @@
 // The status bar with its clock.
+#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/WindowTest.h"
 
 #include <QSizeGrip>
@@ -61,7 +63,7 @@ TEST_F(StatusBar, IsPaintedByItsTimerEveryTenSeconds) {
 TEST_F(StatusBar, IsPaintedByAModeEntry) {
     LoadWindow();
     SetClock(2009, 10, 14, 15, 30);
-    window->ShowTaskMode();
+    ShowTaskMode(*window);
     EXPECT_EQ(DrawnTexts(*window->picStatusBar),
               (QStringList{"Task Mode", "Wednesday, October 14, 2009      03:30 PM"}));
 }
@@ -69,10 +71,9 @@ TEST_F(StatusBar, IsPaintedByAModeEntry) {
 TEST_F(StatusBar, IsPaintedByTheLayoutOfEveryMode) {
     LoadWindow();
     int minute = 0;
-    for (const auto& enter :
-         {&frmMain::ShowHomeworkMode, &frmMain::ShowTaskMode, &frmMain::ShowEventMode,
-          &frmMain::ShowCalendarMode, &frmMain::ShowStudySessionsMode, &frmMain::ShowReminderMode}) {
-        (window.get()->*enter)();
+    for (const auto& enter : {&ShowHomeworkMode, &ShowTaskMode, &ShowEventMode, &ShowCalendarMode,
+                              &ShowStudySessionsMode, &ShowReminderMode}) {
+        enter(*window);
         SetClock(2009, 10, 14, 15, ++minute);
         window->LayoutGrid();
         EXPECT_EQ(ClockText(), QStringLiteral("Wednesday, October 14, 2009      03:0%1 PM").arg(minute));
@@ -88,7 +89,7 @@ TEST_F(StatusBar, GoesOnWhileADialogIsOpen) {
         painted = window->TimerStatusBar->isActive() && ClockText().endsWith("03:30 PM");
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_TRUE(painted);
 }
 

@@ -1,4 +1,7 @@
 // The study timer: its buttons, its ticks and its clock.
+#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/frame/Unload.h"
+#include "mainwindow/modes/Modes.h"
 #include "support/WindowTest.h"
 
 using namespace std::chrono_literals;
@@ -117,7 +120,7 @@ TEST_F(StudyTimer, GoesOnWhileADialogIsOpen) {
         shown = Clock();
         dialog->close();
     });
-    window->ShowAlertMessage(3);
+    ShowAlertMessage(*window, 3);
     EXPECT_EQ(shown, "00:00:05");
 }
 
@@ -143,17 +146,16 @@ TEST_F(StudyTimer, EachButtonHandsTheFocusToTheGrid) {
 }
 
 TEST_F(StudyTimer, ShowsInEveryMode) {
-    for (const auto& enter :
-         {&frmMain::ShowHomeworkMode, &frmMain::ShowStudySessionsMode, &frmMain::ShowTaskMode,
-          &frmMain::ShowEventMode, &frmMain::ShowReminderMode, &frmMain::ShowCalendarMode}) {
-        (window.get()->*enter)();
+    for (const auto& enter : {&ShowHomeworkMode, &ShowStudySessionsMode, &ShowTaskMode, &ShowEventMode,
+                              &ShowReminderMode, &ShowCalendarMode}) {
+        enter(*window);
         EXPECT_FALSE(window->PictureBoxTimer->isHidden());
     }
 }
 
 TEST_F(StudyTimer, StopsWithTheShutdown) {
     ClickAt(window->ButtonStart, 0s);
-    window->Unload();
+    Unload(*window);
     EXPECT_FALSE(window->Timer1->isActive());
     EXPECT_FALSE(window->TimerStatusBar->isActive());
     EXPECT_FALSE(window->TimerButton->isActive());

@@ -1,0 +1,78 @@
+// The commands of menus, popup items, buttons and keys, and what runs them.
+#include "mainwindow/flows/RunCommand.h"
+
+#include "core/Module1.h"
+#include "core/RowLists.h"
+#include "core/Values.h"
+#include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/EventFlow.h"
+#include "mainwindow/flows/TaskFlow.h"
+#include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/flows/WindowFlow.h"
+#include "mainwindow/frmMain.h"
+#include "mainwindow/modes/Modes.h"
+#include "platform/Process.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+void OpenDataFolder(frmMain& /*window*/) {
+    StartProcess("explorer", {DataFolder.string()});
+}
+
+void Shutdown(frmMain& window) {
+    emit window.EndAsked();
+}
+
+struct CommandRow {
+    Command command;
+    std::string_view words; // of its popup items; empty without
+    void (*run)(frmMain& window);
+};
+
+constexpr std::array<CommandRow, 12> CommandRows{{
+    {Command::NewAssignment, "homework new", &NewAssignment},
+    {Command::NewTask, "task new", &NewTask},
+    {Command::NewEvent, "event new", &NewMorningEvent},
+    {Command::ClassSchedule, "", &ClassSchedule},
+    {Command::SeeHomework, "homework view", &ShowHomeworkMode},
+    {Command::SeeCalendar, "calendar view", &ShowCalendarMode},
+    {Command::SeeTasks, "task view", &ShowTaskMode},
+    {Command::SeeEvents, "event view", &ShowEventMode},
+    {Command::OpenDataFolder, "", &OpenDataFolder},
+    {Command::OpenWindow, "tray view", &OpenWindow},
+    {Command::HideWindows, "", &HideWindows},
+    {Command::Shutdown, "tray shutdown", &Shutdown},
+}};
+
+void EditRowOf(frmMain& window, std::string_view subject, int row) {
+    if (subject == "homework") {
+        EditAssignment(window, HomeworkRows.Item(row));
+    } else if (subject == "task") {
+        EditTask(window, TaskRows.Item(row));
+    } else if (subject == "event") {
+        EditEvent(window, EventRows.Item(row));
+    }
+}
+
+} // namespace
+
+void RunCommand(frmMain& window, Command command) {
+    const auto* const row = std::ranges::find(CommandRows, command, &CommandRow::command);
+    if (row != CommandRows.end()) {
+        row->run(window);
+    }
+}
+
+void RunPopupItem(frmMain& window, const std::string& words) {
+    const auto* const known = std::ranges::find(CommandRows, words, &CommandRow::words);
+    if (!words.empty() && known != CommandRows.end()) {
+        return known->run(window);
+    }
+    const std::size_t blank = std::min(words.find(' '), words.size());
+    if (const auto row = IdIn(words.substr(blank))) {
+        EditRowOf(window, words.substr(0, blank), *row);
+    }
+}

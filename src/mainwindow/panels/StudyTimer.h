@@ -1,0 +1,9 @@
+// The study timer: a clock that the student starts, pauses and resets.
+#pragma once
+
+class frmMain;
+
+void BindStudyTimer(frmMain& window);
+
+// Sets it to nothing run and paints it.
+void ClearStudyTimer(frmMain& window);

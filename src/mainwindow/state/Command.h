@@ -1,0 +1,18 @@
+// The commands that menus, popup items, buttons and keys give.
+#pragma once
+
+enum class Command {
+    None,
+    NewAssignment,
+    NewTask,
+    NewEvent,
+    ClassSchedule,
+    SeeHomework,
+    SeeCalendar,
+    SeeTasks,
+    SeeEvents,
+    OpenDataFolder,
+    OpenWindow,
+    HideWindows,
+    Shutdown,
+};
