@@ -1,6 +1,7 @@
 // The panel of one class in frmCourseSchedule: opened to add or to edit it, checked, saved into the dialog's
 // lists. While it is open the term's own buttons are out of reach.
 #include "core/Module1.h"
+#include "core/RunTimeError.h"
 #include "core/Values.h"
 #include "editors/frmCourseSchedule.h"
 #include "planner/entries/TermEntry.h"
@@ -37,7 +38,7 @@ void frmCourseSchedule::ResetClassPanel() {
     FillQuietly(TextBoxNotes, "");
     classForeColor = NewClassForeColor;
     classBackColor = NewClassBackColor;
-    ShowClassColors();
+    ShowClassColors(classForeColor, classBackColor);
     OriginalClassName.clear();
     for (QWidget* box : std::initializer_list<QWidget*>{TextBoxClassName, TextBoxCredits, TextBoxNotes}) {
         box->setEnabled(false);
@@ -105,22 +106,35 @@ void frmCourseSchedule::EditClass() {
     ButtonDeleteClass->setEnabled(true);
     ClassEditMode = "Edit";
     SelectedClassIndex = IndexClassIDArray.Item(ComboBoxClassList->currentIndex() + 1);
+    try {
+        FillClassPanel();
+    } catch (RunTimeError& error) {
+        if (PlaceInRecord) {
+            error.place = PlaceInRecord(error.place);
+        }
+        throw;
+    }
+}
+
+void frmCourseSchedule::FillClassPanel() {
     SelectedClassID = ToInt16(tempClassIDArray.Item(SelectedClassIndex));
     OriginalClassName = tempClassNameArray.Item(SelectedClassIndex);
     FillQuietly(TextBoxClassName, OriginalClassName);
     FillQuietly(TextBoxCredits, tempClassCreditsArray.Item(SelectedClassIndex));
     FillQuietly(TextBoxNotes, tempClassNotesArray.Item(SelectedClassIndex));
-    classForeColor = tempClassForeColorArray.Item(SelectedClassIndex);
-    classBackColor = tempClassBackColorArray.Item(SelectedClassIndex);
-    ShowClassColors();
+    const std::string& foreColor = tempClassForeColorArray.Item(SelectedClassIndex);
+    const std::string& backColor = tempClassBackColorArray.Item(SelectedClassIndex);
+    ShowClassColors(foreColor, backColor);
+    classForeColor = foreColor;
+    classBackColor = backColor;
 }
 
 // While the class is open its name stands in the colours in which the class is shown everywhere.
-void frmCourseSchedule::ShowClassColors() {
+void frmCourseSchedule::ShowClassColors(const std::string& foreColor, const std::string& backColor) {
     QPalette colors;
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        colors.setColor(group, QPalette::Base, ToQColor(ToColor(classBackColor)));
-        colors.setColor(group, QPalette::Text, ToQColor(ToColor(classForeColor)));
+        colors.setColor(group, QPalette::Base, ToQColor(ToColor(backColor)));
+        colors.setColor(group, QPalette::Text, ToQColor(ToColor(foreColor)));
     }
     TextBoxClassName->setPalette(colors);
 }

@@ -10,6 +10,8 @@
 
 #include "ui_frmCourseSchedule.h"
 
+#include <functional>
+
 class frmCourseSchedule : public EditorDialog, public Ui::frmCourseSchedule {
     Q_OBJECT
 
@@ -37,6 +39,11 @@ public:
     int NextClassID = 1;
     bool ClassError = false; // the last check of a class refused it
 
+    // Gives for a place in the texts of the classes above that in their records, and any other place
+    // unchanged; the flow sets it. The dialog asks it for a text that does not convert while the student
+    // works in it.
+    std::function<const char*(const char*)> PlaceInRecord;
+
     DatePicker* Picker = nullptr;
 
     // Escape counts as Cancel, while a class is open as that of the class.
@@ -58,11 +65,12 @@ private:
     void OpenClassPanel();
     void AddClass();
     void EditClass();
+    void FillClassPanel();
     void AcceptClass();
     void ValidateClassPanel();
     void SaveClass();
     void DeleteClass();
-    void ShowClassColors();
+    void ShowClassColors(const std::string& foreColor, const std::string& backColor);
     bool DeleteConfirmed() const;
     bool ValidateCredits(bool quiet);
 

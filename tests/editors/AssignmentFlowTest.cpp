@@ -399,6 +399,27 @@ TEST_F(AssignmentFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
                     "the Backup folder.");
 }
 
+TEST_F(AssignmentFlow, EditBesideAnAssignmentThatWasCutDropsIt) {
+    for (const bool deletes : {false, true}) {
+        Assignments = {};
+        for (const char* desc : {"one", "two", "three"}) {
+            AddAssignmentRecord({.class_ = "4", .desc = desc});
+        }
+        WriteAssignments();
+        WriteData(FileName, ReadData(FileName).substr(0, ReadData(FileName).rfind("</desc>")));
+        Assignments = {};
+        FileWrittenFlags = {};
+        ReadAssignments();
+        Script.answers = {Answer::Yes};
+        EditAssignment(1, [deletes] { deletes ? Click(AssignmentDialog->ButtonDelete) : Ok(); });
+        EXPECT_TRUE(FileWrittenFlags.assignments);
+        for (const Field<AssignmentLists>& field : AssignmentFields) {
+            EXPECT_EQ((Assignments.*field.list).Count(), deletes ? 1 : 2) << field.tag;
+        }
+        EXPECT_EQ(ReadData(FileName).find("<id>3"), std::string::npos);
+    }
+}
+
 TEST_F(AssignmentFlow, AssignmentBehindOneThatWasCutDoesNotMergeWithIt) {
     AddAssignmentRecord({.class_ = "4", .desc = "one"});
     AddAssignmentRecord({.class_ = "4", .desc = "two"});

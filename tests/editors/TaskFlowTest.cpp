@@ -265,6 +265,27 @@ TEST_F(TaskFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
               "the Backup folder.");
 }
 
+TEST_F(TaskFlow, EditBesideATaskThatWasCutDropsIt) {
+    for (const bool deletes : {false, true}) {
+        Tasks = {};
+        AddTaskRecord({.desc = "one"});
+        AddTaskRecord({.desc = "two"});
+        AddTaskRecord({.desc = "three"});
+        WriteTasks();
+        WriteData("tasks.xml", ReadData("tasks.xml").substr(0, ReadData("tasks.xml").rfind("</desc>")));
+        Tasks = {};
+        FileWrittenFlags = {};
+        ReadTasks();
+        Script.answers = {Answer::Yes};
+        EditTask(1, [deletes] { deletes ? Click(TaskDialog->ButtonDelete) : Ok(); });
+        EXPECT_TRUE(FileWrittenFlags.tasks);
+        for (const Field<TaskLists>& field : TaskFields) {
+            EXPECT_EQ((Tasks.*field.list).Count(), deletes ? 1 : 2) << field.tag;
+        }
+        EXPECT_EQ(ReadData("tasks.xml").find("<id>3"), std::string::npos);
+    }
+}
+
 TEST_F(TaskFlow, TaskBehindOneThatWasCutDoesNotMergeWithIt) {
     AddTaskRecord({.desc = "one"});
     AddTaskRecord({.desc = "two"});

@@ -1,66 +1,6 @@
 // The flow of a term: what choosing, entering and deleting leaves in the store and on the drive.
-#include "mainwindow/flows/TermFlow.h"
-#include "editors/EditorTest.h"
-#include "editors/frmCourseSchedule.h"
-#include "editors/frmSelectCourseSchedule.h"
+#include "editors/TermFlowFixture.h"
 #include "mainwindow/frame/Unload.h"
-#include "persistence/modIO.h"
-
-namespace {
-
-class TermFlow : public EditorTest {
-protected:
-    void SetUp() override {
-        EditorTest::SetUp();
-        NextTermID = 2;
-    }
-
-    // Runs the flow; the student presses one button of the chooser.
-    void Choose(QPushButton* button) {
-        WhenDialogOpens([button](QWidget*) { Click(button); });
-        ClassSchedule(*window);
-    }
-
-    // The same, and then acts in the term's dialog.
-    void ChooseAndAct(QPushButton* button, const std::function<void()>& act) {
-        WhenDialogOpens([button, act](QWidget*) {
-            WhenDialogOpens([act](QWidget*) { act(); });
-            Click(button);
-        });
-        ClassSchedule(*window);
-    }
-
-    // Cuts classes.xml before the text and starts anew.
-    void StartWithClassesCutBefore(const std::string& text) {
-        WriteTermsAndClasses();
-        WriteAssignments();
-        const std::string classes = ReadData("classes.xml");
-        cut = classes.substr(0, classes.rfind(text));
-        WriteData("classes.xml", cut);
-        Store = {};
-        ReadTermsAndClasses();
-        SetActiveTerm(*window, "Fall 2009");
-    }
-
-    std::string cut;
-
-    // Makes a term of one class by way of the dialogs.
-    void MakeTerm(const QString& name) {
-        ChooseAndAct(TermChooser->ButtonNew, [name] {
-            Type(TermDialog->TextBoxTermName, name);
-            Click(TermDialog->ButtonAddClass);
-            Type(TermDialog->TextBoxClassName, "Latin");
-            Click(TermDialog->ButtonOKClass);
-            Click(TermDialog->ButtonOK);
-        });
-    }
-
-    static void AddAssignment(const std::string& classId, const std::string& desc) {
-        AddAssignmentRecord({.class_ = classId, .desc = desc});
-    }
-};
-
-} // namespace
 
 TEST_F(TermFlow, ChooserListsTheNewestTermFirst) {
     MakeTerm("Spring 2010");
@@ -374,45 +314,4 @@ TEST_F(TermFlow, TermDialogOpensBesideTheWindowOnceAndThenWhereItWasLeft) {
         EXPECT_EQ(TermDialog->pos(), QPoint(10, 20));
         Click(TermDialog->ButtonCancel);
     });
-}
-
-TEST_F(TermFlow, ACutFileOfClassesTakesNoHomeworkAlong) {
-    AddAssignment("4", "Sets");
-    AddAssignment("7", "Rome");
-    StartWithClassesCutBefore("</name>"); // of History, which is 7
-    EXPECT_EQ(ActiveClasses.name.values, (std::vector<std::string>{"Algebra"}));
-    ChooseAndAct(TermChooser->ButtonEdit, [] { Click(TermDialog->ButtonOK); });
-    EXPECT_EQ(Store.Assignment.desc.values, (std::vector<std::string>{"Sets", "Rome"}));
-    EXPECT_NE(ReadData("assignments_1.xml").find("Rome"), std::string::npos);
-    EXPECT_TRUE(FileWrittenFlags.classes);
-    EXPECT_EQ(ReadData("Backup/classes_damaged.xml"), cut);
-}
-
-TEST_F(TermFlow, ANewClassTakesNeitherTheIdNorTheHomeworkOfOneThatWasCut) {
-    AddAssignment("9", "Rome"); // of a class that was cut off whole
-    for (const char* end : {"</name>", "<id>7"}) {
-        StartWithClassesCutBefore(end);
-        ChooseAndAct(TermChooser->ButtonEdit, [] {
-            Click(TermDialog->ButtonAddClass);
-            Type(TermDialog->TextBoxClassName, "Latin");
-            Click(TermDialog->ButtonOKClass);
-            Click(TermDialog->ButtonOK);
-        });
-        EXPECT_EQ(Store.ClassRecord.id.values, (std::vector<std::string>{"4", "10"})) << end;
-        EXPECT_EQ(ActiveClasses.name.values, (std::vector<std::string>{"Algebra", "Latin"})) << end;
-        Store.ClassRecord.id.Replace(2, "7");
-    }
-}
-
-TEST_F(TermFlow, TermsThatWereNotReadKeepTheirClassesAside) {
-    WriteTermsAndClasses();
-    const std::string classes = ReadData("classes.xml");
-    WriteData("terms.xml", "cut");
-    Store = {};
-    ReadTermsAndClasses();
-    SetActiveTerm(*window, "");
-    MakeTerm("Spring 2010");
-    EXPECT_EQ(ActiveTermName, "Spring 2010");
-    EXPECT_EQ(ReadData("Backup/classes_damaged.xml"), classes);
-    EXPECT_EQ(ReadData("Backup/terms_damaged.xml"), "cut");
 }

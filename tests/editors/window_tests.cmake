@@ -18,6 +18,7 @@ target_sources(window_tests PRIVATE
   editors/TaskEditorTest.cpp
   editors/TaskFlowTest.cpp
   editors/TermEditorTest.cpp
+  editors/TermFilesFlowTest.cpp
   editors/TermFlowTest.cpp
   editors/UndoTest.cpp
   editors/picker/DatePickerStepsTest.cpp

@@ -10,6 +10,8 @@
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
 
+#include <algorithm>
+
 namespace {
 
 std::string RightTrimmed(const std::string& text) {
@@ -53,9 +55,38 @@ void CopyClass(frmCourseSchedule& dialog, int position) {
     }
 }
 
+// The place in the record's text that this place in the dialog's copy of it was taken from.
+const char* PlaceInRecord(const frmCourseSchedule& dialog, const char* place) {
+    for (const ClassField& field : ClassDialogFields) {
+        for (int row = 1; row <= dialog.tempClassIDArray.Count(); ++row) {
+            if (!LiesIn((dialog.*field.list).Item(row), place)) {
+                continue;
+            }
+            for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records;
+                 ++position) {
+                const std::string& text = (Store.ClassRecord.*field.record).Item(position);
+                const std::string& id = Store.ClassRecord.id.Item(position);
+                if (id == dialog.tempClassIDArray.Item(row) && text == (dialog.*field.list).Item(row)) {
+                    return text.data();
+                }
+            }
+        }
+    }
+    return place;
+}
+
+// A record of the kind lacks a field.
+template <class Lists>
+bool IsOutOfStep(const Lists& lists) {
+    return std::ranges::any_of(FieldTable(lists), [&lists, whole = WholeRecords(lists)](const auto& field) {
+        return (lists.*field.list).Count() > whole;
+    });
+}
+
 // Records of these files are missing, and nobody knows which.
-bool TermsOrClassesCutShort() {
-    return LastReads.terms.cutShort || LastReads.classes.cutShort;
+bool TermsOrClassesMissing() {
+    return LastReads.terms.cutShort || LastReads.classes.cutShort || IsOutOfStep(Store.Term) ||
+           IsOutOfStep(Store.ClassRecord);
 }
 
 // Ids of classes are unique across terms. While classes are missing, no id is given out that is known to be
@@ -65,7 +96,7 @@ int FirstFreeClassId() {
     for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
         next = std::max(next, ToInt16(Store.ClassRecord.id.Item(position)) + 1);
     }
-    if (!TermsOrClassesCutShort()) {
+    if (!TermsOrClassesMissing()) {
         return next;
     }
     next = std::max(next, NextClassID);
@@ -161,7 +192,7 @@ bool TermHasClass(int termId, const std::string& classId) {
 // While classes are missing that nobody took away, none is taken out.
 void ReplaceTermRecords(const frmCourseSchedule& dialog, int id) {
     AddTermRecords(dialog, id);
-    if (TermsOrClassesCutShort()) {
+    if (TermsOrClassesMissing()) {
         return;
     }
     DropUnfinishedRecord(AssignmentFile());
@@ -183,6 +214,7 @@ bool ShowTermEditor(const frmMain& window, std::string_view mode, int id) {
     PrepareEditor(dialog, window, mode);
     PrepareTermEditor(dialog, id);
     FillPreviousTerms(dialog, id);
+    dialog.PlaceInRecord = [&dialog](const char* place) { return PlaceInRecord(dialog, place); };
     dialog.Fill();
     ShowDialog(dialog, CourseScheduleDBFirstOpen, window);
     return !dialog.CancelledFlag && !ShuttingDown;
