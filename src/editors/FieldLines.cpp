@@ -1,6 +1,8 @@
 // The lines of a box whose text is a field of a record file: none may look like the end of that field.
 #include "editors/FieldLines.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 bool IsBreak(QChar character) {
@@ -35,10 +37,41 @@ void PutBlanks(QPlainTextEdit* box, const QList<int>& places) {
     box->setTextCursor(kept);
 }
 
+// The key that deletes to the right, before a blank that would come back at once, takes the break along with
+// it.
+class DeleteKey : public QObject {
+public:
+    DeleteKey(QPlainTextEdit* notes, const QString& tag) : QObject(notes), box(notes), closingTag(tag) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress ||
+            !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
+            return QObject::eventFilter(watched, event);
+        }
+        QTextCursor cursor = box->textCursor();
+        const QString text = box->document()->toRawText();
+        const int at = cursor.position();
+        const bool beforeBlank = !cursor.hasSelection() && text.first(at).endsWith(closingTag) &&
+                                 at + 1 < text.size() && text[at] == QLatin1Char(' ') &&
+                                 IsBreak(text[at + 1]);
+        if (!beforeBlank) {
+            return QObject::eventFilter(watched, event);
+        }
+        cursor.setPosition(at + 2, QTextCursor::KeepAnchor);
+        cursor.removeSelectedText();
+        return true;
+    }
+
+private:
+    QPlainTextEdit* box;
+    QString closingTag;
+};
+
 } // namespace
 
 void KeepLinesOfField(QPlainTextEdit* box, const QString& tag) {
     const QString closingTag = QStringLiteral("</") + tag + QStringLiteral(">");
+    box->installEventFilter(new DeleteKey(box, closingTag));
     QObject::connect(box, &QPlainTextEdit::textChanged, box, [box, closingTag] {
         const QList<int> places = PlacesOfBlanks(box->document()->toRawText(), closingTag);
         if (!places.isEmpty()) {

@@ -134,6 +134,49 @@ TEST_F(Notes, TagIsDeletedKeyByKeyAsAnyOtherText) {
     EXPECT_EQ(Text(), "a</note \nb") << "while the tag is whole the blank comes back, behind the cursor";
 }
 
+TEST_F(Notes, DeleteBehindATagJoinsTheLines) {
+    Paste("a</notes>\nb");
+    Press(Qt::Key_Up);
+    Press(Qt::Key_End);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "a</notes>b");
+    EXPECT_EQ(box.textCursor().position(), 9);
+    box.undo();
+    EXPECT_EQ(Text(), "a</notes> \nb") << "blank and break are one step";
+    box.redo();
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "a</notes>");
+}
+
+TEST_F(Notes, DeleteBehindATagGoesLineByLine) {
+    Paste("</notes>\n\nb");
+    box.moveCursor(QTextCursor::Start);
+    Press(Qt::Key_End);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes> \nb");
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes>b");
+}
+
+TEST_F(Notes, DeleteElsewhereTakesOneLetterOrWhatIsSelected) {
+    Paste("a</notes>  \n b");
+    box.moveCursor(QTextCursor::Start);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes>  \n b");
+    Press(Qt::Key_End);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes> \n b") << "one of two blanks";
+    Press(Qt::Key_Left, Qt::ShiftModifier);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes \n b") << "the selection alone";
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(Text(), "</notes\n b") << "behind no tag a blank is a blank";
+}
+
 TEST_F(Notes, TagThatIsCompletedInALineBeforeAnotherGetsItsBlank) {
     Paste("</notes\nb");
     Press(Qt::Key_Up);
