@@ -5,6 +5,26 @@
 
 #include <algorithm>
 
+namespace {
+
+// A longer word may be broken between any such few of its letters, so that no name makes a box or a tip wider
+// than the screen.
+constexpr qsizetype LongestWord = 20;
+constexpr qsizetype LettersTogether = 4;
+
+QString BreakableWord(const QString& word) {
+    if (word.size() <= LongestWord) {
+        return word;
+    }
+    QString broken;
+    for (qsizetype i = 0; i < word.size(); i += LettersTogether) {
+        broken += word.mid(i, LettersTogether) + QChar(0x200B); // a blank of no width
+    }
+    return broken;
+}
+
+} // namespace
+
 QString FromStore(std::string_view text) {
     QString result(static_cast<qsizetype>(text.size()), Qt::Uninitialized);
     std::ranges::transform(text, result.begin(),
@@ -31,8 +51,20 @@ QString WithoutMnemonics(const QString& caption) {
     return said;
 }
 
+QString Breakable(const QString& text) {
+    QString broken;
+    qsizetype word = 0; // where it begins
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at].isSpace()) {
+            broken += BreakableWord(text.mid(word, at - word)) + text[at];
+            word = at + 1;
+        }
+    }
+    return broken + BreakableWord(text.mid(word));
+}
+
 QString PlainTip(const QString& text) {
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+    return QStringLiteral("<span>%1</span>").arg(Breakable(text).toHtmlEscaped());
 }
 
 std::string ToStore(const QString& text) {

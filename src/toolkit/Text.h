@@ -18,6 +18,9 @@ QString MenuText(std::string_view text);
 // What a caption of a menu says, without the marks of its keys.
 QString WithoutMnemonics(const QString& caption);
 
+// The text with places in its long words at which a line may end. They are not seen.
+QString Breakable(const QString& text);
+
 // The text as a tool tip that shows it as it stands, whatever it is made of, broken into lines.
 QString PlainTip(const QString& text);
 

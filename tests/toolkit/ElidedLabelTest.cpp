@@ -34,6 +34,18 @@ TEST(ElidedLabel, EndsALongTextInDotsAndTellsTheWholeInItsTip) {
     EXPECT_EQ(TipOf(label), "<span>A term &lt;b&gt; with a name that is much too long</span>");
 }
 
+TEST(ElidedLabel, TipOfANameWithoutBlanksIsBrokenIntoLines) {
+    const QString name(200, QLatin1Char('W'));
+    ElidedLabel label;
+    label.resize(80, 20);
+    label.setText(name);
+    QString tip = TipOf(label);
+    QLabel shown(tip);
+    shown.setWordWrap(true);
+    EXPECT_LT(shown.minimumSizeHint().width(), 200) << "as narrow as a few letters, if need be";
+    EXPECT_EQ(tip.remove(QChar(0x200B)), "<span>" + name + "</span>");
+}
+
 TEST(ElidedLabel, NeverAsksForTheWidthOfItsText) {
     ElidedLabel label;
     label.setText("A term with a name that is much too long for the panel that it stands in");

@@ -40,34 +40,6 @@ Answer AnswerOf(int button) {
     }
 }
 
-// A longer word may be broken between any such few of its letters, so that no name makes a box wider than the
-// screen.
-constexpr qsizetype LongestWord = 20;
-constexpr qsizetype LettersTogether = 4;
-
-QString BreakableWord(const QString& word) {
-    if (word.size() <= LongestWord) {
-        return word;
-    }
-    QString broken;
-    for (qsizetype i = 0; i < word.size(); i += LettersTogether) {
-        broken += word.mid(i, LettersTogether) + QChar(0x200B); // a blank of no width
-    }
-    return broken;
-}
-
-QString Breakable(const QString& text) {
-    QString broken;
-    qsizetype word = 0; // where it begins
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        if (text[at].isSpace()) {
-            broken += BreakableWord(text.mid(word, at - word)) + text[at];
-            word = at + 1;
-        }
-    }
-    return broken + BreakableWord(text.mid(word));
-}
-
 } // namespace
 
 Answer MsgBox(std::string_view text, Buttons buttons, Icon icon, std::string_view title, Preset preset) {

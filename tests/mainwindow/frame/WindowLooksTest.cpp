@@ -67,7 +67,7 @@ TEST_F(WindowLooks, ALongTermNameIsCutAndTellsTheWholeAndLeavesTheWindowItsSize)
             EXPECT_TRUE(label->text().endsWith(name));
             QHelpEvent asked(QEvent::ToolTip, {}, {});
             QCoreApplication::sendEvent(label, &asked);
-            EXPECT_TRUE(label->toolTip().contains(name)) << length;
+            EXPECT_TRUE(label->toolTip().remove(QChar(0x200B)).contains(name)) << length;
         }
         for (const auto enter : {&ShowCalendarMode, &ShowHomeworkMode}) {
             enter(*window);
