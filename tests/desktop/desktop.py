@@ -16,6 +16,7 @@ PROGRAM = os.environ["PLANOVARIUM_PROGRAM"]
 TITLE = "Planovarium Homework System"
 FAKETIME_LIBRARY = "/usr/lib/x86_64-linux-gnu/faketime/libfaketime.so.1"
 GREATEST_ICON = 48  # pixels; a menu is wider
+BOX_ICON, BOX_BUTTONS = 64, 40  # pixels of a message box left and below of its text
 WHEEL_UP, WHEEL_DOWN = 4, 5  # the mouse buttons that stand for a notch of the wheel
 NOWHERE = (0, 0, 0, 0)  # the geometry of no window
 LIMIT = 20  # seconds that any condition may take to come true
@@ -181,6 +182,32 @@ class Desktop:
         return subprocess.run(["import", "-window", window, "-crop", f"{width}x{height}+{left}+{top}", "+repage",
                                "-depth", "8", "rgb:-"], env=self.environment, capture_output=True, check=True,
                               timeout=LIMIT).stdout
+
+    def lines_of_text(self, box):
+        """The pictures of the lines of a message box's text, from the top: what is not ground beside its icon and
+        above its buttons. None while nothing is painted."""
+        width, height = self.geometry(box)[2:]
+        width, height = width - BOX_ICON, height - BOX_BUTTONS
+        if width <= 0 or height <= 0:
+            return None
+        pixels = self.colours(box, (BOX_ICON, 0, width, height))
+        ground = pixels[:3]
+        lines, line = [], []
+        for y in range(height):
+            row = [pixels[i:i + 3] for i in range(3 * y * width, 3 * (y + 1) * width, 3)]
+            while row and row[-1] == ground:
+                row.pop()
+            if row:
+                line.append(row)
+            elif line:
+                lines.append(line)
+                line = []
+        return lines or None
+
+    def settled_lines_of_text(self, box):
+        """The lines once two looks find the same; None before."""
+        lines = self.lines_of_text(box)
+        return lines if lines == self.lines_of_text(box) else None
 
     def close_with_window_manager(self, window):
         """What the window's close box does."""

@@ -1,6 +1,7 @@
 """The life of the process on a real desktop: how it starts, is found again, hides and ends."""
 
 import os
+import re
 import resource
 import shutil
 import signal
@@ -401,6 +402,33 @@ class Failure(DesktopTest):
         self.desktop.press_in(wait_until(lambda: self.desktop.window(BOX), "the error is told"), "Return")
         self.assertEqual(planner.wait_for_exit(), 1)
         self.assertFalse((planner.data / "Prefs.ini").exists())
+
+    def lines_told_at_the_start(self, record, field, value):
+        """The pictures of the lines of the box that the start ends with, where a field of one of two tasks has a
+        value that cannot be used."""
+        planner = self.planner(date="2009-10-14 12:00:00")
+        text = tasks("Water the plants", "Call home").replace("<date_exists>False", "<date_exists>True")
+        front, back = text.split(f"<id>{record}</id>")
+        text = front + f"<id>{record}</id>" + re.sub(f"<{field}>[^<]*", f"<{field}>{value}", back, count=1)
+        planner.write_data("tasks.xml", text)
+        planner.start(shown=False)
+        box = wait_until(lambda: self.desktop.window(BOX), "the error is told")
+        lines = wait_until(lambda: self.desktop.settled_lines_of_text(box), "the text is painted")
+        self.desktop.press_in(box, "Return")
+        self.assertEqual(planner.wait_for_exit(), 1)
+        self.assertEqual(planner.read_data("tasks.xml"), text)
+        return lines
+
+    def test_at_the_start_is_told_with_its_place_in_the_file_and_ends_the_program(self):
+        error, _, record, field, value = range(5)  # the lines of the box, the second of which names the file
+        told = self.lines_told_at_the_start(2, "done", "Perhaps")
+        self.assertGreater(len(told), value + 1, "the advice")
+        for other, expected in (((1, "done", "Perhaps"), {record}), ((2, "date", "Perhaps"), {error, field}),
+                                ((2, "done", "Possibly"), {error, value})):
+            with self.subTest(other):
+                lines = self.lines_told_at_the_start(*other)
+                self.assertEqual(len(lines), len(told))
+                self.assertEqual({i for i, line in enumerate(lines) if line != told[i]}, expected)
 
 
 class Shutdown(DesktopTest):
