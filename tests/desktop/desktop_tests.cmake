@@ -25,3 +25,10 @@ add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
 add_desktop_tests(test_pages Validator Months Lists)
 set_tests_properties(desktop.test_pages.Validator desktop.test_pages.Months desktop.test_pages.Lists PROPERTIES
   ENVIRONMENT "PLANOVARIUM_SAMPLE_PAGES=$<TARGET_FILE:sample_pages>;PYTHONDONTWRITEBYTECODE=1")
+
+# The tool that shows the program's modes.
+add_test(NAME tools.test_show_modes COMMAND ${Python3_EXECUTABLE} -m unittest -v test_show_modes
+  WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/tools")
+set_tests_properties(tools.test_show_modes PROPERTIES
+  LABELS desktop TIMEOUT 300
+  ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1")
