@@ -3,6 +3,7 @@
 
 #include "core/DateText.h"
 #include "core/RunTimeError.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "planner/entries/ComboRows.h"
 
 #include <QAbstractItemView>
@@ -215,7 +216,7 @@ TEST_F(EventEditor, TypesAreFilledAnewInTheirOrder) {
               (QStringList{"None", "Study Time", Separator, "Algebra", "History", Separator}));
     EXPECT_FALSE(rows.mid(6).contains("Study Time"));
     AddClassRecord({.id = "9", .name = "Chemistry"});
-    window->SetActiveTerm("Fall 2009");
+    SetActiveTerm(*window, "Fall 2009");
     OpenNew();
     EXPECT_EQ(TypeRows().size(), rows.size() + 1);
     EXPECT_EQ(TypeRows().at(5), "Chemistry");
