@@ -2,6 +2,28 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/input/GridAccessible.h"
 #include "mainwindow/input/GridPointer.h"
+#include "mainwindow/modes/ModeTables.h"
+
+namespace {
+
+struct GridViewRow {
+    Mode mode;
+    void (frmMain::*layout)();
+    void (frmMain::*fill)();
+};
+
+constexpr std::array<GridViewRow, ModeCount> GridViewRows{{
+    {Mode::Homework, &frmMain::LayoutHomeworkGrid, &frmMain::FillHomeworkList},
+    {Mode::Calendar, &frmMain::LayoutCalendarGrid, &frmMain::ShowCalendarTitles},
+    {Mode::StudySessions, &frmMain::LayoutStudyGrid, &frmMain::FillStudyList},
+    {Mode::Tasks, &frmMain::LayoutTaskGrid, &frmMain::FillTaskList},
+    {Mode::Events, &frmMain::LayoutEventGrid, &frmMain::FillEventDay},
+    {Mode::Reminders, &frmMain::LayoutReminderGrid, &frmMain::FillReminderList},
+}};
+
+static_assert(StandsInModeOrder(GridViewRows));
+
+} // namespace
 
 void frmMain::RepaintGrid() {
     LayoutGrid();
@@ -9,47 +31,17 @@ void frmMain::RepaintGrid() {
 }
 
 void frmMain::LayoutGrid() {
-    switch (CurrentMode()) {
-    case Mode::Homework:
-        return LayoutHomeworkGrid();
-    case Mode::Calendar:
-        return LayoutCalendarGrid();
-    case Mode::StudySessions:
-        return LayoutStudyGrid();
-    case Mode::Tasks:
-        return LayoutTaskGrid();
-    case Mode::Events:
-        return LayoutEventGrid();
-    case Mode::Reminders:
-        return LayoutReminderGrid();
-    case Mode::None:
-        return;
+    if (const Mode mode = CurrentMode(); mode != Mode::None) {
+        (this->*RowOf(GridViewRows, mode).layout)();
     }
 }
 
 void frmMain::FillGrid() {
-    switch (CurrentMode()) {
-    case Mode::Homework:
-        FillHomeworkList();
-        break;
-    case Mode::Calendar:
-        ShowCalendarTitles();
-        break;
-    case Mode::StudySessions:
-        FillStudyList();
-        break;
-    case Mode::Tasks:
-        FillTaskList();
-        break;
-    case Mode::Events:
-        FillEventDay();
-        break;
-    case Mode::Reminders:
-        FillReminderList();
-        break;
-    case Mode::None:
+    const Mode mode = CurrentMode();
+    if (mode == Mode::None) {
         return;
     }
+    (this->*RowOf(GridViewRows, mode).fill)();
     RefreshGridPointer(*this);
     NotifyGridChanged(*this);
 }

@@ -5,16 +5,6 @@
 
 namespace {
 
-template <class Row>
-constexpr bool StandsInModeOrder(const std::array<Row, ModeCount>& rows) {
-    for (std::size_t i = 0; i < ModeCount; ++i) {
-        if (rows[i].mode != static_cast<Mode>(i)) {
-            return false;
-        }
-    }
-    return true;
-}
-
 static_assert(StandsInModeOrder(ModeRows) && StandsInModeOrder(PanelRows) &&
               StandsInModeOrder(NewButtonRows) && StandsInModeOrder(EditMenuRows) &&
               StandsInModeOrder(ExportRows) && StandsInModeOrder(CounterRows));

@@ -131,6 +131,17 @@ inline constexpr std::array<FilterRow, 5> FilterRows{{
     {Mode::Reminders, {"All", "Homework", "Tasks", "Events"}, {"Today"}, "All", "Today"},
 }};
 
+// Whether a table of all modes has its rows where RowOf looks for them.
+template <class Row>
+constexpr bool StandsInModeOrder(const std::array<Row, ModeCount>& rows) {
+    for (std::size_t i = 0; i < ModeCount; ++i) {
+        if (rows[i].mode != static_cast<Mode>(i)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // The row of the mode in a table of all modes; not for Mode::None.
 template <class Row>
 constexpr const Row& RowOf(const std::array<Row, ModeCount>& rows, Mode mode) {
