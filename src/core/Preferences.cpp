@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr const char* FileName = "Prefs.ini";
-
 // The window's place is kept in units of 15 to the pixel, in 16 bits, so this is the greatest that can be
 // read.
 constexpr int GreatestPlace = GreatestInt16 / UnitsPerPixel;
@@ -137,16 +135,20 @@ void AddTypeSection(std::string& text, const TypeSection& section) {
 
 } // namespace
 
+void ReadPreferencesLine(PreferenceValues& values, ScreenSize screen, std::string_view line) {
+    if (!ReadPlaceLine(values, screen, line) && !ReadOptionLine(values, line)) {
+        ReadTypeLine(line);
+    }
+}
+
 PreferenceValues ReadPreferencesFile(ScreenSize screen) {
     PreferenceValues values;
     try {
         ChangeToDataFolder();
-        const std::string bytes = FileBytes(FileName);
+        const std::string bytes = FileBytes(PreferencesFileName);
         std::string_view rest = bytes;
         while (const std::optional<std::string_view> line = TakeLine(rest)) {
-            if (!ReadPlaceLine(values, screen, *line) && !ReadOptionLine(values, *line)) {
-                ReadTypeLine(*line);
-            }
+            ReadPreferencesLine(values, screen, *line);
         }
     } catch (const RunTimeError&) {
         // Errors ignored: the planner starts with what was read, and the defaults for the rest.
@@ -156,7 +158,7 @@ PreferenceValues ReadPreferencesFile(ScreenSize screen) {
 
 void WritePreferencesFile(const PreferenceValues& values) {
     ChangeToDataFolder();
-    OutputFile file = OpenForWriting(FileName);
+    OutputFile file = OpenForWriting(PreferencesFileName);
     std::string text;
     AddLine(text, "[Window Position]");
     AddLine(text, StateKey, std::to_string(static_cast<int>(values.FormMainState)));

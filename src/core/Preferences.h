@@ -34,6 +34,12 @@ struct PreferenceValues {
     int CurrentTip = 0;
 };
 
+inline constexpr const char* PreferencesFileName = "Prefs.ini";
+
+// Takes over what the line of the file says, of the options into the values and of the types into TypeTable;
+// raises the run-time error where a value does not convert.
+void ReadPreferencesLine(PreferenceValues& values, ScreenSize screen, std::string_view line);
+
 // Reads Prefs.ini of the data folder line by line, giving the options and changing TypeTable in place. A
 // place or size counts when it lies above 0 and below the screen's size in its direction. A value that does
 // not convert, or a place above 2184 pixels that counts, ends the read at its line without a message; what

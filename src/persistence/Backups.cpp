@@ -4,6 +4,7 @@
 
 #include "core/RunTimeError.h"
 #include "core/TextFiles.h"
+#include "persistence/BackupNames.h"
 #include "platform/Process.h"
 
 #include <system_error>
@@ -32,9 +33,7 @@ void RenameWhereFree(const fs::path& from, const fs::path& to) {
 // Errors are ignored throughout: each step takes what the ones before it left.
 void RotateFile(const std::string& name) {
     const fs::path present = BackupFolder / name;
-    const auto generation = [stem = present.stem().string()](int number) {
-        return BackupFolder / (stem + "_backup" + std::to_string(number) + ".xml");
-    };
+    const auto generation = [&name](int number) { return BackupFolder / GenerationName(name, number); };
     std::error_code ignored;
     fs::remove(present, ignored);
     CopyWherePossible(DataFolder / name, present);

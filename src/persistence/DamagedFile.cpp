@@ -3,24 +3,10 @@
 #include "persistence/DamagedFile.h"
 
 #include "core/TextFiles.h"
+#include "persistence/BackupNames.h"
 #include "platform/Process.h"
 
-#include <system_error>
-
 namespace {
-
-namespace fs = std::filesystem;
-
-// The first free one of "tasks_damaged.xml", "tasks_damaged2.xml" and so on.
-std::string FreeName(const std::string& fileName) {
-    const std::string stem = fs::path(fileName).stem().string() + "_damaged";
-    std::string name = stem + ".xml";
-    std::error_code error;
-    for (int number = 2; fs::exists(fs::symlink_status(BackupFolder / name, error)); ++number) {
-        name = stem + std::to_string(number) + ".xml";
-    }
-    return name;
-}
 
 std::optional<std::string> ReadableBytes(const std::string& name) {
     try {
@@ -47,7 +33,7 @@ bool KeepDamagedFile(const RecordFile& file) {
         return true;
     }
     if (const std::optional<std::string> bytes = ReadableBytes(file.name)) {
-        const std::string copy = FreeName(file.name);
+        const std::string copy = FreeBackupName(file.name, "_damaged", {});
         try {
             MakeFile(BackupFolder / copy, [&bytes](OutputFile& output) { WriteBytes(output, *bytes); });
         } catch (const RunTimeError&) {

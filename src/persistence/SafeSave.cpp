@@ -1,12 +1,29 @@
 // The safe save: a file is replaced only once its new content is whole on the device under another name.
-#include "persistence/RecordFileText.h"
+#include "persistence/SafeSave.h"
 
-#include "core/TextFiles.h"
 #include "persistence/DamagedFile.h"
+#include "persistence/RecordFileText.h"
 #include "platform/Process.h"
 
 #include <system_error>
 #include <utility>
+
+std::string WaitingName(const std::string& fileName) {
+    return fileName + ".tmp";
+}
+
+void WriteWaiting(const std::string& fileName, const std::function<void(OutputFile&)>& write) {
+    OutputFile output = OpenForWriting(WaitingName(fileName));
+    write(output);
+    SyncAndClose(std::move(output));
+}
+
+void PutWaitingInPlace(const std::string& fileName) {
+    std::error_code ignored;
+    std::filesystem::remove(fileName, ignored);
+    std::filesystem::rename(WaitingName(fileName), fileName, ignored);
+    SyncFolder(DataFolder);
+}
 
 bool SaveRecordFile(const RecordFile& file) {
     if (ShuttingDown || !EnterDataFolder()) {
@@ -15,20 +32,14 @@ bool SaveRecordFile(const RecordFile& file) {
     if (!KeepDamagedFile(file)) {
         return false;
     }
-    const std::string temporary = file.name + ".tmp";
     try {
-        OutputFile output = OpenForWriting(temporary);
-        WriteRecords(output, file, file.counted->Count());
-        SyncAndClose(std::move(output));
+        WriteWaiting(file.name,
+                     [&file](OutputFile& output) { WriteRecords(output, file, file.counted->Count()); });
     } catch (const RunTimeError&) {
-        ShowFileError(temporary, "writing");
+        ShowFileError(WaitingName(file.name), "writing");
         return false;
     }
     FileWrittenFlags.*file.written = true;
-    // Errors ignored: whatever happens here, the records are whole in one of the two files.
-    std::error_code ignored;
-    std::filesystem::remove(file.name, ignored);
-    std::filesystem::rename(temporary, file.name, ignored);
-    SyncFolder(DataFolder);
+    PutWaitingInPlace(file.name);
     return true;
 }

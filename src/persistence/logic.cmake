@@ -1,4 +1,5 @@
 target_sources(planovarium_logic PRIVATE
+  persistence/BackupNames.cpp
   persistence/Backups.cpp
   persistence/DamagedFile.cpp
   persistence/FaultText.cpp
@@ -7,6 +8,7 @@ target_sources(planovarium_logic PRIVATE
   persistence/ProcessMarker.cpp
   persistence/RecordFileText.cpp
   persistence/RecordFiles.cpp
+  persistence/RecordScanner.cpp
   persistence/SafeSave.cpp
   persistence/ScanRecordFile.cpp
   persistence/modConvert.cpp

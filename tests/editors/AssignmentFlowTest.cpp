@@ -396,7 +396,8 @@ TEST_F(AssignmentFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
     EXPECT_EQ(text, "Not a date: \"some other day\"\n\nFile: assignments_1.xml\nRecord: 1, \"Read\"\nField: "
                     "reminderdate\n"
                     "Value: \"some other day\"\n\nCopies of the last good files, where there are any, lie in "
-                    "the Backup folder.");
+                    "the Backup folder. The program plancheck beside the planner tells more of the fault and "
+                    "gets a copy back.");
 }
 
 TEST_F(AssignmentFlow, EditBesideAnAssignmentThatWasCutDropsIt) {

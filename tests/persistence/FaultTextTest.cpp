@@ -18,7 +18,8 @@
 namespace {
 
 const std::string Advice =
-    "\n\nCopies of the last good files, where there are any, lie in the Backup folder.";
+    "\n\nCopies of the last good files, where there are any, lie in the Backup folder. The program plancheck "
+    "beside the planner tells more of the fault and gets a copy back.";
 
 class Fault : public DataFolderTest {
 protected:

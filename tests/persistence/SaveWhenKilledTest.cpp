@@ -1,12 +1,9 @@
 // The process killed at each step of a save: the records are always whole, in the file or in its .tmp.
 #include "persistence/DataFolderTest.h"
+#include "support/ChildProcess.h"
 
-#include <csignal>
 #include <functional>
 #include <map>
-#include <sys/ptrace.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -14,33 +11,6 @@ namespace {
 enum class Whereabouts { OldInFile, NewInFile, NewInTmp, Lost };
 
 class KilledSave : public DataFolderTest {};
-
-// Saves in a child process that is killed as it enters or leaves a system call for the given time. True when
-// it was, false when the save came to its end before that.
-bool KilledAtStop(int stop, const std::function<void()>& save) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-        ::raise(SIGSTOP);
-        save();
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSTOPPED(status)) << "a process has to be allowed to trace its child here";
-    for (int i = 0; i < stop && WIFSTOPPED(status); ++i) {
-        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-        ::waitpid(child, &status, 0);
-    }
-    if (WIFEXITED(status)) {
-        EXPECT_EQ(WEXITSTATUS(status), 0);
-        return false;
-    }
-    ::kill(child, SIGKILL);
-    ::waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status));
-    return true;
-}
 
 Whereabouts Find(const std::string& name, const std::string& old, const std::string& saved) {
     const std::string file = DataFile(name);

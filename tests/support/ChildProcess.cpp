@@ -4,11 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
+#include <sys/ptrace.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -55,4 +57,29 @@ void DropPrivileges() {
         Require(::setresgid(Nobody, Nobody, Nobody) == 0, "setresgid");
         Require(::setresuid(Nobody, Nobody, Nobody) == 0, "setresuid");
     }
+}
+
+bool KilledAtStop(int stop, const std::function<void()>& procedure) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+        ::raise(SIGSTOP);
+        procedure();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSTOPPED(status)) << "a process has to be allowed to trace its child here";
+    for (int i = 0; i < stop && WIFSTOPPED(status); ++i) {
+        ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
+        ::waitpid(child, &status, 0);
+    }
+    if (WIFEXITED(status)) {
+        EXPECT_EQ(WEXITSTATUS(status), 0);
+        return false;
+    }
+    ::kill(child, SIGKILL);
+    ::waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    return true;
 }

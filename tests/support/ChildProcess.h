@@ -11,3 +11,7 @@ void FailSystemCall(int number, int error);
 
 // Becomes a user without privileges where the process has them, so that a read-only folder is one.
 void DropPrivileges();
+
+// Runs the procedure in a child process that is killed as it enters or leaves a system call for the given
+// time. True when it was, false when the procedure came to its end before that.
+bool KilledAtStop(int stop, const std::function<void()>& procedure);

@@ -49,15 +49,6 @@ double DayNumber(Date date) {
     return static_cast<double>(date.time_since_epoch().count());
 }
 
-// -1 without a grade.
-double Score(std::string grade) {
-    if (grade.empty()) {
-        return -1;
-    }
-    std::erase(grade, '%');
-    return ToNumber(grade);
-}
-
 // 0 where there is none.
 double MinuteOfDay(std::string_view time) {
     const TimeOfDay seconds = TimeIn(time).value_or(TimeOfDay{0});
@@ -94,7 +85,7 @@ RowOrder HomeworkOrder(SortOrder order) {
         return OrderByText(rows, direction, field(store.done), TextOrder::Bytes);
     case HomeworkColumn::Score:
         return OrderByNumber(rows, direction,
-                             [&](int row) { return Score(store.grade.Item(HomeworkRows.Item(row))); });
+                             [&](int row) { return GradeNumber(store.grade.Item(HomeworkRows.Item(row))); });
     }
     return {};
 }
@@ -213,6 +204,14 @@ void ReorderLists(const std::tuple<Lists&...>& table, const RowOrder& order) {
 }
 
 } // namespace
+
+double GradeNumber(std::string grade) {
+    if (grade.empty()) {
+        return -1;
+    }
+    std::erase(grade, '%');
+    return ToNumber(grade);
+}
 
 void SortHomeworkRows(SortOrder order) {
     ReorderLists(HomeworkRowLists, HomeworkOrder(order));

@@ -29,6 +29,9 @@ struct NamedColumn {
     constexpr NamedColumn(ColumnName auto name) : number(static_cast<int>(name)) {}
 };
 
+// The number of a grade such as "85%", -1 without one; raises the run-time error at any other text.
+double GradeNumber(std::string grade);
+
 // Each puts the row lists of its mode into the order. An entry without a value stands at the end in both
 // directions where a column has such entries: tasks and events without a type, a priority, a date or a
 // recurrence, reminders without a class.

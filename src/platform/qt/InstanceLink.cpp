@@ -3,6 +3,8 @@
 // in two lines, the answer in one. The system gives a lock up with its process, so none is ever stale.
 #include "platform/InstanceLink.h"
 
+#include "platform/posix/FileLock.h"
+
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QLocalServer>
@@ -10,11 +12,8 @@
 #include <QStandardPaths>
 #include <QThread>
 
-#include <cerrno>
 #include <fcntl.h>
 #include <memory>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace {
 
@@ -32,22 +31,6 @@ struct LinkState {
 
 std::unique_ptr<LinkState> linkState;
 bool isFirstInstance = false;
-
-enum class Lock { Taken, HeldByAnother, Impossible };
-
-// Takes the lock on an opened file or folder, for as long as this process lives.
-Lock LockForLife(const std::string& path, int flags) {
-    const int file = ::open(path.c_str(), flags | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (file < 0) {
-        return Lock::Impossible;
-    }
-    if (::flock(file, LOCK_EX | LOCK_NB) == 0) {
-        return Lock::Taken;
-    }
-    const bool held = errno == EWOULDBLOCK;
-    ::close(file);
-    return held ? Lock::HeldByAnother : Lock::Impossible;
-}
 
 QString RuntimeFile(const char* name) {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
@@ -106,10 +89,6 @@ void MeetCallers() {
 bool ClaimFirstInstance() {
     isFirstInstance = LockForLife(LockName().toStdString(), O_RDWR | O_CREAT) != Lock::HeldByAnother;
     return isFirstInstance;
-}
-
-bool ClaimDrive(const std::string& folder) {
-    return LockForLife(folder, O_RDONLY | O_DIRECTORY) != Lock::HeldByAnother;
 }
 
 LinkResult SendLinkCommand(std::string_view application, std::string_view topic, std::string_view command) {

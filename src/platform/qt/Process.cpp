@@ -1,4 +1,4 @@
-// Processes, environment and signals of the operating system.
+// What the toolkit knows of processes, signals and the desktop session.
 #include "platform/Process.h"
 
 #include <QCoreApplication>
@@ -11,9 +11,6 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
-#include <limits>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -31,29 +28,6 @@ void NoteSignal(int) {
 }
 
 } // namespace
-
-long ProcessNumber() {
-    return static_cast<long>(QCoreApplication::applicationPid());
-}
-
-bool ProcessExists(long number) {
-    return number > 0 && number <= std::numeric_limits<pid_t>::max() &&
-           (::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH);
-}
-
-std::string EnvironmentValue(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::string{} : std::string(value);
-}
-
-void MakePathAbsolute(const char* name) {
-    const std::string value = EnvironmentValue(name);
-    std::error_code error;
-    const std::filesystem::path path = std::filesystem::absolute(value, error);
-    if (!value.empty() && !error) {
-        ::setenv(name, path.c_str(), 1);
-    }
-}
 
 void ShellOpen(std::string_view address) {
     QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(std::string(address))));
@@ -87,22 +61,4 @@ void OnTermination(const std::function<void()>& end) {
     }
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, notifier, [end] { end(); }, Qt::DirectConnection);
-}
-
-void IgnoreFileSizeSignal() {
-    std::signal(SIGXFSZ, SIG_IGN);
-}
-
-bool SyncToDevice(std::FILE* file) {
-    return std::fflush(file) == 0 && ::fsync(::fileno(file)) == 0;
-}
-
-bool SyncFolder(const std::filesystem::path& folder) {
-    const int opened = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (opened == -1) {
-        return false;
-    }
-    const bool synced = ::fsync(opened) == 0;
-    ::close(opened);
-    return synced;
 }

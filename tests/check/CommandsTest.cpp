@@ -1,0 +1,224 @@
+// What plancheck answers to its command line: the status, the lines, the JSON, and when it changes nothing.
+#include "check/Commands.h"
+#include "check/CheckedDrive.h"
+#include "check/Report.h"
+#include "support/ChildProcess.h"
+
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <sys/file.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class Command : public CheckedDrive {
+protected:
+    std::string Documents() const { return DocumentFolder.parent_path().string(); }
+
+    static CommandResult Run(const Texts& arguments) {
+        ResetStore();
+        return RunCommand(arguments);
+    }
+
+    // What Python's reader of JSON makes of an expression over it, which it calls "it".
+    static std::string Json(const std::string& json, const std::string& expression) {
+        const fs::path file = BackupFolder / "answer.json";
+        std::ofstream(file, std::ios::binary) << json;
+        const std::string command = "python3 -c 'import json; it = json.load(open(\"" + file.string() +
+                                    "\", encoding=\"utf-8\")); print(" + expression + ")' 2>&1";
+        std::string output;
+        FILE* const pipe = ::popen(command.c_str(), "r");
+        for (int character = std::fgetc(pipe); character != EOF; character = std::fgetc(pipe)) {
+            output += static_cast<char>(character);
+        }
+        ::pclose(pipe);
+        fs::remove(file);
+        return output.substr(0, output.find('\n'));
+    }
+};
+
+bool Holds(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+TEST_F(Command, ChecksTheDriveOfTheVariables) {
+    const CommandResult result = Run({});
+    EXPECT_EQ(result.status, 0) << result.output;
+    EXPECT_EQ(result.output,
+              fs::canonical(DataFolder).string() + ": 6 files with 15 records read, no fault found.\n");
+    EXPECT_EQ(result.errors, "");
+}
+
+TEST_F(Command, TakesTheDriveTheDocumentsTheDocumentFolderAndTheDataFolder) {
+    fs::create_directory(drive.root / "whole");
+    fs::rename(Documents(), drive.root / "whole" / "Documents");
+    const fs::path whole = drive.root / "whole";
+    for (const fs::path& path : {whole, whole / "Documents", whole / "Documents" / "Planovarium",
+                                 whole / "Documents" / "Planovarium" / "Data"}) {
+        const CommandResult result = Run({path.string()});
+        EXPECT_EQ(result.status, 0) << path << result.errors;
+        EXPECT_EQ(DataFolder, fs::canonical(whole / "Documents" / "Planovarium" / "Data"));
+    }
+}
+
+TEST_F(Command, EndsWithOneWhereSomethingIsAtFaultAndSaysWhere) {
+    Edit("tasks.xml", "<date>2009/10/11", "<date>soon");
+    const CommandResult result = Run({});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(Holds(result.output,
+                      "tasks.xml, line 5, record 1 \"Task 1\", field date: \"soon\" is no date. "
+                      "The planner ends with an error as it shows the tasks of a day.\n"))
+        << result.output;
+    EXPECT_TRUE(Holds(result.output, "1 fault found.\n")) << result.output;
+}
+
+TEST_F(Command, EndsWithTwoWhereItCannotLook) {
+    EXPECT_EQ(Run({(drive.root / "nowhere").string()}).status, 2);
+    EXPECT_EQ(Run({drive.root.string()}).status, 2) << "a folder without data";
+    fs::remove(DataFolder / "events.xml");
+    fs::create_directory(DataFolder / "events.xml");
+    const CommandResult result = Run({});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(Holds(result.output, "events.xml: the file cannot be read.")) << result.output;
+}
+
+TEST_F(Command, EndsWithTwoAndTheUsageAtWordsThatItDoesNotKnow) {
+    for (const Texts& arguments :
+         {Texts{"--nonsense"}, Texts{"one", "two"}, Texts{"--restore", "tasks.xml"}, Texts{"--restore"},
+          Texts{"--set-aside", "tasks.xml"}, Texts{"--backups", "--restore", "tasks.xml", "1"}}) {
+        const CommandResult result = Run(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_TRUE(Holds(result.errors, "plancheck --restore FILE GENERATION")) << result.errors;
+    }
+    EXPECT_EQ(Run({"--help"}).status, 0);
+}
+
+TEST_F(Command, TellsTheFindingsAsJson) {
+    Edit("tasks.xml", "<desc>Task 1", "<desc>\"B\xFCro\"\\ \t\x80");
+    Edit("tasks.xml", "<date>2009/10/11", "<date>so\"on");
+    const std::string json = Run({"--json"}).output;
+    EXPECT_EQ(Json(json, "len(it[\"findings\"])"), "1") << json;
+    EXPECT_EQ(Json(json, "it[\"findings\"][0][\"file\"], it[\"findings\"][0][\"line\"]"), "tasks.xml 5");
+    EXPECT_EQ(Json(json, "it[\"findings\"][0][\"record\"], it[\"findings\"][0][\"field\"]"), "1 date");
+    EXPECT_EQ(Json(json, "ascii(it[\"findings\"][0][\"name\"])"), R"('"B\xfcro"\\ \t\u20ac')");
+    EXPECT_EQ(Json(json, "it[\"files\"], it[\"records\"], it[\"looked_at_all\"]"), "6 15 True");
+}
+
+TEST_F(Command, OfASoundDriveGivesJsonWithoutFindings) {
+    const CommandResult result = Run({"--json"});
+    EXPECT_EQ(Json(result.output, "it[\"findings\"]"), "[]");
+    EXPECT_EQ(result.status, 0);
+}
+
+TEST_F(Command, ShowsTheBackupsWithWhatTheyHold) {
+    FileWrittenFlags = {.tasks = true};
+    RotateBackups();
+    Edit("tasks.xml", "<desc>Task 2", "<desc>Other");
+    fs::copy(DataFolder / "events.xml", DataFolder / "events.xml.tmp");
+    SetDataFile("Backup/assignments_4_backup2.xml", DataFile("assignments_1.xml"));
+    const CommandResult result = Run({"--backups"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(Holds(result.output, "tasks.xml\n  1: tasks_backup1.xml, written 20")) << result.output;
+    EXPECT_TRUE(Holds(result.output, ", 3 records; 1 record differs.\n")) << result.output;
+    EXPECT_TRUE(Holds(result.output, "events.xml\n  waiting: events.xml.tmp, written 20")) << result.output;
+    EXPECT_TRUE(Holds(result.output, ", 3 records; the same records as in the present file.\n"));
+    EXPECT_TRUE(Holds(result.output, "assignments_4.xml\n  2: assignments_4_backup2.xml, written 20"));
+    EXPECT_TRUE(Holds(result.output, "; the present file lacks \"Work 1\", \"Work 2\", \"Work 3\".\n"))
+        << result.output;
+    const std::string json = Run({"--backups", "--json"}).output;
+    EXPECT_EQ(Json(json, "[b[\"name\"] for b in it[\"backups\"]]"),
+              "['assignments_4_backup2.xml', 'tasks_backup1.xml', 'events.xml.tmp']");
+    EXPECT_EQ(Json(json, "it[\"backups\"][0][\"only_here\"]"), "['Work 1', 'Work 2', 'Work 3']");
+}
+
+TEST_F(Command, OfADriveWithoutBackupsSaysSo) {
+    EXPECT_TRUE(Holds(Run({"--backups"}).output, "There are no backups"));
+}
+
+TEST_F(Command, ToChangeAFileIsRefusedWhileAPlannerHoldsTheDrive) {
+    SetDataFile("Backup/tasks_backup1.xml", DataFile("tasks.xml"));
+    const std::string before = DataFile("tasks.xml");
+    const int folder = ::open(Documents().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    ASSERT_EQ(::flock(folder, LOCK_EX | LOCK_NB), 0);
+    for (const Texts& arguments :
+         {Texts{"--restore", "tasks.xml", "1"}, Texts{"--set-aside", "tasks.xml", "1"}}) {
+        const CommandResult result = Run(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors,
+                  "The planner is at work on this drive. Shut it down first, from its icon in the tray.\n");
+    }
+    EXPECT_EQ(Run({}).status, 0) << "looking is allowed";
+    ::close(folder);
+    EXPECT_EQ(DataFile("tasks.xml"), before);
+    EXPECT_EQ(BackupFile("tasks_replaced1.xml"), NoFile);
+}
+
+TEST_F(Command, ToChangeAFileIsRefusedWhileAProcessHasTheDriveInItsEnvironment) {
+    SetDataFile("Backup/tasks_backup1.xml", DataFile("tasks.xml"));
+    const std::string variable = "U3_DEVICE_DOCUMENT_PATH=" + Documents();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        char* const variables[] = {const_cast<char*>(variable.c_str()), nullptr};
+        ::execle("/bin/sleep", "sleep", "60", nullptr, variables);
+        ::_exit(1);
+    }
+    const fs::path environment = "/proc/" + std::to_string(child) + "/environ";
+    while (DataFile(environment.string()).find(variable) == std::string::npos) {
+        ::usleep(1000); // until the child has become the other program
+    }
+    const bool refused = SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "tasks.xml", "1"});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_TRUE(Holds(result.errors, "was started for this drive")) << result.errors;
+    });
+    EXPECT_TRUE(refused);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "tasks.xml", "1"});
+        EXPECT_EQ(result.status, 0) << result.output << result.errors;
+    }));
+}
+
+TEST_F(Command, ToChangeAFileThatIsNoneOfThePlannersIsRefused) {
+    for (const char* name :
+         {"Prefs.ini", "tasks", "../tasks.xml", "assignments_01.xml", "assignments_.xml"}) {
+        const CommandResult result = Run({"--restore", name, "1"});
+        EXPECT_EQ(result.status, 2) << name;
+    }
+}
+
+TEST_F(Command, ToChangeAFileSaysWhichPlannerItCannotSee) {
+    SetDataFile("Backup/tasks_backup1.xml", DataFile("tasks.xml"));
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "tasks", "1"});
+        EXPECT_EQ(result.status, 0) << result.output << result.errors;
+        EXPECT_TRUE(Holds(result.errors, "another user or another computer")) << result.errors;
+        EXPECT_TRUE(Holds(result.output, "Kept in the folder Backup: tasks_replaced1.xml.\n"
+                                         "tasks.xml: tasks_backup1.xml is in its place now.\n"))
+            << result.output;
+        EXPECT_TRUE(Holds(result.output, "no fault found.\n"));
+    }));
+}
+
+TEST_F(Command, BehindARestoreNamesWhatIsOutOfStepBetweenFiles) {
+    std::string old = DataFile("classes.xml");
+    old.replace(old.find("<id>3</id>"), 10, "<id>9</id>");
+    SetDataFile("Backup/classes_backup2.xml", old);
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "classes.xml", "2"});
+        EXPECT_EQ(result.status, 1);
+        EXPECT_TRUE(Holds(result.output,
+                          "assignments_1.xml, line 49, record 3 \"Work 3\", field class: the term "
+                          "has no class with the id \"3\"."))
+            << result.output;
+    }));
+}
