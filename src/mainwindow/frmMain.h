@@ -55,7 +55,7 @@ class frmMain : public QMainWindow,
 public:
     frmMain();
 
-    // --- What the window shows (Modes.cpp, ViewMenus.cpp) ---
+    // --- What the window shows (ShownMode.cpp) ---
     std::string RefreshReason{ReasonNone}; // the order to RefreshView
     bool ChangingMode = false;             // a mode entry fills the filter menus, whose handlers keep quiet
 
@@ -71,7 +71,7 @@ public:
     ListFilter CurrentFilter() const;
     SortOrder CurrentSort() const;
 
-    // --- Painting, all of it (RefreshView.cpp) ---
+    // --- Painting, all of it (RefreshView.cpp, GridView.cpp) ---
 
     // Redoes as much of the window as RefreshReason needs in this mode; always leaves the reason "None".
     void RefreshView();

@@ -54,6 +54,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/modes/ModeBarEntry.cpp
   mainwindow/modes/ModeBarEntry.h
   mainwindow/modes/Modes.cpp
+  mainwindow/modes/ShownMode.cpp
   mainwindow/modes/ViewMenus.cpp
   mainwindow/month/LargeCalendar.cpp
   mainwindow/month/MonthCalendar.cpp

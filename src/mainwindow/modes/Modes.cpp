@@ -148,47 +148,6 @@ void ShowCounters(const frmMain& window, const CounterRow& row) {
     labels.front()->parentWidget()->setHidden(row.labels.front().empty()); // no counters, no gap for them
 }
 
-} // namespace
-
-std::array<ModeControls, ModeCount> frmMain::AllModeControls() const {
-    return {{
-        {MenuHomework,
-         PictureBarHomework,
-         LabelBarHomework,
-         {TextBoxTotalAssignments, TextBoxFinishedAssignments, TextBoxTimeRemaining}},
-        {MenuCalendar, PictureBarCalendar, LabelBarCalendar, {nullptr, nullptr, nullptr}},
-        {MenuStudySessions,
-         PictureBarStudySessions,
-         nullptr,
-         {TextBoxStudySessions, nullptr, TextboxStudyTime}},
-        {MenuTasks,
-         PictureBarTasks,
-         LabelBarTasks,
-         {TextBoxTotalTasks, TextBoxFinishedTasks, TextBoxUndatedTasks}},
-        {MenuEvents,
-         PictureBarEvents,
-         LabelBarEvents,
-         {TextBoxClasses, TextBoxOtherEvents, TextBoxSchedStudy}},
-        {MenuReminders, PictureBarReminders, nullptr, {TextboxAssignments, TextBoxTasks, TextBoxEvents}},
-    }};
-}
-
-std::array<QLabel*, 3> frmMain::CounterLabels() const {
-    return {LabelTotalAssignments, LabelFinishedAssignments, LabelTimeRemaining};
-}
-
-Mode frmMain::CurrentMode() const {
-    const auto controls = AllModeControls();
-    for (const ModeRow& row : ModeRows) {
-        if (RowOf(controls, row.mode).item->isChecked()) {
-            return row.mode;
-        }
-    }
-    return Mode::None;
-}
-
-namespace {
-
 // The entry that all six share.
 void EnterMode(frmMain& window, Mode mode) {
     const ModeRow& row = RowOf(ModeRows, mode);

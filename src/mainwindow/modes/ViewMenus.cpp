@@ -92,12 +92,3 @@ void BindViewMenus(frmMain& window) {
     });
     QObject::connect(window.ComboDateRange, &QComboBox::currentIndexChanged, &window, chosen);
 }
-
-ListFilter frmMain::CurrentFilter() const {
-    return {ToStore(ComboList->currentText()), ToStore(ComboDateRange->currentText()), ClickedDate,
-            CurrentMode() == Mode::Calendar};
-}
-
-SortOrder frmMain::CurrentSort() const {
-    return {SortColumn, SortDirection};
-}
