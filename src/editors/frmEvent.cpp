@@ -10,6 +10,7 @@
 #include "planner/entries/DurationEntry.h"
 #include "planner/entries/ReminderEntry.h"
 #include "planner/entries/TypeEntry.h"
+#include "planner/recurrence/EventWalk.h"
 #include "planner/rows/ClassLink.h"
 
 namespace {
@@ -141,7 +142,7 @@ void frmEvent::FillEdit() {
     ShowComboText(ComboReminderTime, tempEventReminderTime);
     ShowType();
     ShowDate(DateValue(tempEventStartDate));
-    CheckboxReminder->setChecked(IsTrue(tempEventReminder));
+    CheckboxReminder->setChecked(LeadDays(tempEventReminder) > 0 || IsTrue(tempEventReminder));
     LoadRecurrence();
     ButtonDelete->setEnabled(true);
 }

@@ -52,6 +52,7 @@ public:
     Date StoreRepeatEndDate{};
     std::string EventClickedStartTime;  // of a new event
     std::string EventDateDisplayString; // caption of the date of an event that is edited
+    bool EditEventSeries = true;        // false for one occurrence of a series
     bool DeleteExceptions = false;      // the days of the series have changed, so what it gave up is void
 
     DatePicker* Picker = nullptr;

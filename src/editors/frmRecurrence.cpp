@@ -7,6 +7,8 @@
 #include "planner/rows/Colors.h"
 #include "toolkit/WindowColors.h"
 
+#include <QButtonGroup>
+
 #include <algorithm>
 
 namespace {
@@ -32,6 +34,14 @@ void OnChoice(const QRadioButton* radio, const QObject* owner, Procedure procedu
     });
 }
 
+// Without a group of their own the toolkit takes the radios of the panels for further kinds.
+void Group(QObject* owner, std::initializer_list<QRadioButton*> radios) {
+    auto* const group = new QButtonGroup(owner);
+    for (QRadioButton* radio : radios) {
+        group->addButton(radio);
+    }
+}
+
 } // namespace
 
 frmRecurrence* RecurrenceDialog = nullptr;
@@ -39,6 +49,9 @@ frmRecurrence* RecurrenceDialog = nullptr;
 frmRecurrence::frmRecurrence(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
     SetupDateBoxes({{TextboxRepeatEndDate, picButtonRepeatEndDate}});
+    Group(this, {RadioRepeatNone, RadioRepeatDaily, RadioRepeatMonthly, RadioRepeatYearly});
+    Group(this, {RadioMonthlyThisDate, RadioMonthlyUser});
+    Group(this, {RadioYearlyThisDate, RadioYearlyUser});
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxRepeatEndDate, picButtonRepeatEndDate,
                      [this] { return StoreRepeatEndDate; });

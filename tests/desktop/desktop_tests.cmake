@@ -13,6 +13,7 @@ function(add_desktop_tests file)
 endfunction()
 
 add_desktop_tests(test_homework_path ByKeyboard ByMouse)
+add_desktop_tests(test_event_path ByKeyboard ByMouse)
 add_desktop_tests(test_process
   Start StartMode SecondStart TwoStarts Tray NoTray Saving Idle Failure Shutdown WindowPlace)
 add_desktop_tests(test_help_pictures HelpPictures)

@@ -20,6 +20,7 @@ class Main:
     CLOCK = (540, 554, 220, 18)
     NEW = (31, 254)  # of the buttons for new records the first
     CLASS_SCHEDULE = (106, 319)  # in Calendar mode
+    HALF_HOUR = (450, 300)  # one of those that the day's schedule shows first
 
 
 def small_day(row, column):
@@ -29,6 +30,7 @@ def small_day(row, column):
 
 class MessageBox:
     YES = (-137, -23)
+    NO_OF_THREE = (-137, -23)  # beside Yes and Cancel
 
 
 class TermChooser:
@@ -66,3 +68,18 @@ class Task:
     DESCRIPTION = (263, 41)
     DONE = (410, 141)
     OK = (283, 394)
+
+
+class Event:
+    DESCRIPTION = (262, 41)
+    DATE_BUTTON = (243, 88)
+    DATE_16 = (175, 189)  # the 16th of October 2009 in the month that opens from that button
+    CHANGE = (464, 244)
+    OK = (284, 434)
+    DELETE = (472, 434)
+
+
+class Recurrence:
+    DAILY = (25, 68)
+    THURSDAY = (112, 111)
+    OK = (280, 277)

@@ -7,6 +7,7 @@ import unittest
 from desktop import DesktopTest, wait_until
 from main_window import MainWindow
 from places import Assignment, Main, MessageBox, Task, Term, TermChooser
+from records import wait_for_record
 
 QUESTION = "Planovarium"
 CHOOSER = "Planovarium - Select a Term"
@@ -21,13 +22,6 @@ CLASSES = (("Algebra", "3"), ("History", "2"))  # with their credits
 SCORE, TOTAL = "17", "20"
 TASK = "Buy graph paper"
 BACKUPS = ["assignments_1_backup1.xml", "classes_backup1.xml", "tasks_backup1.xml", "terms_backup1.xml"]
-
-
-def values(text, tag):
-    """The values of a field in a record file, in order."""
-    opening, closing = f"<{tag}>", f"</{tag}>"
-    lines = (line.strip() for line in text.split("\n"))
-    return [line[len(opening):-len(closing)] for line in lines if line.startswith(opening)]
 
 
 class HomeworkPath(DesktopTest):
@@ -56,15 +50,7 @@ class HomeworkPath(DesktopTest):
         self.shut_down_and_start_again()
 
     def wait_for_record(self, file, **fields):
-        """Waits until the fields of the records in the file, in order, have these values."""
-        def found():
-            text = self.program.read_data(file)
-            return {field: values(text, field) for field in fields}
-
-        try:
-            wait_until(lambda: found() == fields, "the file is written")
-        except AssertionError:
-            self.assertEqual(found(), fields)
+        wait_for_record(self, file, **fields)
 
     def shut_down_and_start_again(self):
         shown = self.views()

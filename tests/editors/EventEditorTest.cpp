@@ -183,6 +183,13 @@ TEST_F(EventEditor, DateThatIsNoneRaisesTheError) {
     EXPECT_THROW(OpenEdit({.end = "True", .end_date = "never"}), RunTimeError);
 }
 
+TEST_F(EventEditor, LeadInDaysOfAnOlderFileIsAReminderThatIsOn) {
+    OpenEdit({.reminder = "2"});
+    ExpectReminder(true);
+    OpenEdit({.reminder = "False"});
+    ExpectReminder(false);
+}
+
 TEST_F(EventEditor, EndDateThatIsNoneCountsAsTheEventsWhereThereIsNoEnd) {
     OpenEdit({.date = "2009/11/02", .end_date = "never"});
     EXPECT_EQ(dialog->StoreRepeatEndDate, DateValue("2009/11/02"));

@@ -198,6 +198,24 @@ TEST_F(RecurrenceDialogs, ClickOnTheKindThatIsChosenCounts) {
     OpenFor(Weekly());
     Click(recurrence->RadioRepeatDaily);
     ExpectTouched(true, true);
+    EXPECT_TRUE(recurrence->RadioRepeatDaily->isChecked());
+}
+
+TEST_F(RecurrenceDialogs, EachSetOfRadiosIsChosenByItself) {
+    EventTexts series = Weekly();
+    series.same_date = "True";
+    OpenFor(series);
+    for (QRadioButton* kind : {recurrence->RadioRepeatNone, recurrence->RadioRepeatMonthly,
+                               recurrence->RadioRepeatMonthly, recurrence->RadioRepeatYearly}) {
+        Click(kind);
+        EXPECT_TRUE(kind->isChecked());
+        EXPECT_TRUE(recurrence->RadioMonthlyThisDate->isChecked());
+        EXPECT_TRUE(recurrence->RadioYearlyThisDate->isChecked());
+    }
+    Click(recurrence->RadioYearlyUser);
+    EXPECT_FALSE(recurrence->RadioYearlyThisDate->isChecked());
+    EXPECT_TRUE(recurrence->RadioMonthlyThisDate->isChecked());
+    EXPECT_TRUE(recurrence->RadioRepeatYearly->isChecked());
 }
 
 TEST_F(RecurrenceDialogs, DailyWithoutADayTicksTheWeekdayOfTheStart) {

@@ -3,6 +3,8 @@ target_sources(window_tests PRIVATE
   mainwindow/dialogs/AboutTest.cpp
   mainwindow/dialogs/GPATest.cpp
   mainwindow/dialogs/TipTest.cpp
+  mainwindow/flows/EventFlowTest.cpp
+  mainwindow/flows/EventSeriesWalkTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp

@@ -35,14 +35,20 @@ inline void PrepareEditor(EditorState& editor, const frmMain& window, std::strin
     editor.tempStartDayOfWeek = window.StartDayOfWeek;
 }
 
-// Fills the dialog from the record at the position. A value that does not convert is told by its place in the
-// record, not in the dialog's copy.
+// Gives the dialog the values of the record at the position.
 template <class Dialog, class Lists, std::size_t Count>
-void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
-                    const Lists& lists, int position) {
+void CopyFields(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
+                const Lists& lists, int position) {
     for (const FilledField<Dialog, Lists>& filled : fields) {
         dialog.*filled.field = (lists.*filled.list).Item(position);
     }
+}
+
+// Fills the dialog, which has the values of the record at the position. One that does not convert is told by
+// its place in the record, not in the dialog's copy.
+template <class Dialog, class Lists, std::size_t Count>
+void FillCopied(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
+                const Lists& lists, int position) {
     try {
         dialog.Fill();
     } catch (RunTimeError& error) {
@@ -54,6 +60,14 @@ void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>,
         }
         throw;
     }
+}
+
+// Both, for a dialog that takes the record as it is.
+template <class Dialog, class Lists, std::size_t Count>
+void FillFromRecord(Dialog& dialog, const std::array<FilledField<Dialog, Lists>, Count>& fields,
+                    const Lists& lists, int position) {
+    CopyFields(dialog, fields, lists, position);
+    FillCopied(dialog, fields, lists, position);
 }
 
 // Lets the student work in the filled dialog, beside the window at its first opening, until it closes.
@@ -68,6 +82,15 @@ void AppendRecord(Lists& lists, const std::tuple<EnteredField<List>...>& fields,
     static_assert(AreAllFields(std::array{&Lists::id, List...}));
     lists.id.Add(std::to_string(NextId(nextId)));
     ((lists.*List).Add(std::get<EnteredField<List>>(fields).text), ...);
+}
+
+// The values as lists that hold one entry each; the id is empty.
+template <class Lists, auto... List>
+Lists OneRecord(const std::tuple<EnteredField<List>...>& fields) {
+    static_assert(AreAllFields(std::array{&Lists::id, List...}));
+    Lists values;
+    ((values.*List).Add(std::get<EnteredField<List>>(fields).text), ...);
+    return values;
 }
 
 // Overwrites the record at the position, which keeps its id; all its other fields must be among those given.

@@ -154,6 +154,7 @@ TEST_F(Commands, KeysChooseTheModes) {
 }
 
 TEST_F(Commands, NewEventsStartAtNine) {
+    CancelDialogsAsTheyOpen(window.get());
     for (const auto& act : std::vector<std::function<void()>>{
              [this] { window->MenuNewEvent->trigger(); },
              [this] { QTest::mouseClick(window->ButtonNewEventSmall, Qt::LeftButton); },
@@ -182,7 +183,8 @@ TEST_F(NewItems, KeysAskForThem) {
         ASSERT_TRUE(WaitUntil([this] { return window->isActiveWindow(); })); // after a dialog as well
         Press(key, Qt::ControlModifier);
     }
-    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: "}));
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - New Assignment: ", "Planovarium - New Task: ",
+                                   "Planovarium - New Event: "}));
     EXPECT_EQ(window->EventClickedStartTime, "9:00 AM"); // as of every new event of a menu
 }
 
