@@ -112,6 +112,16 @@ void ShowFatalError(std::string_view text) {
     Script.fatalErrors.emplace_back(text);
 }
 
+std::optional<fs::path> GetSaveFileName(const SaveQuestion& question) {
+    Script.saveDialogs.push_back(question);
+    if (Script.savePlaces.empty()) {
+        return std::nullopt;
+    }
+    const fs::path place = Script.savePlaces.front();
+    Script.savePlaces.pop_front();
+    return place;
+}
+
 std::optional<int> ChooseColor(int color, CustomColors& custom) {
     Script.colorDialogs.push_back({color, custom});
     custom = Script.customColors;

@@ -4,6 +4,7 @@
 
 #include "platform/Clock.h"
 #include "platform/ColorDialog.h"
+#include "platform/FileDialogs.h"
 #include "platform/Formats.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Screen.h"
@@ -49,6 +50,8 @@ struct ScriptedPlatform {
     std::function<void(const ShownBox&)> whileBoxIsOpen;  // runs while a box is on the screen
     std::function<void(const std::string&)> whileSyncing; // runs as a file or folder of that name is synced
     std::vector<std::string> fatalErrors;
+    std::vector<SaveQuestion> saveDialogs;
+    std::deque<std::filesystem::path> savePlaces; // chosen in the next save dialogs; one without is cancelled
     std::vector<ShownColors> colorDialogs;
     std::deque<std::optional<int>> colors;      // chosen in the next colour dialogs; one without is cancelled
     CustomColors customColors = NoCustomColors; // which a colour dialog gives back
