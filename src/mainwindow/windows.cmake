@@ -17,6 +17,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp
   mainwindow/flows/EventFlow.cpp
+  mainwindow/flows/ExportFlow.cpp
   mainwindow/flows/PreferencesFlow.cpp
   mainwindow/flows/ReminderFlow.cpp
   mainwindow/flows/RunCommand.cpp

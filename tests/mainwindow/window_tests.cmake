@@ -5,6 +5,7 @@ target_sources(window_tests PRIVATE
   mainwindow/dialogs/TipTest.cpp
   mainwindow/flows/EventFlowTest.cpp
   mainwindow/flows/EventSeriesWalkTest.cpp
+  mainwindow/flows/ExportFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp

@@ -6,6 +6,7 @@
 #include "core/Values.h"
 #include "mainwindow/flows/AssignmentFlow.h"
 #include "mainwindow/flows/EventFlow.h"
+#include "mainwindow/flows/ExportFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/WindowFlow.h"
@@ -32,7 +33,7 @@ struct CommandRow {
     void (*run)(frmMain& window);
 };
 
-constexpr std::array<CommandRow, 12> CommandRows{{
+constexpr std::array<CommandRow, 19> CommandRows{{
     {Command::NewAssignment, "homework new", &NewAssignment},
     {Command::NewTask, "task new", &NewTask},
     {Command::NewEvent, "event new", &NewMorningEvent},
@@ -41,6 +42,13 @@ constexpr std::array<CommandRow, 12> CommandRows{{
     {Command::SeeCalendar, "calendar view", &ShowCalendarMode},
     {Command::SeeTasks, "task view", &ShowTaskMode},
     {Command::SeeEvents, "event view", &ShowEventMode},
+    {Command::ExportHomeworkCalendar, "", &ExportHomeworkCalendar},
+    {Command::ExportEventCalendar, "", &ExportEventCalendar},
+    {Command::ExportTaskCalendar, "", &ExportTaskCalendar},
+    {Command::ExportHomeworkList, "", &ExportHomeworkList},
+    {Command::ExportTaskList, "", &ExportTaskList},
+    {Command::ExportCalendarOfMode, "", &ExportCalendarOfMode},
+    {Command::ExportListOfMode, "", &ExportListOfMode},
     {Command::OpenDataFolder, "", &OpenDataFolder},
     {Command::OpenWindow, "tray view", &OpenWindow},
     {Command::HideWindows, "", &HideWindows},

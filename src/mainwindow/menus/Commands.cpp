@@ -39,11 +39,18 @@ struct CommandOf {
     Command command;
 };
 
-constexpr std::array<CommandOf<QAction>, 6> ItemCommands{{
+constexpr std::array<CommandOf<QAction>, 13> ItemCommands{{
     {&frmMain::MenuNewAssignment, Command::NewAssignment},
     {&frmMain::MenuNewTask, Command::NewTask},
     {&frmMain::MenuNewEvent, Command::NewEvent},
     {&frmMain::MenuClassSchedule, Command::ClassSchedule},
+    {&frmMain::MenuExportCalendarAS, Command::ExportHomeworkCalendar},
+    {&frmMain::MenuExportCalendarEV, Command::ExportEventCalendar},
+    {&frmMain::MenuExportCalendarTA, Command::ExportTaskCalendar},
+    {&frmMain::MenuExportListAS, Command::ExportHomeworkList},
+    {&frmMain::MenuExportListTA, Command::ExportTaskList},
+    {&frmMain::MenuExportCalendar, Command::ExportCalendarOfMode},
+    {&frmMain::MenuExportList, Command::ExportListOfMode},
     {&frmMain::MenuData, Command::OpenDataFolder},
     {&frmMain::MenuExit, Command::HideWindows},
 }};

@@ -1,0 +1,131 @@
+// The exports: a list or a month becomes a page where the student chooses, and the browser shows it.
+#include "mainwindow/flows/ExportFlow.h"
+
+#include "core/Module1.h"
+#include "export/CalendarPages.h"
+#include "export/ListPages.h"
+#include "mainwindow/frmMain.h"
+#include "platform/FileDialogs.h"
+#include "platform/Process.h"
+
+#include <optional>
+
+namespace {
+
+constexpr const char* PageFilter = "HTML Files (*.html)|*.html|HTM Files (*.htm)|*.htm|All Files (*.*)|*.*";
+constexpr const char* PageEnding = "html";
+
+std::filesystem::path TemplateFile(const PageNames& names) {
+    return std::filesystem::path(EnvironmentValue(ProgramFolderVariable)) / names.templateName;
+}
+
+void ExportPage(frmMain& window, const PageNames& names, const ScreenText& proposed, const PageLines& lines) {
+    const std::optional<std::filesystem::path> place =
+        GetSaveFileName({std::string(names.dialogTitle), DocumentFolder, proposed, PageFilter, PageEnding});
+    if (ShuttingDown) {
+        return;
+    }
+    if (place) {
+        WritePage(*place, TemplateFile(names), lines);
+        ShellOpen(place->string());
+    }
+    window.RefreshFor(ReasonNewRecord);
+}
+
+void ExportList(frmMain& window, ListPage page) {
+    const PageNames& names = NamesOf(page);
+    ExportPage(window, names, {std::string(names.fileName)},
+               [page](std::string_view text, const AddLine& add) { AddListPage(page, text, add); });
+}
+
+void ExportCalendar(frmMain& window, CalendarPage page) {
+    const PageNames& names = NamesOf(page);
+    const ExportedMonth month{window.ClickedDate, window.Month.CellDate.front(), window.StartDayOfWeek};
+    const std::string name = FormatDate(DateOfShownMonth(month), "MMMM").utf8 + std::string(names.fileName);
+    ExportPage(window, names, {name},
+               [&](std::string_view text, const AddLine& add) { AddCalendarPage(page, month, text, add); });
+}
+
+std::optional<ListPage> ListPageOf(Mode mode) {
+    switch (mode) {
+    case Mode::Homework:
+        return ListPage::Homework;
+    case Mode::StudySessions:
+        return ListPage::StudySessions;
+    case Mode::Tasks:
+        return ListPage::Tasks;
+    case Mode::Events:
+        return ListPage::Events;
+    case Mode::Reminders:
+        return ListPage::Reminders;
+    case Mode::Calendar:
+        break;
+    }
+    return std::nullopt;
+}
+
+std::optional<CalendarPage> CalendarPageOf(Mode mode) {
+    switch (mode) {
+    case Mode::Tasks:
+        return CalendarPage::Tasks;
+    case Mode::Events:
+        return CalendarPage::Events;
+    case Mode::Homework:
+    case Mode::StudySessions:
+    case Mode::Reminders:
+        return CalendarPage::Homework;
+    case Mode::Calendar:
+        break;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void ExportHomeworkList(frmMain& window) {
+    ExportList(window, ListPage::Homework);
+}
+
+void ExportStudyList(frmMain& window) {
+    ExportList(window, ListPage::StudySessions);
+}
+
+void ExportTaskList(frmMain& window) {
+    ExportList(window, ListPage::Tasks);
+}
+
+void ExportReminderList(frmMain& window) {
+    ExportList(window, ListPage::Reminders);
+}
+
+void ExportEventList(frmMain& window) {
+    ExportList(window, ListPage::Events);
+}
+
+void ExportHomeworkCalendar(frmMain& window) {
+    ExportCalendar(window, CalendarPage::Homework);
+}
+
+void ExportTaskCalendar(frmMain& window) {
+    ExportCalendar(window, CalendarPage::Tasks);
+}
+
+void ExportEventCalendar(frmMain& window) {
+    ExportCalendar(window, CalendarPage::Events);
+}
+
+void ExportListOfMode(frmMain& window) {
+    if (const std::optional<ListPage> page = ListPageOf(window.CurrentMode())) {
+        ExportList(window, *page);
+    } else {
+        window.RefreshFor(ReasonNewRecord);
+    }
+}
+
+void ExportCalendarOfMode(frmMain& window) {
+    if (const std::optional<CalendarPage> page = CalendarPageOf(window.CurrentMode())) {
+        ExportCalendar(window, *page);
+    } else {
+        window.RefreshFor(ReasonNewRecord);
+    }
+}
