@@ -21,6 +21,7 @@ add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
 add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
+add_desktop_tests(test_export Export)
 
 # The pages for printing, in a browser and before a validator.
 add_desktop_tests(test_pages Validator Months Lists)

@@ -59,6 +59,7 @@ std::optional<ListPage> ListPageOf(Mode mode) {
     case Mode::Reminders:
         return ListPage::Reminders;
     case Mode::Calendar:
+    case Mode::None:
         break;
     }
     return std::nullopt;
@@ -75,6 +76,7 @@ std::optional<CalendarPage> CalendarPageOf(Mode mode) {
     case Mode::Reminders:
         return CalendarPage::Homework;
     case Mode::Calendar:
+    case Mode::None:
         break;
     }
     return std::nullopt;
