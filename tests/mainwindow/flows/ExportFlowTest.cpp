@@ -95,19 +95,19 @@ TEST_F(ExportFlow, CalendarsAreOfTheMonthShownWhateverTheListHolds) {
               "Homework Calendar Template3.html|October 2009 Homework Calendar|~|");
     EXPECT_EQ(Proposed(), "Export Assignments to HTML Calendar File: October Homework Calendar.html");
     EXPECT_EQ(Chosen(window->MenuExportCalendarTA),
-              "Tasks-Events Calendar Template3.html|October 2009 Task Calendar|28|");
+              "Tasks-Events Calendar Template3.html|October 2009 Task Calendar|27|");
     EXPECT_EQ(Proposed(), "Export Tasks to HTML Calendar File: October Task Calendar.html");
     EXPECT_EQ(Chosen(window->MenuExportCalendarEV),
-              "Tasks-Events Calendar Template3.html|October 2009 Event Calendar|28|");
+              "Tasks-Events Calendar Template3.html|October 2009 Event Calendar|27|");
     EXPECT_EQ(Proposed(), "Export Events to HTML Calendar File: October Event Calendar.html");
 }
 
 TEST_F(ExportFlow, CalendarsFollowTheMonthAndTheStartDay) {
-    window->StartDayOfWeek = "Sunday";
+    window->StartDayOfWeek = "Monday";
     window->ClickedDate = Date{std::chrono::year{2010} / 2 / 3};
     window->RefreshFor(ReasonCalendar);
     EXPECT_EQ(Chosen(window->MenuExportCalendarTA),
-              "Tasks-Events Calendar Template3.html|February 2010 Task Calendar|31|");
+              "Tasks-Events Calendar Template3.html|February 2010 Task Calendar|25|");
     EXPECT_EQ(Proposed(), "Export Tasks to HTML Calendar File: February Task Calendar.html");
 }
 
@@ -143,9 +143,9 @@ TEST_F(ExportFlow, TheHiddenItemsOnlyRefreshInCalendarMode) {
     ShowCalendarMode(*window);
     for (QAction* item : {window->MenuExportList, window->MenuExportCalendar}) {
         AddTaskRecord({});
-        const int before = window->Month.TaskLeftCountByDay[16];
+        const int before = window->Month.TaskLeftCountByDay[17];
         item->trigger();
-        EXPECT_EQ(window->Month.TaskLeftCountByDay[16], before + 1);
+        EXPECT_EQ(window->Month.TaskLeftCountByDay[17], before + 1);
     }
     EXPECT_TRUE(Script.saveDialogs.empty());
 }
