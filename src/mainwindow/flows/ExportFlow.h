@@ -1,6 +1,6 @@
-// The exports: a list or a month becomes a page where the student chooses, and the browser shows it. Each ends
-// in a refresh, also when cancelled. A page that cannot be written or a template that is missing raises the
-// run-time error.
+// The exports: a list or a month becomes a page where the student chooses, and the browser shows it. Each
+// ends in a refresh, also when cancelled. A page that cannot be written or a template that is missing raises
+// the run-time error.
 #pragma once
 
 class frmMain;
