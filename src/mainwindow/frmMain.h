@@ -82,10 +82,9 @@ public:
     // For the grid's new size, unless the window is minimized or at work.
     void RefreshAfterResize();
 
-    // The layout and the fill of the mode, and both.
+    // The layout and the fill of the mode.
     void LayoutGrid();
     void FillGrid();
-    void RepaintGrid();
 
     // --- Painting the month (MonthCalendar.cpp, LargeCalendar.cpp) ---
     void BuildMonth();
@@ -94,7 +93,7 @@ public:
     void LayoutCalendarGrid();
     void ShowCalendarTitles();
 
-    // --- Painting the lists (ListGrid.cpp, HomeworkGrid.cpp, StudyGrid.cpp, ...) and their scroll bar ---
+    // --- Painting the lists (ListGrid.cpp, HomeworkGrid.cpp, StudyGrid.cpp, ...) ---
     void LayoutHomeworkGrid();
     void FillHomeworkList();
     void LayoutStudyGrid();
@@ -105,8 +104,6 @@ public:
     void FillReminderList();
     void LayoutEventList();
     void FillEventList();
-    void HighlightRow(int row, bool on);
-    void SetGridScroll();
 
     // --- Painting the day (DaySchedule.cpp) ---
     void LayoutEventGrid();
@@ -126,7 +123,6 @@ signals:
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 };
 
 // The one main window, from its load until the process ends.

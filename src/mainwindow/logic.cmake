@@ -1,8 +1,8 @@
 target_sources(planovarium_logic PRIVATE
   mainwindow/day/DayLayout.cpp
   mainwindow/dialogs/TipTexts.cpp
-  mainwindow/grid/GridLayout.cpp
-  mainwindow/grid/GridMoves.cpp
+  mainwindow/grid/DateMoves.cpp
+  mainwindow/list/ListColumns.cpp
   mainwindow/menus/PopupCaptions.cpp
   mainwindow/menus/StartupShortcut.cpp
   mainwindow/modes/ModeTables.cpp

@@ -18,11 +18,13 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/AssignmentFlow.cpp
   mainwindow/flows/EventFlow.cpp
   mainwindow/flows/ExportFlow.cpp
+  mainwindow/flows/help/HelpFlow.cpp
   mainwindow/flows/PreferencesFlow.cpp
   mainwindow/flows/ReminderFlow.cpp
   mainwindow/flows/RunCommand.cpp
   mainwindow/flows/TaskFlow.cpp
   mainwindow/flows/TermFlow.cpp
+  mainwindow/flows/help/TipFlow.cpp
   mainwindow/flows/ViewFlow.cpp
   mainwindow/flows/WindowFlow.cpp
   mainwindow/frame/BringForward.cpp
@@ -33,17 +35,14 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/frame/Unload.cpp
   mainwindow/frmMain.h
   mainwindow/grid/ViewParts.cpp
-  mainwindow/input/GridAccessible.cpp
   mainwindow/input/GridClicks.cpp
   mainwindow/input/GridKeys.cpp
   mainwindow/input/GridPointer.cpp
-  mainwindow/input/GridScroll.cpp
   mainwindow/input/GridTable.cpp
   mainwindow/list/EventList.cpp
   mainwindow/list/HomeworkGrid.cpp
   mainwindow/list/ListGrid.cpp
   mainwindow/list/ListRows.cpp
-  mainwindow/list/ListTitles.cpp
   mainwindow/list/ReminderGrid.cpp
   mainwindow/list/StudyGrid.cpp
   mainwindow/list/TaskGrid.cpp

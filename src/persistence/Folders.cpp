@@ -34,7 +34,7 @@ bool DataFolderEntered() {
 } // namespace
 
 bool SetupFolders() {
-    HelpFile = std::filesystem::path(EnvironmentValue(ProgramFolderVariable)) / "PlanovariumHelp.chm";
+    HelpFile = std::filesystem::path(EnvironmentValue(ProgramFolderVariable)) / "Help" / "index.html";
     DocumentFolder = std::filesystem::path(EnvironmentValue(DocumentFolderVariable)) / "Planovarium";
     DataFolder = DocumentFolder / "Data";
     BackupFolder = DataFolder / "Backup";

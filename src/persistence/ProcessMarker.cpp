@@ -17,9 +17,9 @@ namespace {
 
 constexpr std::string_view MarkerExtension = ".PID";
 
-std::filesystem::path MarkerPath() {
+std::filesystem::path MarkerPath(long process = ProcessNumber()) {
     const std::filesystem::path folder = EnvironmentValue(HostFolderVariable);
-    return folder / (std::to_string(ProcessNumber()) + std::string(MarkerExtension));
+    return folder / (std::to_string(process) + std::string(MarkerExtension));
 }
 
 // True for an empty file named as a marker is.
@@ -56,6 +56,12 @@ void MakeProcessMarker() {
     std::ofstream marker(path);
     if (!marker) {
         throw RunTimeError("Cannot write the file", PathText(path));
+    }
+}
+
+void LeaveMarkerOf(long process) {
+    if (process != 0) {
+        const std::ofstream marker(MarkerPath(process));
     }
 }
 

@@ -8,5 +8,9 @@ void DeleteDeadMarkers();
 // Makes the marker; raises the run-time error when it cannot.
 void MakeProcessMarker();
 
+// Makes one of the same kind for a process that the planner has started; none for the number 0. A failure is
+// not reported.
+void LeaveMarkerOf(long process);
+
 // Deletes the marker where it exists; raises the run-time error when it cannot.
 void DeleteProcessMarker();

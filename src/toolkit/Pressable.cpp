@@ -19,12 +19,6 @@ bool IsPressed(QAccessible::Role role) {
     return role == QAccessible::Button || role == QAccessible::PageTab || role == QAccessible::ColumnHeader;
 }
 
-// A modal dialog keeps the other windows from being pressed.
-bool IsInReach(const QWidget& control) {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return control.isVisible() && control.isEnabled() && (modal == nullptr || modal == control.window());
-}
-
 void Press(QWidget& control) {
     if (!IsInReach(control)) {
         return;
@@ -82,6 +76,11 @@ QAccessibleInterface* DescribePainted(const QString& /*className*/, QObject* obj
 }
 
 } // namespace
+
+bool IsInReach(const QWidget& control) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return control.isVisible() && control.isEnabled() && (modal == nullptr || modal == control.window());
+}
 
 void DescribeAs(QWidget* control, QAccessible::Role role) {
     control->setProperty(RoleTag, static_cast<int>(role));

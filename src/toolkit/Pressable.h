@@ -17,3 +17,7 @@ void DescribeValue(QWidget* control, const QString& value);
 
 // Gives the control the name, and tells of it when it is another one than before.
 void DescribeName(QWidget* control, const QString& name);
+
+// Whether a screen reader may press the control: it is there, and no modal dialog keeps its window from being
+// pressed.
+bool IsInReach(const QWidget& control);

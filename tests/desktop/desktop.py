@@ -271,12 +271,20 @@ class Planner:
         unfinished.write_text(f"@{date}\n")
         unfinished.rename(self.date_file)
 
-    def start(self, *arguments, shown=True, directory=None):
-        """Starts the first instance and, unless it starts hidden, waits for its window."""
+    def start(self, *arguments, shown=True, directory=None, tips=False):
+        """Starts the first instance and, unless it starts hidden, waits for its window. No tip of the day comes up
+        unless it is told to."""
+        if not tips:
+            self.want_no_tips()
         self.process = self.start_another(*arguments, directory=directory)
         if shown:
             self.wait_for_window()
         return self
+
+    def want_no_tips(self):
+        preferences = self.read_data("Prefs.ini")
+        if "ShowTipsAtStartup=No\n" not in preferences:
+            self.write_data("Prefs.ini", preferences.replace("ShowTipsAtStartup=Yes\n", "") + "ShowTipsAtStartup=No\n")
 
     def start_another(self, *arguments, environment=None, directory=None, user=None):
         with self.complaints.open("ab") as complaints:

@@ -15,7 +15,7 @@ endfunction()
 add_desktop_tests(test_homework_path ByKeyboard ByMouse)
 add_desktop_tests(test_event_path ByKeyboard ByMouse)
 add_desktop_tests(test_process
-  Start StartMode SecondStart TwoStarts Tray NoTray Saving Idle Failure Shutdown WindowPlace)
+  Start StartMode SecondStart TwoStarts Tray NoTray Saving Idle Failure Tips Shutdown WindowPlace)
 add_desktop_tests(test_help_pictures HelpPictures)
 add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german

@@ -16,6 +16,7 @@ RECORD_FILES = ["classes.xml", "events.xml", "tasks.xml", "terms.xml"]
 BOX = "Planovarium"
 SPLASH = "Planovarium starts"
 TASK_EDITOR = "Planovarium - New Task"
+TIP = "Planovarium Tip of the Day"
 READ_ERROR = "Planovarium - File Read Error"
 NOBODY = 65534
 NO_RECORD_FILE = "line 1\n<wrong>\n"
@@ -52,7 +53,7 @@ def type_a_new_task(planner, description):
 
 class Start(DesktopTest):
     def test_on_an_empty_drive_makes_the_folders_and_the_empty_files(self):
-        planner = self.planner().start()
+        planner = self.planner().start(tips=True)
         self.assertEqual(sorted(p.name for p in planner.data.glob("*.xml")), RECORD_FILES)
         self.assertTrue(planner.backup.is_dir())
         self.assertEqual(planner.markers(), [f"{planner.process.pid}.PID"])
@@ -401,7 +402,22 @@ class Failure(DesktopTest):
         self.desktop.press_in(planner.window(), "ctrl+4")  # whose list needs the flag
         self.desktop.press_in(wait_until(lambda: self.desktop.window(BOX), "the error is told"), "Return")
         self.assertEqual(planner.wait_for_exit(), 1)
-        self.assertFalse((planner.data / "Prefs.ini").exists())
+        self.assertEqual(planner.read_data("Prefs.ini"), "ShowTipsAtStartup=No\n")
+
+
+class Tips(DesktopTest):
+    def test_come_up_with_the_window_until_the_box_is_unticked(self):
+        planner = self.planner()
+        planner.start(tips=True)
+        tip = wait_until(lambda: self.desktop.window(TIP), "a tip stands")
+        self.desktop.press_in(tip, "alt+s", "Escape")
+        wait_until(lambda: not self.desktop.window(TIP), "the tip has gone")
+        self.assertEqual(planner.shut_down(), 0)
+        self.assertIn("\nShowTipsAtStartup=No\n", planner.read_data("Prefs.ini"))
+        self.assertTrue(planner.read_data("Prefs.ini").count("\nCurrentTip=1\n"))
+        planner.start(tips=True)
+        self.assertTrue(stays_false(lambda: self.desktop.window(TIP), 1.5))
+        self.assertEqual(planner.shut_down(), 0)
 
     def lines_told_at_the_start(self, record, field, value):
         """The pictures of the lines of the box that the start ends with, where a field of one of two tasks has a
@@ -465,12 +481,13 @@ class Shutdown(DesktopTest):
 
     def test_before_the_preferences_were_read_leaves_them_alone(self):
         planner = self.planner()
-        planner.write_data("Prefs.ini", "ActiveTerm=Fall 2009\n")
+        preferences = "ActiveTerm=Fall 2009\nShowTipsAtStartup=No\n"
+        planner.write_data("Prefs.ini", preferences)
         planner.write_data("terms.xml", NO_RECORD_FILE)
         planner.start(shown=False)
         wait_until(lambda: self.desktop.window(READ_ERROR), "the failure is told")
         self.assertEqual(planner.shut_down(), 0)
-        self.assertEqual(planner.read_data("Prefs.ini"), "ActiveTerm=Fall 2009\n")
+        self.assertEqual(planner.read_data("Prefs.ini"), preferences)
         self.assertFalse((planner.data / "events.xml").exists())
         self.assertEqual(planner.markers(), [])
 

@@ -1,8 +1,8 @@
 target_sources(logic_tests PRIVATE
   mainwindow/day/DayLayoutTest.cpp
   mainwindow/dialogs/TipTextsTest.cpp
-  mainwindow/grid/GridLayoutTest.cpp
-  mainwindow/grid/GridMovesTest.cpp
+  mainwindow/grid/DateMovesTest.cpp
+  mainwindow/list/ListColumnsTest.cpp
   mainwindow/menus/PopupCaptionsTest.cpp
   mainwindow/menus/StartupShortcutTest.cpp
   mainwindow/modes/ModeTablesTest.cpp

@@ -6,7 +6,9 @@ target_sources(window_tests PRIVATE
   mainwindow/flows/EventFlowTest.cpp
   mainwindow/flows/EventSeriesWalkTest.cpp
   mainwindow/flows/ExportFlowTest.cpp
+  mainwindow/flows/help/HelpFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
+  mainwindow/flows/help/TipFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp
   mainwindow/frame/RefreshViewTest.cpp

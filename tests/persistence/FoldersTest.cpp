@@ -61,7 +61,7 @@ TEST_F(Folders, AppearOnAnEmptyDriveAndTheReadersCreateEmptyFiles) {
 TEST_F(Folders, AreEnteredAndTheHelpFileIsThatOfTheProgramFolder) {
     ASSERT_TRUE(SetupFolders());
     EXPECT_EQ(fs::current_path(), fs::canonical(DataFolder));
-    EXPECT_EQ(HelpFile, drive.root / "U3_DEVICE_EXEC_PATH" / "PlanovariumHelp.chm");
+    EXPECT_EQ(HelpFile, drive.root / "U3_DEVICE_EXEC_PATH" / "Help" / "index.html");
 }
 
 TEST_F(Folders, ThatExistKeepWhatIsInThem) {

@@ -1,12 +1,13 @@
 // The main window as the student sees it: each mode at three sizes, at the scale of this process, compared
 // with the stored pictures; and that the comparison would see a column that has moved.
 #include "core/RowLists.h"
-#include "mainwindow/grid/GridLayout.h"
+#include "mainwindow/list/ListColumns.h"
 #include "mainwindow/modes/Modes.h"
 #include "pictures/PictureOptions.h"
 #include "pictures/PicturePlanner.h"
 #include "pictures/Pictures.h"
 #include "support/WindowTest.h"
+#include "toolkit/layout/GridLayout.h"
 
 #include <QFontInfo>
 #include <QPainter>

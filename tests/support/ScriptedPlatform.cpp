@@ -29,8 +29,6 @@ void NoteSync(const fs::path& path) {
     }
 }
 
-constexpr long StartedProcessNumber = 4711;
-
 std::string Padded(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
@@ -165,7 +163,7 @@ long ProcessNumber() {
 }
 
 bool ProcessExists(long number) {
-    return number == ProcessNumber() || (number == StartedProcessNumber && !Script.processes.empty());
+    return number == ProcessNumber() || (number == Script.startedProcess && !Script.processes.empty());
 }
 
 std::string EnvironmentValue(const char* name) {
@@ -179,7 +177,7 @@ void ShellOpen(std::string_view address) {
 
 long StartProcess(const std::string& program, std::initializer_list<std::string> arguments) {
     Script.processes.push_back({program, arguments});
-    return StartedProcessNumber;
+    return Script.startedProcess;
 }
 
 std::filesystem::path StartupFolder() {

@@ -58,7 +58,8 @@ struct ScriptedPlatform {
     std::vector<std::filesystem::path> sounds;  // asked for, in order
     std::vector<std::string> opened;            // addresses handed to the shell
     std::vector<StartedProcess> processes;
-    std::string trayTip; // empty while there is no icon
+    long startedProcess = 4711; // number of the next one that is started; 0 where none can be
+    std::string trayTip;        // empty while there is no icon
     TrayEvents trayEvents;
     std::function<bool(const std::string&)> receiveLink;
     std::filesystem::path startupFolder; // from which the desktop session starts programs

@@ -82,6 +82,7 @@ void WindowTest::LoadWindow() {
     window = std::make_unique<frmMain>();
     MainWindow = window.get();
     ASSERT_TRUE(LoadPlanner(*window));
+    window->TimerTip->stop(); // no tip comes between the steps of a test
     window->show();
     window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), LimitMilliseconds));

@@ -3,4 +3,9 @@ target_sources(window_tests PRIVATE
   toolkit/ElidedLabelTest.cpp
   toolkit/HelpTopicsTest.cpp
   toolkit/InputRulesTest.cpp
+  toolkit/grid/ListAccessibleTest.cpp
+  toolkit/grid/ListInputTest.cpp
+  toolkit/grid/ListPaintingTest.cpp
+  toolkit/grid/ListPointerTest.cpp
+  toolkit/grid/SampleList.cpp
 )

@@ -107,8 +107,12 @@ std::string EventBoxText(int eventRow) {
     return type.empty() || desc.empty() ? " " + text : text;
 }
 
+int HalfHourTop(int halfHour, int firstRow) {
+    return (PlaceOfRow(halfHour + 1, firstRow) - 1) * SlotUnits;
+}
+
 UnitRect EventBoxOf(int eventRow, int firstRow) {
-    return {EventBoxLeft.Item(eventRow), EventBoxTop.Item(eventRow) - (firstRow - 1) * SlotUnits,
+    return {EventBoxLeft.Item(eventRow), EventBoxTop.Item(eventRow) + HalfHourTop(0, firstRow),
             EventBoxWidth.Item(eventRow), EventBoxHeight.Item(eventRow)};
 }
 
@@ -125,7 +129,7 @@ int EventBoxAt(int x, int y, int firstRow) {
 }
 
 int HalfHourAt(int y, int firstRow) {
-    return firstRow - 1 + y / SlotUnits;
+    return RowAtPlace(y / SlotUnits + 1, firstRow) - 1;
 }
 
 std::vector<int> EventRowsInHalfHour(int halfHour) {

@@ -2,7 +2,7 @@
 // and what lies under a point. In units of 15 to the pixel.
 #pragma once
 
-#include "mainwindow/grid/GridLayout.h"
+#include "toolkit/layout/GridLayout.h"
 
 #include <span>
 #include <string>
@@ -10,7 +10,9 @@
 #include <vector>
 
 inline constexpr int TimeColumnWidth = 705; // of the hour labels
-inline constexpr int DaySlots = 288;        // of five minutes
+inline constexpr int SlotHeight = 24;       // pixels of a half hour
+inline constexpr int SlotUnits = SlotHeight * UnitsPerPixel;
+inline constexpr int DaySlots = 288; // of five minutes
 inline constexpr int SlotsPerRow = 6;
 inline constexpr int SlotScale = SlotUnits / SlotsPerRow; // height of a slot
 inline constexpr int DayRowCount = 47;                    // rows that the schedule scrolls over
@@ -45,6 +47,9 @@ void LayoutDayEvents(int gridWidth);
 // What stands in the box of an event row: its type and its description, joined by " - "; one alone has a
 // blank in front of it.
 std::string EventBoxText(int eventRow);
+
+// The upper edge of a half hour on a schedule that begins with that row.
+int HalfHourTop(int halfHour, int firstRow);
 
 // Where the box of an event row stands on a schedule that begins with that row.
 UnitRect EventBoxOf(int eventRow, int firstRow);

@@ -12,6 +12,8 @@
 #include "planner/recurrence/EventOccursOn.h"
 #include "planner/rows/Colors.h"
 #include "toolkit/Text.h"
+#include "toolkit/grid/ListPainting.h"
+#include "toolkit/grid/ListScroll.h"
 
 namespace {
 
@@ -62,7 +64,7 @@ void DrawEventBoxes(PictureBox& grid, int firstRow, int currentEvent) {
 
 // The half hour on which the keys stand.
 void DrawCurrentHalfHour(PictureBox& grid, int halfHour, int firstRow) {
-    grid.DrawFrame(0, (halfHour - firstRow + 1) * SlotUnits, RowsRight(grid.WidthInUnits()),
+    grid.DrawFrame(0, HalfHourTop(halfHour, firstRow), RowsRight(grid.WidthInUnits()),
                    SlotUnits + UnitsPerPixel, CurrentColor);
 }
 
@@ -81,7 +83,7 @@ QString ShownEventText(int eventRow, int boxWidth) {
 }
 
 void frmMain::LayoutEventGrid() {
-    HideColumnTitles(*this);
+    LeaveList(*this);
     PlaceScrollBar(*this);
     picGrid->Clear();
     HeaderHeight = 0;
@@ -101,7 +103,7 @@ void frmMain::FillEventDay() {
     LayoutDayEvents(picGrid->WidthInUnits());
     SortEventRowsByColumn();
     RowCount = DayRowCount;
-    SetGridScroll();
+    SetGridScroll(*this);
     CurrentEvent = EventInHalfHour(CurrentHalfHour, CurrentEvent);
     FirstRow = FirstRowOfDay(*this);
     DrawHalfHours(*picGrid, FirstRow);

@@ -7,22 +7,15 @@
 #include "mainwindow/flows/RunCommand.h"
 #include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridAccessible.h"
 #include "mainwindow/input/GridKeys.h"
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/menus/PopupMenus.h"
 #include "mainwindow/modes/Modes.h"
+#include "toolkit/grid/ListScroll.h"
+#include "toolkit/grid/PaintedTable.h"
 
 namespace {
 
 // --- The keys' place, moved and scrolled to ---
-
-void StandOnRow(frmMain& window, int row) {
-    if (row > 0) {
-        window.CurrentRow = row;
-        ShowRow(window, row);
-    }
-}
 
 void StandOnHalfHour(frmMain& window, int halfHour, int eventRow) {
     if (halfHour >= 0) {
@@ -40,7 +33,6 @@ void PointPopupAt(frmMain& window, QPoint point) {
 
 void OpenMenuOfList(frmMain& window, const ViewAction& action) {
     if (action.reveal) {
-        StandOnRow(window, action.row);
         StandOnHalfHour(window, action.halfHour, window.CurrentEvent);
     } else if (action.halfHour >= 0) {
         window.EventClickedStartTime = StartTimeOfHalfHour(action.halfHour);
@@ -64,9 +56,6 @@ void OpenMenuOfDay(frmMain& window, const ViewAction& action) {
 void OpenFromGrid(frmMain& window, const ViewAction& action) {
     switch (action.kind) {
     case ViewActionKind::OpenRow:
-        if (action.reveal) {
-            StandOnRow(window, action.row);
-        }
         return OpenRow(window, action.row);
     case ViewActionKind::OpenEvent:
         if (action.reveal) {
@@ -81,7 +70,7 @@ void OpenFromGrid(frmMain& window, const ViewAction& action) {
 void GoTo(frmMain& window, const ViewAction& action) {
     GoToDate(window, *action.date);
     if (action.reveal) {
-        NotifyGridMoved(window);
+        NotifyTableMoved(window.picGrid);
     }
 }
 
@@ -110,10 +99,6 @@ void Act(frmMain& window, const ViewAction& action) {
         return OpenMenuOfDay(window, action);
     case ViewActionKind::OpenListMenu:
         return OpenMenuOfList(window, action);
-    case ViewActionKind::ShowRow:
-        return StandOnRow(window, action.row);
-    case ViewActionKind::SortColumn:
-        return ColumnClicked(window, action.index);
     case ViewActionKind::ShowHalfHour:
         return StandOnHalfHour(window, action.halfHour, action.row);
     case ViewActionKind::OpenRow:

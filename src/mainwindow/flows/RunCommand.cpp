@@ -10,18 +10,15 @@
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/WindowFlow.h"
+#include "mainwindow/flows/help/HelpFlow.h"
+#include "mainwindow/flows/help/TipFlow.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/Modes.h"
-#include "platform/Process.h"
 
 #include <algorithm>
 #include <array>
 
 namespace {
-
-void OpenDataFolder(frmMain& /*window*/) {
-    StartProcess("explorer", {DataFolder.string()});
-}
 
 void Shutdown(frmMain& window) {
     emit window.EndAsked();
@@ -33,7 +30,7 @@ struct CommandRow {
     void (*run)(frmMain& window);
 };
 
-constexpr std::array<CommandRow, 19> CommandRows{{
+constexpr auto CommandRows = std::to_array<CommandRow>({
     {Command::NewAssignment, "homework new", &NewAssignment},
     {Command::NewTask, "task new", &NewTask},
     {Command::NewEvent, "event new", &NewMorningEvent},
@@ -49,11 +46,15 @@ constexpr std::array<CommandRow, 19> CommandRows{{
     {Command::ExportTaskList, "", &ExportTaskList},
     {Command::ExportCalendarOfMode, "", &ExportCalendarOfMode},
     {Command::ExportListOfMode, "", &ExportListOfMode},
+    {Command::OpenHelp, "", &OpenHelp},
+    {Command::OpenHomeworkHelp, "", &OpenHomeworkHelp},
+    {Command::ShowTips, "", &ShowTips},
+    {Command::ShowAbout, "", &ShowAbout},
     {Command::OpenDataFolder, "", &OpenDataFolder},
     {Command::OpenWindow, "tray view", &OpenWindow},
     {Command::HideWindows, "", &HideWindows},
     {Command::Shutdown, "tray shutdown", &Shutdown},
-}};
+});
 
 void EditRowOf(frmMain& window, std::string_view subject, int row) {
     if (subject == "homework") {

@@ -8,28 +8,21 @@
 #include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridAccessible.h"
 #include "mainwindow/panels/CalendarSteps.h"
 #include "planner/reminders/ReminderItems.h"
+#include "toolkit/grid/ListInput.h"
+#include "toolkit/grid/ListPainting.h"
+#include "toolkit/grid/PaintedTable.h"
 
 namespace {
 
-// The keys go on from the row that is opened.
-void MoveCurrentRow(frmMain& window, int row) {
-    if (row != window.CurrentRow) {
-        window.CurrentRow = row;
-        window.RepaintGrid();
-        NotifyGridMoved(window);
-    }
-}
-
-// The same for the half hour, and the event row in it or 0.
+// The keys go on from the half hour, and from the event row in it or 0.
 void MoveCurrentHalfHour(frmMain& window, int halfHour, int eventRow) {
     if (halfHour != window.CurrentHalfHour || eventRow != window.CurrentEvent) {
         window.CurrentHalfHour = halfHour;
         window.CurrentEvent = eventRow;
         window.RepaintGrid();
-        NotifyGridMoved(window);
+        NotifyTableMoved(window.picGrid);
     }
 }
 
@@ -80,11 +73,11 @@ void ApplyStartDayOfWeek(frmMain& window) {
 }
 
 void OpenRow(frmMain& window, int row) {
-    MoveCurrentRow(window, row);
-    const int place = row - window.FirstRow + 1;
-    window.HighlightRow(place, true);
+    SelectRow(window, row);
+    const int place = PlaceOfRow(row, window.FirstRow);
+    HighlightRow(window, place, true);
     EditRecordOf(window, row);
-    window.HighlightRow(place, false);
+    HighlightRow(window, place, false);
 }
 
 void OpenEventBox(frmMain& window, int row, int halfHour) {

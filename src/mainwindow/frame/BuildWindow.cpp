@@ -2,9 +2,9 @@
 // bar.
 #include "mainwindow/dialogs/frmAlert.h"
 #include "mainwindow/flows/Actions.h"
+#include "mainwindow/flows/help/TipFlow.h"
 #include "mainwindow/frame/Unload.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridAccessible.h"
 #include "mainwindow/input/GridClicks.h"
 #include "mainwindow/menus/AutoStart.h"
 #include "mainwindow/menus/Commands.h"
@@ -26,6 +26,7 @@
 
 namespace {
 
+constexpr std::size_t GridTitles = 10;
 constexpr int TopHeight = 30;
 constexpr int StepperSize = 22;
 constexpr int StatusHeight = 24;
@@ -61,17 +62,8 @@ QWidget* BuildRightSide(frmMain& window) {
     top->addWidget(window.picCalDayUp);
     column->addWidget(window.picTop);
 
-    window.picGrid = new PictureBox;
-    InstallGridAccessible(*window.picGrid); // before anything describes it
-    window.picGrid->setFocusPolicy(Qt::StrongFocus);
+    BuildGrid(window, GridTitles, &window);
     window.picGrid->setAccessibleName(QStringLiteral("View"));
-    for (PictureBox*& header : window.picColHeader) {
-        header = new PictureBox(window.picGrid);
-        header->setCursor(Qt::PointingHandCursor);
-        header->hide();
-    }
-    window.VSGridScroll = new QScrollBar(Qt::Vertical, window.picGrid);
-    window.VSGridScroll->hide();
     column->addWidget(window.picGrid, 1);
     return side;
 }
@@ -98,6 +90,7 @@ void BindParts(frmMain& window) {
     BindStudyTimer(window);
     BindAutoStart(window);
     BindCommands(window);
+    BindTips(window);
     QObject::connect(&window, &frmMain::Asked, &window,
                      [&window](const ViewAction& action) { Act(window, action); });
     QObject::connect(&window, &frmMain::EndAsked, &window, [&window] { Unload(window); });

@@ -1,8 +1,8 @@
 // The view on the grid: which layout and fill the mode has.
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridAccessible.h"
 #include "mainwindow/input/GridPointer.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "toolkit/grid/PaintedTable.h"
 
 namespace {
 
@@ -25,11 +25,6 @@ static_assert(StandsInModeOrder(GridViewRows));
 
 } // namespace
 
-void frmMain::RepaintGrid() {
-    LayoutGrid();
-    FillGrid();
-}
-
 void frmMain::LayoutGrid() {
     if (const Mode mode = CurrentMode(); mode != Mode::None) {
         (this->*RowOf(GridViewRows, mode).layout)();
@@ -43,5 +38,5 @@ void frmMain::FillGrid() {
     }
     (this->*RowOf(GridViewRows, mode).fill)();
     RefreshGridPointer(*this);
-    NotifyGridChanged(*this);
+    NotifyTableChanged(picGrid);
 }

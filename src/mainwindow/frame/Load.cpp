@@ -8,6 +8,8 @@
 #include "editors/frmEvent.h"
 #include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
+#include "mainwindow/dialogs/frmAbout.h"
+#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/flows/PreferencesFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/ViewFlow.h"
@@ -59,6 +61,8 @@ void LoadDialogs(frmMain& window) {
     TaskDialog = new FrmTask(&window);
     EventDialog = new frmEvent(&window);
     RecurrenceDialog = new frmRecurrence(&window);
+    TipDialog = new frmTip(&window);
+    AboutDialog = new frmAbout(&window);
 }
 
 } // namespace
@@ -100,5 +104,6 @@ bool LoadPlanner(frmMain& window) {
     ClearStudyTimer(window);
     window.TimerStatusBar->start();
     window.picGrid->setFocus();
+    window.TimerTip->start();
     return true;
 }

@@ -16,7 +16,7 @@ namespace {
 
 // An error leaves the rest of the steps undone, and the process goes on ending.
 void RunShutdownSteps(const frmMain& window) {
-    for (QTimer* timer : {window.Timer1, window.TimerButton, window.TimerStatusBar}) {
+    for (QTimer* timer : {window.Timer1, window.TimerButton, window.TimerStatusBar, window.TimerTip}) {
         timer->stop();
     }
     try {

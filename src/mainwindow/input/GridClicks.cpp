@@ -5,14 +5,13 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/input/GridKeys.h"
 #include "mainwindow/input/GridPointer.h"
-#include "mainwindow/input/GridScroll.h"
+#include "mainwindow/input/GridTable.h"
+#include "mainwindow/list/ListColumns.h"
 #include "mainwindow/modes/ModeTables.h"
+#include "toolkit/grid/ListInput.h"
+#include "toolkit/grid/SurfaceEvents.h"
 
 namespace {
-
-bool OnSurface(const PictureBox& grid, int x, int y) {
-    return Holds({0, 0, grid.WidthInUnits(), grid.HeightInUnits()}, x, y);
-}
 
 QPoint InPixels(int x, int y) {
     return {x / UnitsPerPixel, y / UnitsPerPixel};
@@ -48,17 +47,55 @@ ViewAction ClickOnDay(const frmMain& window, int x, int y, bool right) {
             .halfHour = halfHour};
 }
 
-ViewAction ClickOnList(const frmMain& window, const ModeRow& mode, int x, int y, bool right) {
-    if (right && mode.listMenu != ListMenu::None) {
-        return {.kind = ViewActionKind::OpenListMenu, .point = InPixels(x, y)};
+// What is asked of the list in this mode; gives whether it means anything there.
+bool AskOfList(frmMain& window, const ListAction& action) {
+    if (!ListOf(window.CurrentMode())) {
+        return false;
     }
-    const int row = window.FirstRow + window.ClickedRow - 1;
-    if (window.ClickedRow == NoRow) {
+    const ModeRow& mode = RowOf(ModeRows, window.CurrentMode());
+    switch (action.ask) {
+    case ListAsk::Menu:
+        if (mode.listMenu != ListMenu::None) {
+            emit window.Asked({.kind = ViewActionKind::OpenListMenu, .point = InPixels(action.x, action.y)});
+        }
+        return mode.listMenu != ListMenu::None;
+    case ListAsk::Click:
+    case ListAsk::Enter:
+        emit window.Asked(action.row > 0
+                              ? ViewAction{.kind = ViewActionKind::OpenRow, .row = action.row}
+                              : ViewAction{.kind = ViewActionKind::RunCommand, .command = mode.behindRows});
+        return true;
+    case ListAsk::Move:
+    case ListAsk::Sort:
+        return true;
+    case ListAsk::Delete:
+        return false;
+    }
+    return false;
+}
+
+// What the release asks for in the month or in the schedule of a day.
+ViewAction ReleaseOnDays(const frmMain& window, int x, int y, Qt::MouseButton button) {
+    if (!IsOnSurface(window, x, y) || RowUnder(window, x, y) != window.ClickedRow) {
         return {};
     }
-    return row <= window.RowCount
-               ? ViewAction{.kind = ViewActionKind::OpenRow, .row = row}
-               : ViewAction{.kind = ViewActionKind::RunCommand, .command = mode.behindRows};
+    const bool right = button == Qt::RightButton;
+    switch (window.CurrentMode()) {
+    case Mode::Calendar:
+        return ClickOnMonth(window, x, y, right);
+    case Mode::Events:
+        return ClickOnDay(window, x, y, right);
+    default:
+        return {};
+    }
+}
+
+void ReleaseOnGrid(frmMain& window, int x, int y, Qt::MouseButton button) {
+    if (ListOf(window.CurrentMode())) {
+        ReleaseList(window, x, y, button);
+    } else {
+        emit window.Asked(ReleaseOnDays(window, x, y, button));
+    }
 }
 
 } // namespace
@@ -70,44 +107,26 @@ int RowUnder(const frmMain& window, int x, int y) {
     case Mode::Events:
         return EventBoxAt(x, y, window.FirstRow);
     default:
-        return RowAt(x, y, window.picGrid->WidthInUnits());
-    }
-}
-
-// Press and release must fall on one row.
-ViewAction ReleaseOnGrid(const frmMain& window, int x, int y, Qt::MouseButton button) {
-    if (!OnSurface(*window.picGrid, x, y) || RowUnder(window, x, y) != window.ClickedRow) {
-        return {};
-    }
-    const bool right = button == Qt::RightButton;
-    const Mode mode = window.CurrentMode();
-    switch (mode) {
-    case Mode::Calendar:
-        return ClickOnMonth(window, x, y, right);
-    case Mode::Events:
-        return ClickOnDay(window, x, y, right);
-    case Mode::None:
-        return {};
-    default:
-        return ClickOnList(window, RowOf(ModeRows, mode), x, y, right);
+        return PlaceAt(x, y, window.picGrid->WidthInUnits());
     }
 }
 
 void BindGrid(frmMain& window) {
-    InstallGridKeys(window);
+    DescribeAsTable(window.picGrid, &window, [&window] { return TableOfView(window); });
+    window.RepaintGrid = [&window] {
+        window.LayoutGrid();
+        window.FillGrid();
+    };
+    window.ActOnList = [&window](const ListAction& action) { return AskOfList(window, action); };
+    TakeKeys(window.picGrid, &window, [&window](int key, Qt::KeyboardModifiers modifiers) {
+        return PressGridKey(window, key, modifiers);
+    });
     InstallGridPointer(window);
-    BindGridScroll(window);
     QObject::connect(window.picGrid, &PictureBox::Pressed, &window,
                      [&window](int x, int y) { window.ClickedRow = RowUnder(window, x, y); });
-    QObject::connect(window.picGrid, &PictureBox::Released, &window,
-                     [&window](int x, int y, Qt::MouseButton button) {
-                         emit window.Asked(ReleaseOnGrid(window, x, y, button));
-                     });
+    QObject::connect(
+        window.picGrid, &PictureBox::Released, &window,
+        [&window](int x, int y, Qt::MouseButton button) { ReleaseOnGrid(window, x, y, button); });
     // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
     QObject::connect(window.picGrid, &PictureBox::Resized, &window, &frmMain::RefreshAfterResize);
-    for (std::size_t i = 0; i < window.picColHeader.size(); ++i) {
-        QObject::connect(window.picColHeader[i], &PictureBox::Clicked, &window, [&window, i] {
-            emit window.Asked({.kind = ViewActionKind::SortColumn, .index = i});
-        });
-    }
 }

@@ -1,35 +1,15 @@
-// The keys of the grid: arrows, Page Up and Down, Home and End move, Enter opens, the menu key opens the
-// context menu, a digit sorts by the column of that number; in the month H, T and E open the day's menus.
-// With Ctrl the arrows and pages move the selected day from every view, Home goes to today and End to
-// tomorrow.
+// The keys of the grid. In the month and in the schedule of a day arrows, Page Up and Down, Home and End
+// move, Enter opens, the menu key opens the context menu; in the month H, T and E open the day's menus. With
+// Ctrl the arrows and pages move the selected day from every view, Home goes to today and End to tomorrow.
 #include "mainwindow/input/GridKeys.h"
 
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/grid/GridMoves.h"
-#include "mainwindow/modes/ModeTables.h"
-
-#include <QKeyEvent>
-
-#include <optional>
+#include "mainwindow/grid/DateMoves.h"
+#include "mainwindow/list/ListColumns.h"
+#include "toolkit/grid/ListInput.h"
 
 namespace {
-
-struct MoveKey {
-    int key;
-    GridMove move;
-};
-
-constexpr std::array<MoveKey, 8> MoveKeys{{
-    {Qt::Key_Up, GridMove::Up},
-    {Qt::Key_Down, GridMove::Down},
-    {Qt::Key_Left, GridMove::Left},
-    {Qt::Key_Right, GridMove::Right},
-    {Qt::Key_PageUp, GridMove::PageUp},
-    {Qt::Key_PageDown, GridMove::PageDown},
-    {Qt::Key_Home, GridMove::Home},
-    {Qt::Key_End, GridMove::End},
-}};
 
 struct DayMenuKey {
     int key;
@@ -42,60 +22,12 @@ constexpr std::array<DayMenuKey, CalendarIcons> DayMenuKeys{{
     {Qt::Key_E, CalendarIcon::Events},
 }};
 
-std::optional<GridMove> MoveOf(int key) {
-    const auto* const found = std::ranges::find(MoveKeys, key, &MoveKey::key);
-    return found == MoveKeys.end() ? std::nullopt : std::optional(found->move);
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-bool IsMenuKey(int key, Qt::KeyboardModifiers modifiers) {
-    return key == Qt::Key_Menu || (key == Qt::Key_F10 && modifiers == Qt::ShiftModifier);
-}
-
 KeyMeaning Ask(ViewAction action) {
     return {.taken = true, .action = std::move(action)};
 }
 
 KeyMeaning AskToGo(Date date, bool reveal) {
     return Ask({.kind = ViewActionKind::GoToDate, .date = date, .reveal = reveal});
-}
-
-// --- The lists ---
-
-ViewAction ShowRowOf(int row) {
-    return {.kind = ViewActionKind::ShowRow, .row = row};
-}
-
-bool HasTitle(const frmMain& window, int column) {
-    const int columns = static_cast<int>(window.picColHeader.size());
-    return column >= 1 && column < columns &&
-           window.picColHeader[static_cast<std::size_t>(column)]->isVisible();
-}
-
-KeyMeaning ListKey(const frmMain& window, int key) {
-    if (const auto move = MoveOf(key)) {
-        const ListView view{window.RowCount, window.FirstRow, window.RowsVisible};
-        return Ask(ShowRowOf(MovedRow(*move, window.CurrentRow, view)));
-    }
-    if (IsEnter(key) && window.CurrentRow > 0) {
-        return Ask({.kind = ViewActionKind::OpenRow, .row = window.CurrentRow, .reveal = true});
-    }
-    const int column = key - Qt::Key_0;
-    if (HasTitle(window, column)) {
-        return Ask({.kind = ViewActionKind::SortColumn, .index = static_cast<std::size_t>(column)});
-    }
-    return {};
-}
-
-// A list without a menu shows the row and leaves the key to others.
-KeyMeaning ListMenuKey(const frmMain& window, Mode mode) {
-    if (mode == Mode::None || RowOf(ModeRows, mode).listMenu == ListMenu::None) {
-        return {.taken = false, .action = ShowRowOf(window.CurrentRow)};
-    }
-    return Ask({.kind = ViewActionKind::OpenListMenu, .row = window.CurrentRow, .reveal = true});
 }
 
 // --- The schedule of a day ---
@@ -194,47 +126,28 @@ KeyMeaning PlainKey(const frmMain& window, int key) {
         return MonthKey(window, key);
     case Mode::Events:
         return DayKey(window, key);
-    case Mode::None:
-        return {};
     default:
-        return ListKey(window, key);
+        return {};
     }
 }
 
 KeyMeaning MenuKeyPressed(const frmMain& window) {
-    const Mode mode = window.CurrentMode();
-    switch (mode) {
+    switch (window.CurrentMode()) {
     case Mode::Calendar:
         return AskForCalendarMenu(window);
     case Mode::Events:
         return DayMenuKeyPressed(window);
     default:
-        return ListMenuKey(window, mode);
+        return {};
     }
 }
 
-class GridKeyFilter : public QObject {
-public:
-    explicit GridKeyFilter(frmMain& owner) : QObject(&owner), window(owner) {}
-
-    bool eventFilter(QObject* /*grid*/, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress) {
-            return false;
-        }
-        const auto* const press = static_cast<QKeyEvent*>(event);
-        const KeyMeaning meaning = MeaningOfKey(window, press->key(), press->modifiers());
-        emit window.Asked(meaning.action);
-        return meaning.taken;
-    }
-
-private:
-    frmMain& window;
-};
-
 } // namespace
 
-void InstallGridKeys(frmMain& window) {
-    window.picGrid->installEventFilter(new GridKeyFilter(window));
+bool PressGridKey(frmMain& window, int key, Qt::KeyboardModifiers modifiers) {
+    const KeyMeaning meaning = MeaningOfKey(window, key, modifiers);
+    emit window.Asked(meaning.action);
+    return meaning.taken || (ListOf(window.CurrentMode()) && PressListKey(window, key, modifiers));
 }
 
 KeyMeaning MeaningOfKey(const frmMain& window, int key, Qt::KeyboardModifiers modifiers) {
@@ -249,10 +162,6 @@ KeyMeaning MeaningOfKey(const frmMain& window, int key, Qt::KeyboardModifiers mo
 }
 
 QPoint PointBesideKeys(const frmMain& window) {
-    if (window.CurrentMode() == Mode::Events) {
-        const int place = std::max(window.CurrentHalfHour - window.FirstRow + 2, 1);
-        return {TimeColumnWidth / UnitsPerPixel, place * SlotUnits / UnitsPerPixel};
-    }
-    const int place = std::max(window.CurrentRow - window.FirstRow + 1, 1);
-    return {RowNumberRight / UnitsPerPixel, RowTop(place + 1) / UnitsPerPixel};
+    const int place = std::max(PlaceOfRow(window.CurrentHalfHour + 1, window.FirstRow), 1);
+    return {TimeColumnWidth / UnitsPerPixel, place * SlotUnits / UnitsPerPixel};
 }

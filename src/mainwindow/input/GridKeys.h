@@ -5,15 +5,17 @@
 
 class frmMain;
 
-// Lets the grid ask for what its keys mean before the toolkit makes anything of them.
-void InstallGridKeys(frmMain& window);
-
 struct KeyMeaning {
     bool taken = false; // the key means something here, though it may ask for nothing
     ViewAction action{};
 };
 
+// What the key means in every view, and in the month and the schedule of a day; the lists have keys of their
+// own.
 KeyMeaning MeaningOfKey(const frmMain& window, int key, Qt::KeyboardModifiers modifiers);
 
-// Where on the grid, in pixels, a menu opens beside the row or the half hour on which the keys stand.
+// Asks for what the key means, also in the lists. Gives whether it means anything.
+bool PressGridKey(frmMain& window, int key, Qt::KeyboardModifiers modifiers);
+
+// Where on the grid, in pixels, a menu opens beside the half hour on which the keys stand.
 QPoint PointBesideKeys(const frmMain& window);

@@ -5,14 +5,11 @@
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/day/DaySchedule.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridTable.h"
-#include "mainwindow/list/ListGrid.h"
-#include "mainwindow/list/ListTitles.h"
+#include "mainwindow/list/ListColumns.h"
 #include "toolkit/Text.h"
 #include "toolkit/WindowStyle.h"
-
-#include <QHelpEvent>
-#include <QToolTip>
+#include "toolkit/grid/ListPointer.h"
+#include "toolkit/grid/SurfaceEvents.h"
 
 namespace {
 
@@ -65,29 +62,6 @@ QString MonthTip(const frmMain& window, int x, int y) {
                       at == SelectedCellOf(month) ? QKeySequence(tip.key) : QKeySequence());
 }
 
-// --- The lists ---
-
-std::optional<UnitRect> RowRectAt(const frmMain& window, int x, int y) {
-    const int place = RowAt(x, y, window.picGrid->WidthInUnits());
-    if (y < TitleUnits || place == NoRow || window.FirstRow + place - 1 > window.RowCount) {
-        return std::nullopt;
-    }
-    return UnitRect{0, RowTop(place), RowsRight(window.picGrid->WidthInUnits()), RowUnits + UnitsPerPixel};
-}
-
-QString ListTip(const frmMain& window, ListKind kind, QPoint point) {
-    const TableCell at = TableCellAt(window, point);
-    if (at.row < 0 || at.column <= 0) {
-        return {};
-    }
-    const auto column = static_cast<std::size_t>(at.column);
-    const GridCell cell = RowOfList(kind, at.row + 1).cells[column - 1];
-    const ColumnPlace place = PlaceColumns(ColumnsOf(kind), window.picGrid->WidthInUnits())[column];
-    const QString whole = TableText(window, at.row, at.column);
-    const bool saysIt = cell.kind != CellKind::Text || ShownCellText(cell, place).trimmed() == whole;
-    return saysIt ? QString() : whole; // a shortened text, or what a mark means
-}
-
 // --- The day ---
 
 QString EventTip(const frmMain& window, int x, int y) {
@@ -95,53 +69,6 @@ QString EventTip(const frmMain& window, int x, int y) {
     const QString whole = row == 0 ? QString() : FromStore(EventBoxText(row));
     return row == 0 || ShownEventText(row, EventBoxWidth.Item(row)) == whole ? QString() : whole.trimmed();
 }
-
-// Follows the pointer over the grid, and off it onto the titles and the scroll bar. The grid is kept apart,
-// since events reach it while the window comes to its end.
-class GridPointerFilter : public QObject {
-public:
-    explicit GridPointerFilter(frmMain& owner) : QObject(&owner), window(owner), grid(owner.picGrid) {}
-
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched != grid) {
-            if (event->type() == QEvent::Enter) {
-                grid->ShowHover(std::nullopt);
-            }
-            return false;
-        }
-        switch (event->type()) {
-        case QEvent::MouseMove:
-            Follow(static_cast<QMouseEvent*>(event)->position().toPoint());
-            return false;
-        case QEvent::Leave:
-            grid->ShowHover(std::nullopt);
-            return false;
-        case QEvent::ToolTip:
-            return ShowTip(*static_cast<QHelpEvent*>(event));
-        default:
-            return false;
-        }
-    }
-
-    void Follow(QPoint point) {
-        grid->ShowHover(OpenableAt(window, point.x() * UnitsPerPixel, point.y() * UnitsPerPixel));
-        grid->setCursor(grid->Hover() ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    }
-
-private:
-    bool ShowTip(const QHelpEvent& event) {
-        const QString tip = GridTip(window, event.pos());
-        if (tip.isEmpty()) {
-            QToolTip::hideText();
-        } else {
-            QToolTip::showText(event.globalPos(), PlainTip(tip), grid);
-        }
-        return true;
-    }
-
-    frmMain& window;
-    PictureBox* grid;
-};
 
 } // namespace
 
@@ -157,10 +84,10 @@ std::optional<UnitRect> OpenableAt(const frmMain& window, int x, int y) {
     return box == 0 ? std::nullopt : std::optional(EventBoxOf(box, window.FirstRow));
 }
 
-QString GridTip(const frmMain& window, QPoint point) {
+QString GridTip(frmMain& window, QPoint point) {
     const Mode mode = window.CurrentMode();
-    if (const auto kind = ListOf(mode)) {
-        return ListTip(window, *kind, point);
+    if (ListOf(mode)) {
+        return ListTipAt(window, point);
     }
     const int x = point.x() * UnitsPerPixel;
     const int y = point.y() * UnitsPerPixel;
@@ -171,19 +98,11 @@ QString GridTip(const frmMain& window, QPoint point) {
 }
 
 void InstallGridPointer(frmMain& window) {
-    auto* filter = new GridPointerFilter(window);
-    window.picGrid->setMouseTracking(true);
-    window.picGrid->installEventFilter(filter);
-    for (PictureBox* header : window.picColHeader) {
-        header->installEventFilter(filter);
-    }
-    window.VSGridScroll->installEventFilter(filter);
+    FollowPointer(window.picGrid, OnSurface(window), &window,
+                  {[&window](int x, int y) { return OpenableAt(window, x, y); },
+                   [&window](QPoint point) { return GridTip(window, point); }});
 }
 
 void RefreshGridPointer(frmMain& window) {
-    if (const auto& hover = window.picGrid->Hover()) {
-        // The pointer still stands in what it was shown last; its middle tells whether that is still there.
-        window.picGrid->ShowHover(
-            OpenableAt(window, hover->left + hover->width / 2, hover->top + hover->height / 2));
-    }
+    LookAgainUnderPointer(*window.picGrid, [&window](int x, int y) { return OpenableAt(window, x, y); });
 }

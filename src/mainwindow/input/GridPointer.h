@@ -4,7 +4,7 @@
 
 #include "platform/Units.h"
 
-#include <QRect>
+#include <QPoint>
 #include <QString>
 
 #include <optional>
@@ -22,4 +22,4 @@ void RefreshGridPointer(frmMain& window);
 std::optional<UnitRect> OpenableAt(const frmMain& window, int x, int y);
 
 // The tip at the point of the grid, in pixels; empty for none.
-QString GridTip(const frmMain& window, QPoint point);
+QString GridTip(frmMain& window, QPoint point);

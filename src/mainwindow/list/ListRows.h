@@ -1,26 +1,11 @@
 // What the lists show in their rows: the same cells for the painting and for screen readers.
 #pragma once
 
-#include "mainwindow/grid/GridLayout.h"
+#include "mainwindow/list/ListColumns.h"
 #include "platform/Clock.h"
-
-#include <QString>
+#include "toolkit/grid/PaintedList.h"
 
 #include <string_view>
-#include <vector>
-
-enum class CellKind { Text, Checked, Unchecked };
-
-struct GridCell {
-    QString text;
-    CellKind kind = CellKind::Text;
-};
-
-struct GridRow {
-    int forecolor = 0; // 0xBBGGRR
-    int backcolor = 0xFFFFFF;
-    std::vector<GridCell> cells; // from column 1 on; column 0 is the row's number
-};
 
 // The number of rows that the selection of the list has left.
 int RowsInList(ListKind kind);

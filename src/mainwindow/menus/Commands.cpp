@@ -39,7 +39,7 @@ struct CommandOf {
     Command command;
 };
 
-constexpr std::array<CommandOf<QAction>, 13> ItemCommands{{
+constexpr auto ItemCommands = std::to_array<CommandOf<QAction>>({
     {&frmMain::MenuNewAssignment, Command::NewAssignment},
     {&frmMain::MenuNewTask, Command::NewTask},
     {&frmMain::MenuNewEvent, Command::NewEvent},
@@ -51,22 +51,35 @@ constexpr std::array<CommandOf<QAction>, 13> ItemCommands{{
     {&frmMain::MenuExportListTA, Command::ExportTaskList},
     {&frmMain::MenuExportCalendar, Command::ExportCalendarOfMode},
     {&frmMain::MenuExportList, Command::ExportListOfMode},
+    {&frmMain::MenuHelpDB, Command::OpenHelp},
+    {&frmMain::MenuHomeworkHelp, Command::OpenHomeworkHelp},
+    {&frmMain::MenuShowTips, Command::ShowTips},
+    {&frmMain::MenuAbout, Command::ShowAbout},
     {&frmMain::MenuData, Command::OpenDataFolder},
     {&frmMain::MenuExit, Command::HideWindows},
-}};
+});
 
-constexpr std::array<CommandOf<QToolButton>, 3> SmallButtonCommands{{
+constexpr auto SmallButtonCommands = std::to_array<CommandOf<QToolButton>>({
     {&frmMain::ButtonNewAssignmentSmall, Command::NewAssignment},
     {&frmMain::ButtonNewTaskSmall, Command::NewTask},
     {&frmMain::ButtonNewEventSmall, Command::NewEvent},
-}};
+});
 
-constexpr std::array<CommandOf<QPushButton>, 4> ButtonCommands{{
+constexpr auto ButtonCommands = std::to_array<CommandOf<QPushButton>>({
     {&frmMain::ButtonNewAssignment, Command::NewAssignment},
     {&frmMain::ButtonNewTask, Command::NewTask},
     {&frmMain::ButtonNewEvent, Command::NewEvent},
     {&frmMain::ButtonSelectTerm, Command::ClassSchedule},
-}};
+});
+
+constexpr auto PictureCommands = std::to_array<CommandOf<PictureBox>>({
+    {&frmMain::PictureBarWeb, Command::OpenHomeworkHelp},
+    {&frmMain::picHelp, Command::OpenHelp},
+});
+
+constexpr auto WordCommands = std::to_array<CommandOf<ClickLabel>>({
+    {&frmMain::LabelBarWeb, Command::OpenHomeworkHelp},
+});
 
 template <class Control, std::size_t Count, class Signal>
 void BindControls(frmMain& window, const std::array<CommandOf<Control>, Count>& rows, Signal chosen) {
@@ -84,6 +97,8 @@ void BindCommands(frmMain& window) {
     BindControls(window, ItemCommands, &QAction::triggered);
     BindControls(window, SmallButtonCommands, &QToolButton::clicked);
     BindControls(window, ButtonCommands, &QPushButton::clicked);
+    BindControls(window, PictureCommands, &PictureBox::Clicked);
+    BindControls(window, WordCommands, &ClickLabel::Clicked);
     QObject::connect(window.ButtonSelectTerm, &QPushButton::clicked, &window,
                      [&window] { window.picGrid->setFocus(); }); // behind its command
 }

@@ -5,7 +5,6 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
-#include "mainwindow/grid/GridLayout.h"
 #include "planner/recurrence/SeriesRule.h"
 #include "planner/rows/RowLook.h"
 

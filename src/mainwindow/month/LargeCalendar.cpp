@@ -114,7 +114,7 @@ void PaintLines(PictureBox& surface, const CalendarCell& cell, const CalendarMon
 
 void frmMain::LayoutCalendarGrid() {
     VSGridScroll->hide();
-    HideColumnTitles(*this);
+    LeaveList(*this);
     CalendarGrid = LayOutCalendar(picGrid->WidthInUnits(), picGrid->HeightInUnits(), Month);
     picGrid->Clear();
     PaintGrounds(*picGrid, CalendarGrid, Month);

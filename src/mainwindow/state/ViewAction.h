@@ -23,10 +23,8 @@ enum class ViewActionKind {
     GoToDate,         // date
     OpenDayMenu,      // icon; date, which is gone to first
     OpenCalendarMenu, // date, which is gone to first
-    OpenListMenu,     // that of the mode; row or halfHour
-    ShowRow,          // row of the list
+    OpenListMenu,     // that of the mode; halfHour in the schedule of a day
     OpenRow,          // row of the list
-    SortColumn,       // index of the column
     ShowHalfHour,     // halfHour; row, the event row in it or 0
     OpenEvent,        // row, the event row; halfHour
     OpenHalfHour,     // halfHour

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Clock.h"
+#include "platform/SortDirection.h"
 
 #include <string>
 
@@ -11,9 +12,6 @@ struct ListFilter {
     Date clickedDate;           // the day that the range "Day" means
     bool calendarMode = false;  // the window shows the month, where ComboList does not count
 };
-
-inline constexpr int Ascending = 1;
-inline constexpr int Descending = 2;
 
 struct SortOrder {
     int column = 0; // by the column titles of the mode, from 1

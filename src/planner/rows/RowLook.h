@@ -47,6 +47,10 @@ std::string ShownClock(std::string_view clock);
 // A type and a description, joined by " - " where there are both.
 std::string TypeAndDescription(std::string_view type, std::string_view desc);
 
+// The marks of a reminder and of a high priority in lists and menus.
+inline constexpr std::string_view ReminderMark = "\xAE";
+inline constexpr std::string_view PriorityMark = "!";
+
 // What stands for an empty description.
 inline constexpr std::string_view NewAssignmentText = "New Assignment";
 inline constexpr std::string_view NewTaskText = "New Task";

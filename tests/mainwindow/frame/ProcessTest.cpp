@@ -380,11 +380,12 @@ TEST_F(Process, ShutdownWritesThePreferencesAndTakesMarkerAndIconAway) {
 
 TEST_F(Process, ShutdownStopsTheTimers) {
     LoadWindow();
-    for (QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
+    for (QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar, window->TimerTip}) {
         timer->start();
     }
     Unload(*window);
-    for (const QTimer* timer : {window->Timer1, window->TimerButton, window->TimerStatusBar}) {
+    for (const QTimer* timer :
+         {window->Timer1, window->TimerButton, window->TimerStatusBar, window->TimerTip}) {
         EXPECT_FALSE(timer->isActive());
     }
 }

@@ -2,11 +2,11 @@
 // records, the sort arrow, the ground of the small calendar, lines at fractions of a scale, tips.
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/ViewFlow.h"
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
 #include "support/Looks.h"
 #include "toolkit/WindowStyle.h"
+#include "toolkit/grid/ListInput.h"
 
 #include <QHelpEvent>
 

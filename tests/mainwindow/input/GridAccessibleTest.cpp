@@ -1,50 +1,11 @@
 // The grid as a screen reader is told of it.
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
+#include "toolkit/grid/ListInput.h"
 
-#include <QAccessible>
-
-// Whether a screen reader listens is told to the toolkit from below, by headers that it calls private.
-#include <private/qguiapplication_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
+#include "support/Listener.h"
 
 namespace {
-
-struct Telling {
-    QAccessible::Event type;
-    const QObject* object;
-    int child; // only of an event that has an object
-};
-
-std::vector<Telling> Tellings; // since a listener was made
-
-void Remember(QAccessibleEvent* event) {
-    Tellings.push_back({event->type(), event->object(), event->object() != nullptr ? event->child() : -1});
-}
-
-void SetListening(bool listens) {
-    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listens);
-}
-
-// Listens as a screen reader does, for as long as it lives.
-struct Listener {
-    Listener() : before(QAccessible::installUpdateHandler(&Remember)) {
-        SetListening(true);
-        Tellings.clear();
-    }
-
-    ~Listener() {
-        SetListening(false);
-        QAccessible::installUpdateHandler(before);
-    }
-
-    Listener(const Listener&) = delete;
-    Listener& operator=(const Listener&) = delete;
-
-    QAccessible::UpdateHandler before;
-};
 
 class GridAccessible : public GridTest {
 protected:
@@ -60,23 +21,9 @@ protected:
         return texts;
     }
 
-    bool ChangeIsTold() const {
-        return std::ranges::any_of(Tellings, [this](const Telling& telling) {
-            return telling.type == QAccessible::TableModelChanged && telling.object == window->picGrid;
-        });
-    }
+    bool ChangeIsTold() const { return ::ChangeIsTold(window->picGrid); }
 
-    // Whether the cell on which the keys stand was told of since the last question.
-    bool MoveIsTold() {
-        const QList<QAccessibleInterface*> cells = Table()->selectedCells();
-        const int child = cells.isEmpty() ? -1 : Grid()->indexOfChild(cells.first());
-        const bool told = std::ranges::any_of(Tellings, [&](const Telling& telling) {
-            return telling.type == QAccessible::Focus && telling.object == window->picGrid &&
-                   telling.child == child;
-        });
-        Tellings.clear();
-        return child >= 0 && told;
-    }
+    bool MoveIsTold() const { return ::MoveIsTold(Grid()); }
 
     QStringList Columns() const {
         QStringList titles;

@@ -1,7 +1,7 @@
 // Sorting and clicking on the grid.
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
+#include "toolkit/grid/ListInput.h"
 
 #include "core/RowLists.h"
 
@@ -86,7 +86,7 @@ TEST_F(GridClicks, AClickOpensTheRowAndShowsWhich) {
 TEST_F(GridClicks, AHighlightedNumberIsWhiteOnBlack) {
     AddAssignments(2);
     ShowHomeworkMode(*window);
-    window->HighlightRow(2, true);
+    HighlightRow(*window, 2, true);
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).text, "2");
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).forecolor, 0xFFFFFF);
     EXPECT_EQ(Cell(ListKind::Homework, 2, 0).backcolor, 0);
@@ -97,7 +97,7 @@ TEST_F(GridClicks, AHighlightedNumberIsSeenBeforeTheEditorLoads) {
     ShowHomeworkMode(*window);
     PaintCounter paints;
     window->picGrid->installEventFilter(&paints);
-    window->HighlightRow(1, true);
+    HighlightRow(*window, 1, true);
     EXPECT_EQ(paints.count, 1); // without a loop of events
 }
 
@@ -107,7 +107,7 @@ TEST_F(GridClicks, NothingIsHighlightedWhereNoListIsShown) {
     ShowCalendarMode(*window);
     ASSERT_EQ(window->RowCount, 2); // of the list that was left
     const std::size_t drawn = window->picGrid->Drawn().size();
-    window->HighlightRow(1, false);
+    HighlightRow(*window, 1, false);
     EXPECT_EQ(window->picGrid->Drawn().size(), drawn);
 }
 
@@ -115,7 +115,7 @@ TEST_F(GridClicks, ARowThatHasGoneIsNotHighlighted) {
     AddAssignments(1);
     ShowHomeworkMode(*window);
     const std::size_t drawn = window->picGrid->Drawn().size();
-    window->HighlightRow(2, false);
+    HighlightRow(*window, 2, false);
     EXPECT_EQ(window->picGrid->Drawn().size(), drawn);
 }
 

@@ -4,7 +4,7 @@
 #include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
-#include "mainwindow/grid/ViewParts.h"
+#include "toolkit/grid/ListPainting.h"
 
 using namespace std::chrono_literals;
 
@@ -282,9 +282,9 @@ TEST_F(GridKeys, TheFocusIsSeenAroundTheGrid) {
 
 TEST_F(GridKeys, OtherKeysAreLeftToTheWindow) {
     ShowHomeworkMode(*window);
-    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_Tab, Qt::NoModifier).taken);
-    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_A, Qt::NoModifier).taken);
-    EXPECT_FALSE(MeaningOfKey(*window, Qt::Key_Down, Qt::AltModifier).taken);
+    EXPECT_FALSE(PressGridKey(*window, Qt::Key_Tab, Qt::NoModifier));
+    EXPECT_FALSE(PressGridKey(*window, Qt::Key_A, Qt::NoModifier));
+    EXPECT_FALSE(PressGridKey(*window, Qt::Key_Down, Qt::AltModifier));
 }
 
 TEST_F(GridKeys, AClickTakesTheFrameWithIt) {

@@ -1,10 +1,10 @@
 // What the pointer is shown on the grid as it passes: what a click opens, and the tips.
 #include "mainwindow/input/GridPointer.h"
 #include "mainwindow/flows/ViewFlow.h"
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
 #include "toolkit/Text.h"
+#include "toolkit/grid/ListInput.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

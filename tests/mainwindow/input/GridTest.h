@@ -4,10 +4,12 @@
 
 #include "core/Module1.h"
 #include "mainwindow/day/DayLayout.h"
-#include "mainwindow/grid/GridLayout.h"
+#include "mainwindow/list/ListColumns.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"
+#include "toolkit/grid/ListInput.h"
+#include "toolkit/grid/ListPainting.h"
 
 #include <QMenu>
 

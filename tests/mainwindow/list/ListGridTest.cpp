@@ -1,7 +1,7 @@
 // The lists of the grid: their titles, their rows as painted, and the texts over them.
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
+#include "toolkit/grid/ListInput.h"
 
 #include "core/RowLists.h"
 
@@ -11,7 +11,7 @@ using ListGrid = GridTest;
 
 constexpr const char* Mark = "\xC2\xAE"; // the sign that the store's character 174 is
 
-QStringList Titles(const std::array<PictureBox*, 10>& headers) {
+QStringList Titles(const std::vector<PictureBox*>& headers) {
     QStringList titles;
     for (const PictureBox* header : headers) {
         if (!header->isHidden()) {

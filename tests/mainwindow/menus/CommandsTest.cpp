@@ -205,7 +205,7 @@ TEST_F(Commands, DataFolderOpensInTheFileBrowser) {
     window->MenuData->setEnabled(true); // a drive does not offer it
     window->MenuData->trigger();
     ASSERT_EQ(Script.processes.size(), 1U);
-    EXPECT_EQ(Script.processes[0].program, "explorer");
+    EXPECT_EQ(Script.processes[0].program, "xdg-open");
     EXPECT_EQ(Script.processes[0].arguments, std::vector<std::string>{DataFolder.string()});
 }
 

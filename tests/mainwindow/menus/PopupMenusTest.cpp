@@ -2,9 +2,9 @@
 #include "mainwindow/menus/PopupMenus.h"
 #include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/flows/WindowFlow.h"
-#include "mainwindow/input/GridScroll.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
+#include "toolkit/grid/ListInput.h"
 
 #include "core/RowLists.h"
 #include "toolkit/Text.h"

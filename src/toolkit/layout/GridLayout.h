@@ -1,5 +1,6 @@
-// Where the lists of the grid stand: the columns of each list, the rows under them, and what lies under a
-// point. All in units of 15 to the pixel unless told otherwise.
+// Where the parts of a painted list stand: the columns, the rows under their titles, and what lies under a
+// point. All in units of 15 to the pixel unless told otherwise. The place of a row is its number on the
+// surface, counted from 1 under the titles.
 #pragma once
 
 #include "platform/Units.h"
@@ -9,30 +10,22 @@
 #include <vector>
 
 inline constexpr int RowHeight = 22;   // pixels
-inline constexpr int SlotHeight = 24;  // pixels of a half hour in the schedule of a day
 inline constexpr int TitleHeight = 21; // pixels
 inline constexpr int RowUnits = RowHeight * UnitsPerPixel;
-inline constexpr int SlotUnits = SlotHeight * UnitsPerPixel;
 inline constexpr int TitleUnits = TitleHeight * UnitsPerPixel;
 inline constexpr int ScrollStripWidth = 255;
 inline constexpr int RowNumberWidth = 28;  // pixels of column 0
 inline constexpr int RowNumberRight = 345; // the right end of the row numbers
 inline constexpr int NoRow = 999;          // ClickedRow where no row lies under the point
 
-// The marks of a reminder and of a high priority in lists and menus, in the characters of the store.
-inline constexpr std::string_view ReminderMark = "\xAE";
-inline constexpr std::string_view PriorityMark = "!";
-
-enum class ListKind { Homework, StudySessions, Tasks, Events, Reminders };
-
 // A column's title, in the characters of the store, and its width: fixed in pixels when it is 1 or more, else
-// a share of what the fixed columns leave. Column 0 is the number of the row.
+// a share of what the fixed columns leave. Column 0 is the number of the row. Where the title is a mark,
+// `spoken` is the word for it, and for the mark in the cells under it.
 struct ListColumn {
     std::string_view title;
     double width = 0;
+    std::string_view spoken = {};
 };
-
-std::span<const ListColumn> ColumnsOf(ListKind kind);
 
 struct ColumnPlace {
     int left = 0;
@@ -51,15 +44,27 @@ int RowsRight(int gridWidth);
 // Whole rows of that height that fit under the titles; all three in pixels.
 int WholeRows(int gridHeight, int titleHeight, int rowHeight);
 
-// The upper edge of a row, counted from 1 under the titles: the line above it.
-int RowTop(int row);
+// The place of a row of a list that shows its rows from the first one on, and the row at a place.
+constexpr int PlaceOfRow(int row, int firstRow) {
+    return row - firstRow + 1;
+}
 
-// The inside of a cell, between the lines around it.
-UnitRect CellRect(const ColumnPlace& column, int row);
+constexpr int RowAtPlace(int place, int firstRow) {
+    return firstRow + place - 1;
+}
 
-// The row under a point, counted from 1 under the titles, whether the list has so many or not. The titles
-// themselves give 1, the strip of the scroll bar gives NoRow.
-int RowAt(int x, int y, int gridWidth);
+// The upper edge of the row at a place: the line above it.
+int RowTop(int place);
+
+// The row at a place with the lines around it.
+UnitRect RowRect(int place, int gridWidth);
+
+// The inside of a cell of the row at a place, between the lines around it.
+UnitRect CellRect(const ColumnPlace& column, int place);
+
+// The place under a point, whether the list has so many rows or not. The titles themselves give 1, the strip
+// of the scroll bar gives NoRow.
+int PlaceAt(int x, int y, int gridWidth);
 
 // What the scroll bar of the grid is set to.
 struct GridScroll {

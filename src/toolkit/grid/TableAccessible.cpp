@@ -1,8 +1,8 @@
-// The painted grid as a table for screen readers.
-#include "mainwindow/input/GridAccessible.h"
+// The painted tables as the toolkit asks for them: the table with its cells, which are made as they are asked
+// for.
+#include "toolkit/grid/TableAccessible.h"
 
-#include "mainwindow/frmMain.h"
-#include "mainwindow/input/GridTable.h"
+#include "toolkit/Pressable.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -10,39 +10,25 @@
 
 namespace {
 
-constexpr const char* GridName = "picGrid";
 constexpr int KeyColumns = 16; // more than any table has
 
-frmMain* WindowOf(const QWidget* grid) {
-    return qobject_cast<frmMain*>(grid->window());
-}
-
-// The place of a cell or title among the children of the table: the titles and then the cells, row by row.
-int ChildIndex(const frmMain& window, int row, int column) {
-    return (row - TitleRow) * TableOf(window).columns + column;
-}
-
-// One cell or title. What it tells is read from the window as it is asked.
-class GridCellAccessible : public QAccessibleInterface,
-                           public QAccessibleTableCellInterface,
-                           public QAccessibleActionInterface {
+// One cell or title. What it tells is read from the surface's table as it is asked.
+class CellAccessible : public QAccessibleInterface,
+                       public QAccessibleTableCellInterface,
+                       public QAccessibleActionInterface {
 public:
-    GridCellAccessible(QWidget* ofGrid, int atRow, int atColumn)
-        : grid(ofGrid), row(atRow), column(atColumn) {}
+    CellAccessible(PictureBox* ofSurface, int atRow, int atColumn)
+        : surface(ofSurface), row(atRow), column(atColumn) {}
 
     int Row() const { return row; }
 
     int Column() const { return column; }
 
-    bool isValid() const override {
-        const frmMain* window = WindowOf(grid);
-        const GridTable size = window == nullptr ? GridTable{} : TableOf(*window);
-        return row < size.rows && column < size.columns;
-    }
+    bool isValid() const override { return Stands(Table()); }
 
     QObject* object() const override { return nullptr; }
 
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(grid); }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(surface); }
 
     QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
 
@@ -57,33 +43,35 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
-        if (kind != QAccessible::Name || !isValid()) {
+        const PaintedTable shown = Table();
+        if (kind != QAccessible::Name || !Stands(shown)) {
             return {};
         }
-        return row == TitleRow ? TableTitle(*WindowOf(grid), column)
-                               : TableText(*WindowOf(grid), row, column);
+        return row == TitleRow ? shown.titleOf(column) : shown.cellOf(row, column).text;
     }
 
     void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
 
     QRect rect() const override {
-        const QRect place = isValid() ? TablePlace(*WindowOf(grid), row, column) : QRect();
-        return place.isEmpty() ? QRect() : QRect(grid->mapToGlobal(place.topLeft()), place.size());
+        const PaintedTable shown = Table();
+        const QRect place = Stands(shown) ? shown.placeOf(row, column) : QRect();
+        return place.isEmpty() ? QRect() : QRect(surface->mapToGlobal(place.topLeft()), place.size());
     }
 
     QAccessible::State state() const override {
+        const PaintedTable shown = Table();
         QAccessible::State state;
-        state.invalid = !isValid();
+        state.invalid = !Stands(shown);
         if (state.invalid || row == TitleRow) {
             return state;
         }
-        const TableCheck check = TableCheckOf(*WindowOf(grid), row, column);
-        state.checkable = check.shown;
-        state.checked = check.checked;
+        const SpokenCell cell = shown.cellOf(row, column);
+        state.checkable = cell.checkable;
+        state.checked = cell.checked;
         state.focusable = true;
         state.selectable = true;
         state.selected = isSelected();
-        state.focused = isSelected() && grid->hasFocus();
+        state.focused = isSelected() && surface->hasFocus();
         state.offscreen = rect().isEmpty();
         return state;
     }
@@ -102,7 +90,7 @@ public:
     // --- As a cell of the table ---
 
     bool isSelected() const override {
-        const TableCell current = CurrentTableCell(*WindowOf(grid));
+        const TableCell current = Table().current;
         return row == current.row && column == current.column;
     }
 
@@ -128,26 +116,37 @@ public:
 
     // Later, since what opens may wait for the student.
     void doAction(const QString& name) override {
-        if (name == pressAction() && isValid()) {
-            QTimer::singleShot(0, grid, [window = WindowOf(grid), pressedRow = row, pressedColumn = column] {
-                emit window->Asked(PressOnTableCell(*window, pressedRow, pressedColumn));
+        if (name == pressAction()) {
+            QTimer::singleShot(0, surface, [pressed = surface, pressedRow = row, pressedColumn = column] {
+                PressCell(*pressed, pressedRow, pressedColumn);
             });
         }
     }
 
 private:
-    QWidget* grid;
+    PaintedTable Table() const { return TableOf(*surface); }
+
+    bool Stands(const PaintedTable& shown) const { return row < shown.rows && column < shown.columns; }
+
+    static void PressCell(const PictureBox& pressed, int row, int column) {
+        const PaintedTable shown = TableOf(pressed);
+        if (IsInReach(pressed) && row < shown.rows && column < shown.columns) {
+            shown.press(row, column);
+        }
+    }
+
+    PictureBox* surface;
     int row; // TitleRow for a title
     int column;
 };
 
 // The table. Its children are made as they are asked for.
-class GridAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
+class TableAccessible : public QAccessibleWidget, public QAccessibleTableInterface {
 public:
-    explicit GridAccessible(QWidget* grid)
-        : QAccessibleWidget(grid, QAccessible::Table, grid->accessibleName()) {}
+    explicit TableAccessible(PictureBox* ofSurface)
+        : QAccessibleWidget(ofSurface, QAccessible::Table, ofSurface->accessibleName()), surface(ofSurface) {}
 
-    ~GridAccessible() override { ForgetCells(); }
+    ~TableAccessible() override { ForgetCells(); }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
         return type == QAccessible::TableInterface ? static_cast<QAccessibleTableInterface*>(this)
@@ -155,7 +154,7 @@ public:
     }
 
     int childCount() const override {
-        const GridTable size = Size();
+        const PaintedTable size = Table();
         return (size.rows + 1) * size.columns;
     }
 
@@ -163,23 +162,23 @@ public:
         if (index < 0 || index >= childCount()) {
             return nullptr;
         }
-        const int columns = Size().columns;
+        const int columns = Table().columns;
         return Cell(index / columns + TitleRow, index % columns);
     }
 
     int indexOfChild(const QAccessibleInterface* child) const override {
-        const auto* const cell = dynamic_cast<const GridCellAccessible*>(child);
-        return cell == nullptr ? -1 : ChildIndex(Window(), cell->Row(), cell->Column());
+        const auto* const cell = dynamic_cast<const CellAccessible*>(child);
+        return cell == nullptr ? -1 : TableChildIndex(Table(), cell->Row(), cell->Column());
     }
 
     QAccessibleInterface* childAt(int x, int y) const override {
-        const TableCell cell = TableCellAt(Window(), widget()->mapFromGlobal(QPoint(x, y)));
+        const TableCell cell = TableCellAt(Table(), surface->mapFromGlobal(QPoint(x, y)));
         return cell.column < 0 ? nullptr : Cell(cell.row, cell.column);
     }
 
     QAccessibleInterface* focusChild() const override {
-        const TableCell current = CurrentTableCell(Window());
-        return current.row < 0 || !widget()->hasFocus() ? nullptr : cellAt(current.row, current.column);
+        const TableCell current = Table().current;
+        return current.row < 0 || !surface->hasFocus() ? nullptr : cellAt(current.row, current.column);
     }
 
     // --- As a table ---
@@ -189,18 +188,18 @@ public:
     QAccessibleInterface* summary() const override { return nullptr; }
 
     QAccessibleInterface* cellAt(int row, int column) const override {
-        return child(ChildIndex(Window(), row, column));
+        return child(TableChildIndex(Table(), row, column));
     }
 
-    int selectedCellCount() const override { return CurrentTableCell(Window()).row < 0 ? 0 : 1; }
+    int selectedCellCount() const override { return Table().current.row < 0 ? 0 : 1; }
 
     QList<QAccessibleInterface*> selectedCells() const override {
-        const TableCell current = CurrentTableCell(Window());
+        const TableCell current = Table().current;
         return current.row < 0 ? QList<QAccessibleInterface*>{}
                                : QList<QAccessibleInterface*>{cellAt(current.row, current.column)};
     }
 
-    QString columnDescription(int column) const override { return TableTitle(Window(), column); }
+    QString columnDescription(int column) const override { return Table().titleOf(column); }
 
     QString rowDescription(int row) const override { return QString::number(row + 1); }
 
@@ -208,14 +207,14 @@ public:
 
     int selectedRowCount() const override { return selectedCellCount(); }
 
-    int columnCount() const override { return Size().columns; }
+    int columnCount() const override { return Table().columns; }
 
-    int rowCount() const override { return Size().rows; }
+    int rowCount() const override { return Table().rows; }
 
     QList<int> selectedColumns() const override { return {}; }
 
     QList<int> selectedRows() const override {
-        const TableCell current = CurrentTableCell(Window());
+        const TableCell current = Table().current;
         return current.row < 0 ? QList<int>{} : QList<int>{current.row};
     }
 
@@ -234,15 +233,13 @@ public:
     void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override { ForgetCells(); }
 
 private:
-    const frmMain& Window() const { return *WindowOf(widget()); }
-
-    GridTable Size() const { return TableOf(Window()); }
+    PaintedTable Table() const { return TableOf(*surface); }
 
     QAccessibleInterface* Cell(int row, int column) const {
         const int key = (row - TitleRow) * KeyColumns + column;
         auto known = cells.constFind(key);
         if (known == cells.constEnd()) {
-            auto* cell = new GridCellAccessible(widget(), row, column);
+            auto* cell = new CellAccessible(surface, row, column);
             known = cells.insert(key, QAccessible::registerAccessibleInterface(cell));
         }
         return QAccessible::accessibleInterface(*known);
@@ -255,33 +252,21 @@ private:
         cells.clear();
     }
 
+    PictureBox* surface;
     mutable QHash<int, QAccessible::Id> cells; // by row and column
 };
 
-QAccessibleInterface* DescribeGrid(const QString& /*className*/, QObject* object) {
-    const bool isGrid = object != nullptr && object->objectName() == QLatin1String(GridName);
-    return isGrid ? new GridAccessible(static_cast<QWidget*>(object)) : nullptr;
+QAccessibleInterface* DescribeTable(const QString& /*className*/, QObject* object) {
+    auto* surface = qobject_cast<PictureBox*>(object);
+    return surface != nullptr && IsDescribedAsTable(surface) ? new TableAccessible(surface) : nullptr;
 }
 
 } // namespace
 
-void InstallGridAccessible(PictureBox& grid) {
-    grid.setObjectName(QLatin1String(GridName));
-    QAccessible::installFactory(&DescribeGrid);
+void InstallTableAccessible() {
+    QAccessible::installFactory(&DescribeTable);
 }
 
-void NotifyGridChanged(frmMain& window) {
-    if (QAccessible::isActive()) {
-        QAccessibleTableModelChangeEvent event(window.picGrid, QAccessibleTableModelChangeEvent::ModelReset);
-        QAccessible::updateAccessibility(&event);
-    }
-}
-
-void NotifyGridMoved(frmMain& window) {
-    const TableCell current = CurrentTableCell(window);
-    if (QAccessible::isActive() && current.row >= 0) {
-        QAccessibleEvent event(window.picGrid, QAccessible::Focus);
-        event.setChild(ChildIndex(window, current.row, current.column));
-        QAccessible::updateAccessibility(&event);
-    }
+int TableChildIndex(const PaintedTable& table, int row, int column) {
+    return (row - TitleRow) * table.columns + column;
 }

@@ -1,64 +1,10 @@
-// Where the lists of the grid stand.
-#include "mainwindow/grid/GridLayout.h"
+// Where the parts of a painted list stand.
+#include "toolkit/layout/GridLayout.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace {
-
-constexpr std::array<ListColumn, 10> HomeworkColumns{{
-    {" #", RowNumberWidth},
-    {ReminderMark, 19},
-    {" !", 19},
-    {"Class", 0.35},
-    {"Type", 80},
-    {"Description", 0.65},
-    {"Time", 45},
-    {"Due", 70},
-    {"Done", 41},
-    {"Score", 46},
-}};
-
-constexpr std::array<ListColumn, 8> StudyColumns{{
-    {"#", RowNumberWidth},
-    {"Class", 0.35},
-    {"Type", 85},
-    {"Description", 0.65},
-    {"Priority", 75},
-    {"Time", 50},
-    {"Done On", 70},
-    {"Due", 75},
-}};
-
-constexpr std::array<ListColumn, 7> TaskColumns{{
-    {"#", RowNumberWidth},
-    {ReminderMark, 19},
-    {"Name", 0.996},
-    {"Type", 75},
-    {"Priority", 70},
-    {"Date", 70},
-    {"Done", 45},
-}};
-
-constexpr std::array<ListColumn, 6> EventColumns{{
-    {"#", RowNumberWidth},
-    {"Name", 0.995},
-    {"Type", 75},
-    {"Date", 75},
-    {"Time", 70},
-    {"Recurrence", 90},
-}};
-
-constexpr std::array<ListColumn, 7> ReminderColumns{{
-    {"#", RowNumberWidth},
-    {"For", 75},
-    {"Class", 0.3},
-    {"Type", 80},
-    {"Description", 0.695},
-    {"When", 90},
-    {"Date", 70},
-}};
 
 // Columns overlap by this much, and what is shared out is greater by three times as much.
 constexpr int Overlap = UnitsPerPixel;
@@ -74,22 +20,6 @@ int ShareOf(double share, int units) {
 }
 
 } // namespace
-
-std::span<const ListColumn> ColumnsOf(ListKind kind) {
-    switch (kind) {
-    case ListKind::Homework:
-        return HomeworkColumns;
-    case ListKind::StudySessions:
-        return StudyColumns;
-    case ListKind::Tasks:
-        return TaskColumns;
-    case ListKind::Events:
-        return EventColumns;
-    case ListKind::Reminders:
-        return ReminderColumns;
-    }
-    return {};
-}
 
 std::vector<ColumnPlace> PlaceColumns(std::span<const ListColumn> columns, int gridWidth) {
     int fixed = 0;
@@ -116,16 +46,20 @@ int WholeRows(int gridHeight, int titleHeight, int rowHeight) {
     return std::max(gridHeight - titleHeight, 0) / rowHeight;
 }
 
-int RowTop(int row) {
-    return TitleUnits + (row - 1) * RowUnits;
+int RowTop(int place) {
+    return TitleUnits + (place - 1) * RowUnits;
 }
 
-UnitRect CellRect(const ColumnPlace& column, int row) {
-    return {column.left + UnitsPerPixel, RowTop(row) + UnitsPerPixel, column.width - 2 * UnitsPerPixel,
+UnitRect RowRect(int place, int gridWidth) {
+    return {0, RowTop(place), RowsRight(gridWidth), RowUnits + UnitsPerPixel};
+}
+
+UnitRect CellRect(const ColumnPlace& column, int place) {
+    return {column.left + UnitsPerPixel, RowTop(place) + UnitsPerPixel, column.width - 2 * UnitsPerPixel,
             RowUnits - UnitsPerPixel};
 }
 
-int RowAt(int x, int y, int gridWidth) {
+int PlaceAt(int x, int y, int gridWidth) {
     if (x >= RowsRight(gridWidth)) {
         return NoRow;
     }

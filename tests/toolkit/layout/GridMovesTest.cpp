@@ -1,17 +1,14 @@
-// How the keys move in a list, in the month and in the schedule of a day.
-#include "mainwindow/grid/GridMoves.h"
+// How the keys move in a list.
+#include "toolkit/layout/GridMoves.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
 
-using namespace std::chrono_literals;
-
 namespace {
 
 constexpr ListView Forty{.rowCount = 40, .firstRow = 11, .rowsVisible = 10};
-constexpr Date LeapJanuary{std::chrono::year{2008} / 1 / 31};
 
 // By GridMove.
 constexpr std::array<const char*, 8> MoveNames{"Up",     "Down",     "Left", "Right",
@@ -27,14 +24,7 @@ struct RowCase {
     int target;
 };
 
-struct DateCase {
-    GridMove move;
-    Date target;
-};
-
 class RowMoves : public testing::TestWithParam<RowCase> {};
-
-class DateMoves : public testing::TestWithParam<DateCase> {};
 
 } // namespace
 
@@ -66,18 +56,3 @@ TEST(GridMoves, AnEmptyListHasNoRowToMoveTo) {
 TEST(GridMoves, APageIsARowAtLeast) {
     EXPECT_EQ(MovedRow(GridMove::PageDown, 1, {.rowCount = 5, .firstRow = 1, .rowsVisible = 0}), 2);
 }
-
-TEST_P(DateMoves, FromTheLastOfJanuaryInALeapYear) {
-    EXPECT_EQ(MovedDate(GetParam().move, LeapJanuary), GetParam().target);
-}
-
-INSTANTIATE_TEST_SUITE_P(GridMoves, DateMoves,
-                         testing::Values(DateCase{GridMove::Left, Date{2008y / 1 / 30}},
-                                         DateCase{GridMove::Right, Date{2008y / 2 / 1}},
-                                         DateCase{GridMove::Up, Date{2008y / 1 / 24}},
-                                         DateCase{GridMove::Down, Date{2008y / 2 / 7}},
-                                         DateCase{GridMove::PageUp, Date{2007y / 12 / 31}},
-                                         DateCase{GridMove::PageDown, Date{2008y / 2 / 29}},
-                                         DateCase{GridMove::Home, Date{2008y / 1 / 1}},
-                                         DateCase{GridMove::End, Date{2008y / 1 / 31}}),
-                         [](const auto& each) { return NameOf(each.param.move); });

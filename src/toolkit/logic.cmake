@@ -1,0 +1,4 @@
+target_sources(planovarium_logic PRIVATE
+  toolkit/layout/GridLayout.cpp
+  toolkit/layout/GridMoves.cpp
+)

@@ -1,0 +1,4 @@
+target_sources(logic_tests PRIVATE
+  toolkit/layout/GridLayoutTest.cpp
+  toolkit/layout/GridMovesTest.cpp
+)
