@@ -66,6 +66,7 @@ bool StartupComplete = false;
 bool CalledFromReminders = false;
 std::string ReminderOpenMode;
 int ReminderIndex = 0;
+std::string ReminderOpenId;
 bool ShuttingDown = false;
 
 void SetFirstOpenFlags() {

@@ -116,6 +116,7 @@ extern bool StartupComplete;
 extern bool CalledFromReminders;
 extern std::string ReminderOpenMode; // "Task", "Event" or "Homework"
 extern int ReminderIndex;            // position of the record, from 1
+extern std::string ReminderOpenId;   // its id, by which it is found again as it opens
 
 // Set as the ordered shutdown begins; from then on no flow writes.
 extern bool ShuttingDown;

@@ -19,6 +19,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/EventFlow.cpp
   mainwindow/flows/ExportFlow.cpp
   mainwindow/flows/help/HelpFlow.cpp
+  mainwindow/flows/GPAFlow.cpp
   mainwindow/flows/PreferencesFlow.cpp
   mainwindow/flows/ReminderFlow.cpp
   mainwindow/flows/RunCommand.cpp

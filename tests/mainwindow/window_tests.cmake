@@ -7,6 +7,7 @@ target_sources(window_tests PRIVATE
   mainwindow/flows/EventSeriesWalkTest.cpp
   mainwindow/flows/ExportFlowTest.cpp
   mainwindow/flows/help/HelpFlowTest.cpp
+  mainwindow/flows/GPAFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
   mainwindow/flows/help/TipFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp

@@ -70,6 +70,9 @@ void ResetStore() {
     SetFirstOpenFlags();
     StartupComplete = false;
     CalledFromReminders = false;
+    ReminderOpenMode.clear();
+    ReminderOpenId.clear();
+    ReminderIndex = 0;
     ShuttingDown = false;
     ClearLists(HomeworkRowLists);
     ClearLists(StudyRowLists);

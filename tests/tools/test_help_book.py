@@ -21,8 +21,7 @@ FOREIGN = ("script", "iframe", "object", "embed", "style", "form")
 
 # Captions of windows and messages that are told of and that no source has yet.
 NOT_YET = {
-    "Custom Name", "Default Name", "Remind me about this again in:", "Remove All", "Remove from List", "Reset the Time",
-    "View this Item",
+    "Custom Name", "Default Name",
 }
 
 

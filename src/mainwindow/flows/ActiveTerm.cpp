@@ -4,14 +4,19 @@
 #include "mainwindow/frmMain.h"
 #include "mainwindow/panels/TermStatus.h"
 #include "persistence/modIO.h"
+#include "reminders/frmReminders.h"
 #include "toolkit/Text.h"
 
 void SetActiveTerm(frmMain& window, const std::string& name) {
+    const int termBefore = ActiveTermID;
     ChooseActiveTerm(name);
     if (ActiveTermIsLiving()) {
         ReadAssignments();
     }
     SetupActiveClasses();
+    if (ActiveTermID != termBefore) {
+        ReminderListWindow->LeaveTerm();
+    }
     const TermStatus status = TermStatusOn(Today());
     window.LabelTerm->setText(FromStore(status.term));
     window.LabelDaysLeft->setText(FromStore(status.daysLeft));

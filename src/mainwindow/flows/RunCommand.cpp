@@ -7,6 +7,8 @@
 #include "mainwindow/flows/AssignmentFlow.h"
 #include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/ExportFlow.h"
+#include "mainwindow/flows/GPAFlow.h"
+#include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/WindowFlow.h"
@@ -50,6 +52,8 @@ constexpr auto CommandRows = std::to_array<CommandRow>({
     {Command::OpenHomeworkHelp, "", &OpenHomeworkHelp},
     {Command::ShowTips, "", &ShowTips},
     {Command::ShowAbout, "", &ShowAbout},
+    {Command::ShowGPA, "homework GPA", &ShowGPA},
+    {Command::ShowReminders, "tray reminders", &ShowReminders},
     {Command::OpenDataFolder, "", &OpenDataFolder},
     {Command::OpenWindow, "tray view", &OpenWindow},
     {Command::HideWindows, "", &HideWindows},

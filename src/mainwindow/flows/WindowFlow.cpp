@@ -2,6 +2,7 @@
 #include "mainwindow/flows/WindowFlow.h"
 
 #include "mainwindow/frmMain.h"
+#include "reminders/frmReminders.h"
 
 void OpenWindow(frmMain& window) {
     if (window.isVisible() && window.isMinimized()) {
@@ -11,6 +12,16 @@ void OpenWindow(frmMain& window) {
     }
 }
 
+void ShowInFront(frmMain& window) {
+    if (window.isMinimized()) {
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    }
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 void HideWindows(frmMain& window) {
+    ReminderListWindow->hide();
     window.hide();
 }

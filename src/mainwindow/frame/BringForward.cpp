@@ -3,6 +3,7 @@
 #include "mainwindow/frame/BringForward.h"
 
 #include "core/Module1.h"
+#include "mainwindow/flows/WindowFlow.h"
 #include "mainwindow/frmMain.h"
 #include "planner/reminders/ReminderEngine.h"
 #include "toolkit/Modal.h"
@@ -29,9 +30,7 @@ bool LinkExecute(frmMain& window) {
     if (window.isMinimized()) {
         window.setWindowState(Qt::WindowNoState); // its normal size, also where it was maximized before
     }
-    window.show();
-    window.raise();
-    window.activateWindow();
+    ShowInFront(window);
     return true;
 }
 

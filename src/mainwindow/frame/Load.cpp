@@ -10,7 +10,9 @@
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/dialogs/frmAbout.h"
 #include "mainwindow/dialogs/frmTip.h"
+#include "mainwindow/dialogs/frmGPA.h"
 #include "mainwindow/flows/PreferencesFlow.h"
+#include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/frame/BringForward.h"
@@ -26,6 +28,9 @@
 #include "platform/InstanceLink.h"
 #include "platform/Process.h"
 #include "platform/Tray.h"
+#include "reminders/frmReminders.h"
+
+#include <utility>
 
 namespace {
 
@@ -53,6 +58,15 @@ void HideUnofferedItems(const frmMain& window) {
     window.mnuHelpBar1->setEnabled(false);
 }
 
+// The reminder window stands alone, but goes with the main window.
+void LoadReminders(frmMain& window) {
+    ReminderListWindow = new frmReminders;
+    QObject::connect(ReminderListWindow, &frmReminders::OpenAsked, &window,
+                     [&window] { ComeForwardForReminder(window); });
+    QObject::connect(&window, &QObject::destroyed, ReminderListWindow,
+                     [] { delete std::exchange(ReminderListWindow, nullptr); });
+}
+
 // The dialogs are built once, in this order, and the main window owns them.
 void LoadDialogs(frmMain& window) {
     AssignmentDialog = new frmAssignment(&window);
@@ -63,6 +77,8 @@ void LoadDialogs(frmMain& window) {
     RecurrenceDialog = new frmRecurrence(&window);
     TipDialog = new frmTip(&window);
     AboutDialog = new frmAbout(&window);
+    GPADialog = new frmGPA(&window);
+    LoadReminders(window);
 }
 
 } // namespace
@@ -103,6 +119,7 @@ bool LoadPlanner(frmMain& window) {
     ShowCalendarMode(window);
     ClearStudyTimer(window);
     window.TimerStatusBar->start();
+    ReminderListWindow->TimerReminders->start();
     window.picGrid->setFocus();
     window.TimerTip->start();
     return true;

@@ -9,6 +9,7 @@
 #include "persistence/ProcessMarker.h"
 #include "persistence/modIO.h"
 #include "platform/Tray.h"
+#include "reminders/frmReminders.h"
 
 #include <QApplication>
 
@@ -18,6 +19,9 @@ namespace {
 void RunShutdownSteps(const frmMain& window) {
     for (QTimer* timer : {window.Timer1, window.TimerButton, window.TimerStatusBar, window.TimerTip}) {
         timer->stop();
+    }
+    if (ReminderListWindow != nullptr) { // a shutdown may come before the windows are loaded
+        ReminderListWindow->TimerReminders->stop();
     }
     try {
         DeleteProcessMarker();

@@ -15,7 +15,7 @@ void BindCheckable(QAction* item, const std::function<void()>& command) {
     });
 }
 
-// The picture and the word of the reminders open their own window instead of the mode.
+// The picture of the reminders does not lead to their mode.
 void BindModeChoices(frmMain& window) {
     const auto controls = window.AllModeControls();
     for (const ModeRow& row : ModeRows) {
@@ -55,6 +55,8 @@ constexpr auto ItemCommands = std::to_array<CommandOf<QAction>>({
     {&frmMain::MenuHomeworkHelp, Command::OpenHomeworkHelp},
     {&frmMain::MenuShowTips, Command::ShowTips},
     {&frmMain::MenuAbout, Command::ShowAbout},
+    {&frmMain::MenuPopupReminders, Command::ShowReminders},
+    {&frmMain::MenuGPA, Command::ShowGPA},
     {&frmMain::MenuData, Command::OpenDataFolder},
     {&frmMain::MenuExit, Command::HideWindows},
 });
@@ -73,11 +75,13 @@ constexpr auto ButtonCommands = std::to_array<CommandOf<QPushButton>>({
 });
 
 constexpr auto PictureCommands = std::to_array<CommandOf<PictureBox>>({
+    {&frmMain::PictureBarReminders, Command::ShowReminders},
     {&frmMain::PictureBarWeb, Command::OpenHomeworkHelp},
     {&frmMain::picHelp, Command::OpenHelp},
 });
 
 constexpr auto WordCommands = std::to_array<CommandOf<ClickLabel>>({
+    {&frmMain::LabelBarReminders, Command::ShowReminders},
     {&frmMain::LabelBarWeb, Command::OpenHomeworkHelp},
 });
 

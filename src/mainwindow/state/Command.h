@@ -22,6 +22,8 @@ enum class Command {
     OpenHomeworkHelp,
     ShowTips,
     ShowAbout,
+    ShowGPA,
+    ShowReminders,
     OpenDataFolder,
     OpenWindow,
     HideWindows,

@@ -14,9 +14,16 @@ void SnoozeReminder(std::string_view mode, std::string_view id, std::string_view
 // Takes the record of a row off the list; a series follows its next occurrence.
 void RemoveReminder(std::string_view mode, std::string_view id, ReminderFlags& flags);
 
+// The same for the records of all rows, and empties the lists.
+void RemoveAllReminders(ReminderListRows& rows, ReminderFlags& flags);
+
 // Position of the record with that id among those of the mode; 0 when it has gone, and then the two above
 // change nothing.
 int ReminderPosition(std::string_view mode, std::string_view id);
 
 // Takes a row out of the lists, and the selection back into them.
 void TakeOutReminderRow(ReminderListRows& rows, int row, ReminderFlags& flags);
+
+// Takes out the rows of homework and of class meetings: their ids are those of one term, which is left. The
+// selection stays on its item, and goes with it.
+void TakeOutTermRows(ReminderListRows& rows, ReminderFlags& flags);

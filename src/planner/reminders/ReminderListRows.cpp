@@ -1,4 +1,4 @@
-// The order of the rows of the reminder window.
+// The rows of the reminder window: what they are about, and their order.
 #include "planner/reminders/ReminderListRows.h"
 
 #include "planner/rows/RowOrder.h"
@@ -26,6 +26,19 @@ RowOrder OrderOf(const ReminderListRows& rows, SortOrder order) {
 }
 
 } // namespace
+
+ReminderItem ItemOfRow(const ReminderListRows& rows, int row) {
+    return row == 0 ? ReminderItem{} : ReminderItem{rows.ReminderModes.Item(row), rows.ReminderIds.Item(row)};
+}
+
+int RowOfItem(const ReminderListRows& rows, const ReminderItem& item) {
+    for (int row = 1; row <= rows.ReminderIds.Count(); ++row) {
+        if (rows.ReminderIds.Item(row) == item.id && rows.ReminderModes.Item(row) == item.mode) {
+            return row;
+        }
+    }
+    return 0;
+}
 
 void SortReminderListRows(ReminderListRows& rows, SortOrder order) {
     const RowOrder rowOrder = OrderOf(rows, order);

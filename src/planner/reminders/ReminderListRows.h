@@ -29,6 +29,18 @@ void ForEachList(ReminderListRows& rows, Action action) {
     action(rows.ReminderBackColors);
 }
 
+// What a row is about: a record by its kind and id. Both are empty for none.
+struct ReminderItem {
+    std::string mode;
+    std::string id;
+};
+
+// The item of the row; that of row 0 is none.
+ReminderItem ItemOfRow(const ReminderListRows& rows, int row);
+
+// The row of the item; 0 where it does not stand.
+int RowOfItem(const ReminderListRows& rows, const ReminderItem& item);
+
 // The columns by their position in the window, where 0 is the row's number.
 enum class ReminderListColumn : int { Mode = 1, Type, Name, Time };
 

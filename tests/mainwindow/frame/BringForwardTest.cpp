@@ -21,6 +21,7 @@ protected:
         CalledFromReminders = true;
         ReminderOpenMode = mode;
         ReminderIndex = index;
+        ReminderOpenId = std::to_string(index);
         Activate();
         ASSERT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
     }
@@ -92,6 +93,7 @@ TEST_F(OpenFromReminders, EditorOpensBehindTheActivationAndNotInIt) {
     CalledFromReminders = true;
     ReminderOpenMode = "Task";
     ReminderIndex = AddTaskRecord({});
+    ReminderOpenId = "1";
     Activate();
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
     WhenDialogOpens([](QWidget* editor) { editor->close(); });

@@ -1,0 +1,64 @@
+// The tick of the reminders: the scan, the rows as they stand then, and the files of what has fired.
+#include "core/Module1.h"
+#include "persistence/modIO.h"
+#include "planner/reminders/ReminderActions.h"
+#include "reminders/frmReminders.h"
+#include "toolkit/Modal.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+void WriteIf(bool& changed, RecordFile (*file)(), void (*write)()) {
+    if (changed) {
+        changed = false;
+        DropUnfinishedRecord(file());
+        write();
+    }
+}
+
+} // namespace
+
+void frmReminders::Tick() {
+    if (ReminderHold || ReminderBusy || ShuttingDown) {
+        return;
+    }
+    const QScopedValueRollback busy(ReminderBusy, true);
+    if (!ModalDialogIsOpen()) {
+        ReminderTick();
+    }
+}
+
+// What was selected stays so when nothing has fired. The rows are drawn before the files are written, since a
+// box may come then, with the list behind it.
+void frmReminders::ReminderTick() {
+    const ReminderItem selected = ItemOfRow(*this, ReminderSelectedRow);
+    CheckReminders(Now(), *this, *this);
+    SortReminderListRows(*this, {SortColumn, SortDirection});
+    if (ReminderSelectedRow != 0) {
+        ReminderSelectedRow = RowOfItem(*this, selected);
+    }
+    SetReminderTitle();
+    DrawSortedRows();
+    SetReminderButtons();
+    WriteChangedFiles();
+    if (ReminderShowWindow && !ShuttingDown) {
+        ShowReminderWindow();
+    }
+}
+
+void frmReminders::LeaveTerm() {
+    const int rows = ReminderIds.Count();
+    TakeOutTermRows(*this, *this);
+    if (ReminderIds.Count() != rows) {
+        SetReminderTitle();
+        DrawSortedRows();
+        SetReminderButtons();
+    }
+}
+
+void frmReminders::WriteChangedFiles() {
+    WriteIf(ReminderTasksChanged, &TaskFile, &WriteTasks);
+    WriteIf(ReminderHomeworkChanged, &AssignmentFile, &WriteAssignments);
+    WriteIf(ReminderEventsChanged, &EventFile, &WriteEvents);
+}

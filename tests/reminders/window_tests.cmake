@@ -1,0 +1,7 @@
+target_sources(window_tests PRIVATE
+  reminders/ReminderButtonsTest.cpp
+  reminders/ReminderListTest.cpp
+  reminders/ReminderTickTest.cpp
+  reminders/RemindersTest.cpp
+  reminders/ShowRemindersTest.cpp
+)
