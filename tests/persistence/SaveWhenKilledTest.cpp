@@ -1,7 +1,9 @@
 // The process killed at each step of a save: the records are always whole, in the file or in its .tmp.
 #include "persistence/DataFolderTest.h"
 #include "support/ChildProcess.h"
+#include "support/Reminders.h"
 
+#include <array>
 #include <functional>
 #include <map>
 
@@ -85,4 +87,47 @@ TEST_F(KilledSave, OfTermsAndClassesLeavesEachWholeAndTheTermsFirst) {
     const auto newTermsAndOldClasses = std::pair(Whereabouts::NewInFile, Whereabouts::OldInFile);
     EXPECT_GT(seen[newTermsAndOldClasses], 0);
     EXPECT_EQ(seen.size(), 5U) << "old and old, tmp and old, new and old, new and tmp, new and new";
+}
+
+// The files of a scan are saved one behind the other, so each has its reminder armed or standing as a whole,
+// and none is saved before the one in front of it.
+TEST_F(KilledSave, OfFiredRemindersLeavesEachFileWithItsReminderArmedOrStanding) {
+    constexpr const char* due = "2009/10/14 09:00:00";
+    const std::array<std::string, 3> names{"tasks.xml", "assignments_1.xml", "events.xml"};
+    ActiveTermID = 1;
+    AddTaskRecord({.reminder = "True", .reminder_alarm = due});
+    AddAssignmentRecord({.reminder = "True", .reminderalarm = due});
+    AddEventRecord({.reminder = "True", .reminder_alarm = due});
+    const auto saveAll = [] {
+        WriteTasks();
+        WriteAssignments();
+        WriteEvents();
+    };
+    const auto files = [&] { return std::array{DataFile(names[0]), DataFile(names[1]), DataFile(names[2])}; };
+    saveAll();
+    const auto armed = files();
+    ReminderWindow window;
+    window.Tick();
+    ASSERT_EQ(window.Standing().size(), 3U);
+    saveAll();
+    const auto standing = files();
+    const auto restore = [&] {
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            Restore(names[i], armed[i]);
+        }
+    };
+    restore();
+    std::map<std::array<Whereabouts, 3>, int> seen;
+    for (int stop = 1; KilledAtStop(stop, saveAll); ++stop) {
+        std::array<Whereabouts, 3> found{};
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            found[i] = Find(names[i], armed[i], standing[i]);
+            EXPECT_NE(found[i], Whereabouts::Lost) << names[i];
+            EXPECT_TRUE(i == 0 || found[i - 1] == Whereabouts::NewInFile ||
+                        found[i] == Whereabouts::OldInFile);
+        }
+        ++seen[found];
+        restore();
+    }
+    EXPECT_EQ(seen.size(), 7U) << "three files, each old, in its tmp and new, one behind the other";
 }

@@ -2,6 +2,7 @@ target_sources(window_tests PRIVATE
   reminders/ReminderButtonsTest.cpp
   reminders/ReminderListTest.cpp
   reminders/ReminderTickTest.cpp
+  reminders/ReminderYearsTest.cpp
   reminders/RemindersTest.cpp
   reminders/ShowRemindersTest.cpp
 )

@@ -12,6 +12,7 @@
 #include "support/ScriptedPlatform.h"
 
 #include <algorithm>
+#include <sstream>
 
 namespace {
 
@@ -98,9 +99,7 @@ void SortModel(ReminderModel& model) {
 }
 
 void ChangeTerm(Simulation& simulation) {
-    simulation.closedTerms[ActiveTermID] = Store.Assignment;
-    ChooseActiveTerm("Term " + std::to_string(ActiveTermID % Terms + 1));
-    Store.Assignment = simulation.closedTerms[ActiveTermID];
+    simulation.hands.changeTerm("Term " + std::to_string(ActiveTermID % Terms + 1));
 }
 
 // --- The student -------------------------------------------------------------------------------------------
@@ -115,15 +114,19 @@ ModelItem* ItemOfRandomRow(Simulation& simulation) {
     if (simulation.rows.empty()) {
         return nullptr;
     }
-    const int row = 1 + simulation.Below(static_cast<int>(simulation.rows.size()));
-    return &simulation.model.Find(simulation.window.rows.ReminderModes.Item(row),
-                                  simulation.window.rows.ReminderIds.Item(row), ActiveTermID);
+    std::istringstream row(
+        simulation
+            .rows[static_cast<std::size_t>(simulation.Below(static_cast<int>(simulation.rows.size())))]);
+    std::string mode;
+    std::string id;
+    row >> mode >> id;
+    return &simulation.model.Find(mode, id, ActiveTermID);
 }
 
 void SnoozeRow(Simulation& simulation, ModelItem& item) {
     const std::string interval =
         simulation.OneOf({"5 Minutes", "1.5 Hours", "12 Hours", "1 Day", "3 Days", ".33 Hours"});
-    SnoozeReminder(item.mode, item.id, interval, Now(), simulation.window.flags);
+    simulation.hands.snooze(item, interval);
     simulation.model.Snooze(item, Now() + SnoozeInterval(interval));
     Allow(simulation, item);
 }
@@ -138,7 +141,7 @@ void RemoveRow(Simulation& simulation, ModelItem& item) {
     if (!MayComeAgain(item)) {
         simulation.dismissed.insert(RowOf(item));
     }
-    RemoveReminder(item.mode, item.id, simulation.window.flags);
+    simulation.hands.remove(item);
     simulation.model.Remove(item);
 }
 
@@ -202,8 +205,9 @@ void ReplaceRecord(Simulation& simulation, const ModelItem& item) {
     const std::string mode = item.mode;
     const int position = ReminderPosition(mode, item.id);
     Allow(simulation, item);
-    std::erase_if(simulation.model.items,
-                  [name = NameOf(item)](const ModelItem& other) { return NameOf(other) == name; });
+    std::erase_if(simulation.model.items, [name = NameOf(item), term = item.term](const ModelItem& other) {
+        return NameOf(other) == name && other.term == term; // ids of homework are one term's own
+    });
     if (mode == "Task") {
         RemoveRecord(Store.TaskRecord, TaskFields, position);
         AddTask(simulation);
@@ -217,14 +221,20 @@ void ReplaceRecord(Simulation& simulation, const ModelItem& item) {
     SortModel(simulation.model);
 }
 
+// A row of another term stands unseen.
+bool IsOnTheList(const Simulation& simulation, const ModelItem& item) {
+    return item.stands && std::ranges::find(simulation.rows, RowOf(item)) != simulation.rows.end();
+}
+
 // Acts on one record and gives its name.
 std::string ActOnRecord(Simulation& simulation) {
     ModelItem* const row = ItemOfRandomRow(simulation);
     ModelItem& item = row != nullptr && simulation.Chance(75) ? *row : RandomItem(simulation);
     const int choice = simulation.Below(100);
-    if (item.stands && choice < 40) {
+    const bool listed = IsOnTheList(simulation, item);
+    if (listed && choice < 40) {
         SnoozeRow(simulation, item);
-    } else if (item.stands && choice < 80) {
+    } else if (listed && choice < 80) {
         RemoveRow(simulation, item);
     } else if (item.series && choice < 95) {
         GiveUp(simulation, item);
@@ -235,6 +245,24 @@ std::string ActOnRecord(Simulation& simulation) {
 }
 
 } // namespace
+
+StudentsHands HandsOnTheRules(Simulation& simulation) {
+    return {.snooze =
+                [&simulation](const ModelItem& item, const std::string& interval) {
+                    SnoozeReminder(item.mode, item.id, interval, Now(), simulation.window.flags);
+                },
+            .remove =
+                [&simulation](const ModelItem& item) {
+                    RemoveReminder(item.mode, item.id, simulation.window.flags);
+                },
+            .changeTerm =
+                [&simulation](const std::string& term) {
+                    simulation.closedTerms[ActiveTermID] = Store.Assignment;
+                    ChooseActiveTerm(term);
+                    Store.Assignment = simulation.closedTerms[ActiveTermID];
+                },
+            .restart = [&simulation] { simulation.window = {}; }};
+}
 
 void Begin(Simulation& simulation) {
     ResetScript();
@@ -273,7 +301,7 @@ std::string Act(Simulation& simulation) {
         ChangeTerm(simulation);
     } else if (choice < 92) { // closed for up to two months, and started again
         Script.now += minutes{simulation.Below(60 * 24 * 60)};
-        simulation.window = {};
+        simulation.hands.restart();
         simulation.rows.clear();
     } else { // the clock is set
         Script.now += minutes{simulation.Below(60 * 24 * 10) - 60 * 24 * 5};

@@ -7,6 +7,7 @@
 #include "support/ReminderModel.h"
 #include "support/Reminders.h"
 
+#include <functional>
 #include <initializer_list>
 #include <map>
 #include <random>
@@ -14,8 +15,24 @@
 #include <string>
 #include <vector>
 
+struct Simulation;
+struct StudentsHands;
+
+StudentsHands HandsOnTheRules(Simulation& simulation);
+
+// How the student does what concerns the list and the run of the program. Without a window the rules are
+// asked themselves.
+struct StudentsHands {
+    std::function<void(const ModelItem& item, const std::string& interval)> snooze;
+    std::function<void(const ModelItem& item)> remove;
+    std::function<void(const std::string& term)> changeTerm;
+    std::function<void()> restart;
+};
+
 struct Simulation {
     explicit Simulation(unsigned seed) : random(seed) {}
+
+    StudentsHands hands = HandsOnTheRules(*this);
 
     std::mt19937 random;
     ReminderModel model;
