@@ -20,6 +20,9 @@ add_desktop_tests(test_help_pictures HelpPictures)
 add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
   ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;LOCPATH=${CMAKE_CURRENT_BINARY_DIR}/locale")
+add_desktop_tests(test_reminders Reminders)
+set_tests_properties(desktop.test_reminders.Reminders PROPERTIES
+  ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;PLANOVARIUM_RECORDED_SOUND=$<TARGET_FILE_DIR:recorded_sound>")
 add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
 add_desktop_tests(test_export Export)
 
