@@ -1,6 +1,7 @@
 // The main window at the greatest size of a planner, 1920 by 1080: the work of each refresh in each mode
 // before the paint, and the paint.
 #include "DialogBench.h"
+#include "ReminderBench.h"
 #include "SampleRecords.h"
 #include "core/Module1.h"
 #include "mainwindow/flows/TermFlow.h"
@@ -141,6 +142,7 @@ int main(int argc, char** argv) {
     QApplication::processEvents();
     RegisterAll(window);
     RegisterDialogBenchmarks();
+    RegisterReminderBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
