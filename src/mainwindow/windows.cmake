@@ -14,13 +14,12 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/dialogs/frmTip.ui
   mainwindow/flows/Actions.cpp
   mainwindow/flows/ActiveTerm.cpp
-  mainwindow/flows/Alerts.cpp
   mainwindow/flows/AssignmentFlow.cpp
   mainwindow/flows/EventFlow.cpp
   mainwindow/flows/ExportFlow.cpp
   mainwindow/flows/help/HelpFlow.cpp
-  mainwindow/flows/GPAFlow.cpp
   mainwindow/flows/PreferencesFlow.cpp
+  mainwindow/flows/ReadDialogs.cpp
   mainwindow/flows/ReminderFlow.cpp
   mainwindow/flows/RunCommand.cpp
   mainwindow/flows/TaskFlow.cpp

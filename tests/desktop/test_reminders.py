@@ -50,9 +50,11 @@ class Reminders(DesktopTest):
         left, top, width, height = self.numbers("_NET_WORKAREA")[:4]
         return left + width, top + height
 
-    def front_window(self):
+    def is_in_front(self, window, other):
+        """Whether the window lies over the other one, wherever the windows of the desktop itself lie."""
         stacked = self.desktop.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING")
-        return str(int(re.findall(r"0x[0-9a-f]+", stacked)[-1], 16))
+        order = [str(int(number, 16)) for number in re.findall(r"0x[0-9a-f]+", stacked)]
+        return window in order and order.index(window) > order.index(other)
 
     def test_an_alarm_that_passed_while_the_program_was_closed_comes_up_and_opens_its_task(self):
         planner = self.planner_with_an_alarm()
@@ -62,7 +64,7 @@ class Reminders(DesktopTest):
         right, bottom = self.far_corner_of_work_area()
         wait_until(lambda: self.far_corner(reminder) == (right - EDGE, bottom - EDGE),
                    "the window stands in the corner with its frame")
-        wait_until(lambda: self.front_window() == reminder, "the window is in front")
+        wait_until(lambda: self.is_in_front(reminder, planner.window()), "the window is in front")
         wait_until(lambda: FIRED in planner.read_data("tasks.xml"), "the fired reminder is saved")
         wait_until(self.sounds.exists, "the sound is asked for")
         self.assertEqual(self.sounds.read_text(), f"{planner.drive}/Planovarium/Reminder.wav\n")

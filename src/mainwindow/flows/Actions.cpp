@@ -2,7 +2,7 @@
 #include "mainwindow/flows/Actions.h"
 
 #include "mainwindow/day/DayLayout.h"
-#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/RunCommand.h"
 #include "mainwindow/flows/ViewFlow.h"

@@ -7,7 +7,7 @@
 #include "mainwindow/flows/AssignmentFlow.h"
 #include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/ExportFlow.h"
-#include "mainwindow/flows/GPAFlow.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"

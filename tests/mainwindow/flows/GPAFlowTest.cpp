@@ -1,8 +1,8 @@
 // The grades, opened from the menus: where the window stands, what it shows and what it keeps.
-#include "mainwindow/flows/GPAFlow.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
 #include "mainwindow/dialogs/frmGPA.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/flows/RunCommand.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"

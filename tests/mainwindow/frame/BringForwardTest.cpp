@@ -68,7 +68,7 @@ TEST_F(OpenFromReminders, ModeThatIsCheckedIsNotEnteredAgain) {
 
 TEST_F(OpenFromReminders, SingleEventShowsItsDate) {
     const int event = AddEventRecord({.date = "2009/11/03", .reminder_currentday = "2009/12/24"});
-    CallForward("Event", event);
+    CallIntoEditor("Event", event);
     EXPECT_EQ(window->CurrentMode(), Mode::Events);
     EXPECT_EQ(window->ClickedDate, Date{2009y / 11 / 3});
     EXPECT_EQ(window->SelectedDate, Date{2009y / 11 / 3});
@@ -77,14 +77,14 @@ TEST_F(OpenFromReminders, SingleEventShowsItsDate) {
 TEST_F(OpenFromReminders, SeriesShowsTheDayOfItsReminder) {
     const int event =
         AddEventRecord({.date = "2009/11/03", .recurrence = "Day", .reminder_currentday = "2009/12/24"});
-    CallForward("Event", event);
+    CallIntoEditor("Event", event);
     EXPECT_EQ(window->ClickedDate, Date{2009y / 12 / 24});
 }
 
 TEST_F(OpenFromReminders, EventEntersItsModeEvenWhereItIsChecked) {
     ShowEventMode(*window);
     window->SortColumn = 1;
-    CallForward("Event", AddEventRecord({.date = "2009/11/03"}));
+    CallIntoEditor("Event", AddEventRecord({.date = "2009/11/03"}));
     EXPECT_EQ(window->SortColumn, 3);
     EXPECT_EQ(window->ClickedDate, Date{2009y / 11 / 3});
 }

@@ -1,7 +1,7 @@
 // The alert buttons, and the window behind each.
-#include "mainwindow/flows/Alerts.h"
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmAlert.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/modes/Modes.h"
 #include "support/StoreRecords.h"
 #include "support/WindowTest.h"

@@ -1,5 +1,5 @@
 // The small calendar of the main window: its steppers and the first day of the week.
-#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/flows/ViewFlow.h"
 #include "mainwindow/modes/Modes.h"
 #include "support/EventRecords.h"

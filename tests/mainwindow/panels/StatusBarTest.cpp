@@ -1,5 +1,5 @@
 // The status bar with its clock.
-#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/modes/Modes.h"
 #include "support/WindowTest.h"
 

@@ -1,5 +1,5 @@
 // The study timer: its buttons, its ticks and its clock.
-#include "mainwindow/flows/Alerts.h"
+#include "mainwindow/flows/ReadDialogs.h"
 #include "mainwindow/frame/Unload.h"
 #include "mainwindow/modes/Modes.h"
 #include "support/WindowTest.h"

@@ -1,8 +1,9 @@
-// The message that an alert button explains itself with.
-#include "mainwindow/flows/Alerts.h"
+// The dialogs that are only read: what an alert button says, and the grades.
+#include "mainwindow/flows/ReadDialogs.h"
 
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmAlert.h"
+#include "mainwindow/dialogs/frmGPA.h"
 #include "mainwindow/frmMain.h"
 #include "planner/study/AlertMessage.h"
 #include "toolkit/FirstOpen.h"
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr QPoint AlertOffset{250, 150}; // pixels from the main window's corner at the first opening
+constexpr QPoint ReadOffset{250, 150}; // pixels from the main window's corner at the first opening
 
 } // namespace
 
@@ -20,7 +21,13 @@ void ShowAlertMessage(frmMain& window, std::size_t index) {
     frmAlert& dialog = *window.AlertDialog;
     dialog.setWindowTitle(FromStore(message.title));
     dialog.TextBoxAlert->setPlainText(FromScreen(message.text));
-    PlaceAtFirstOpen(dialog, AlertDBFirstOpen, window, AlertOffset);
+    PlaceAtFirstOpen(dialog, AlertDBFirstOpen, window, ReadOffset);
     RunModally(dialog);
     window.picGrid->setFocus();
+}
+
+void ShowGPA(frmMain& window) {
+    GPADialog->Fill();
+    PlaceAtFirstOpen(*GPADialog, GPADBFirstOpen, window, ReadOffset);
+    RunModally(*GPADialog);
 }
