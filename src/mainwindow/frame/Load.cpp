@@ -9,12 +9,13 @@
 #include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/dialogs/frmAbout.h"
-#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/dialogs/frmGPA.h"
+#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/flows/PreferencesFlow.h"
 #include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/flows/help/HelpFlow.h"
 #include "mainwindow/frame/BringForward.h"
 #include "mainwindow/frame/Unload.h"
 #include "mainwindow/frmMain.h"
@@ -78,6 +79,7 @@ void LoadDialogs(frmMain& window) {
     TipDialog = new frmTip(&window);
     AboutDialog = new frmAbout(&window);
     GPADialog = new frmGPA(&window);
+    QObject::connect(GPADialog, &frmGPA::HelpAsked, &window, [&window] { OpenHelp(window); });
     LoadReminders(window);
 }
 

@@ -82,6 +82,12 @@ TEST_F(GPAFlow, KeepsPlusAndMinusWithinTheRun) {
     });
 }
 
+TEST_F(GPAFlow, ItsHelpButtonOpensTheHelpBook) {
+    LookFromMenu([] { GPADialog->picHelp->click(); });
+    ASSERT_EQ(Script.processes.size(), 1U);
+    EXPECT_EQ(Script.processes[0].arguments, std::vector<std::string>{HelpFile.string()});
+}
+
 TEST_F(GPAFlow, ABadScoreIsTheErrorBeforeTheWindowShows) {
     Store.Assignment.score.Replace(1, "many");
     EXPECT_THROW(ShowGPA(*window), RunTimeError);
