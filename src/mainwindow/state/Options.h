@@ -10,6 +10,6 @@ struct Options {
     std::string AutoStart = "Tray";        // or "Full", "Min", "No"
     std::string tempShowTipsAtStartup = "Yes";
     int tempCurrentTip = 0;
-    QTimer* TimerTip = nullptr; // brings the tip of the day up
+    QTimer* TimerTip = nullptr;       // brings the tip of the day up
     bool PreferencesWereRead = false; // a shutdown before that leaves the file as it is
 };
