@@ -6,6 +6,7 @@ target_sources(planovarium_logic PRIVATE
   core/Preferences.cpp
   core/RowLists.cpp
   core/TextFiles.cpp
+  core/TypeDefaults.cpp
   core/TypeTable.cpp
   core/Values.cpp
 )

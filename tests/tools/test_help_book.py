@@ -20,9 +20,7 @@ ONE_OF_A_PAGE = ("title", "h1", "nav", "main")
 FOREIGN = ("script", "iframe", "object", "embed", "style", "form")
 
 # Captions of windows and messages that are told of and that no source has yet.
-NOT_YET = {
-    "Custom Name", "Default Name",
-}
+NOT_YET = set()
 
 
 class Page(html.parser.HTMLParser):

@@ -14,6 +14,7 @@
 #include "mainwindow/flows/WindowFlow.h"
 #include "mainwindow/flows/help/HelpFlow.h"
 #include "mainwindow/flows/help/TipFlow.h"
+#include "mainwindow/flows/options/ColorsFlow.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/Modes.h"
 
@@ -37,6 +38,9 @@ constexpr auto CommandRows = std::to_array<CommandRow>({
     {Command::NewTask, "task new", &NewTask},
     {Command::NewEvent, "event new", &NewMorningEvent},
     {Command::ClassSchedule, "", &ClassSchedule},
+    {Command::ShowColors, "homework custom", &ShowColors},
+    {Command::ShowColors, "task custom", &ShowColors},
+    {Command::ShowColors, "event custom", &ShowColors},
     {Command::SeeHomework, "homework view", &ShowHomeworkMode},
     {Command::SeeCalendar, "calendar view", &ShowCalendarMode},
     {Command::SeeTasks, "task view", &ShowTaskMode},

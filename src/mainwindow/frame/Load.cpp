@@ -2,6 +2,8 @@
 #include "mainwindow/frame/Load.h"
 
 #include "core/Module1.h"
+#include "customise/frmColors.h"
+#include "customise/frmColorsName.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
 #include "editors/frmCourseSchedule.h"
@@ -76,6 +78,9 @@ void LoadDialogs(frmMain& window) {
     TaskDialog = new FrmTask(&window);
     EventDialog = new frmEvent(&window);
     RecurrenceDialog = new frmRecurrence(&window);
+    ColorsDialog = new frmColors(&window);
+    ColorsNameDialog = new frmColorsName(&window);
+    QObject::connect(ColorsDialog, &frmColors::HelpAsked, &window, [&window] { OpenHelp(window); });
     TipDialog = new frmTip(&window);
     AboutDialog = new frmAbout(&window);
     GPADialog = new frmGPA(&window);

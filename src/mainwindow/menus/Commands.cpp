@@ -44,6 +44,7 @@ constexpr auto ItemCommands = std::to_array<CommandOf<QAction>>({
     {&frmMain::MenuNewTask, Command::NewTask},
     {&frmMain::MenuNewEvent, Command::NewEvent},
     {&frmMain::MenuClassSchedule, Command::ClassSchedule},
+    {&frmMain::MenuColors, Command::ShowColors},
     {&frmMain::MenuExportCalendarAS, Command::ExportHomeworkCalendar},
     {&frmMain::MenuExportCalendarEV, Command::ExportEventCalendar},
     {&frmMain::MenuExportCalendarTA, Command::ExportTaskCalendar},

@@ -7,6 +7,7 @@ enum class Command {
     NewTask,
     NewEvent,
     ClassSchedule,
+    ShowColors,
     SeeHomework,
     SeeCalendar,
     SeeTasks,

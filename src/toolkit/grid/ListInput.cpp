@@ -82,7 +82,7 @@ bool IsMenuKey(int key, Qt::KeyboardModifiers modifiers) {
 
 void ResortGrid(PaintedList& grid) {
     const bool scrolled = grid.VSGridScroll->value() != 1;
-    ScrollGridTo(grid, 1);
+    ScrollGridTo(grid, grid.SortKeepsRowInView ? FirstRowShowing(grid.CurrentRow, 1, grid.RowsVisible) : 1);
     if (scrolled) {
         grid.picGrid->setFocus();
     }

@@ -12,7 +12,8 @@ std::optional<GridMove> MoveOf(int key);
 bool IsEnter(int key);
 bool IsMenuKey(int key, Qt::KeyboardModifiers modifiers);
 
-// Paints the list from its first row on in another order. A list that was scrolled takes the focus.
+// Paints the list in another order, from its first row on, or from where its current row is to be seen. A
+// list that was scrolled takes the focus.
 void ResortGrid(PaintedList& grid);
 
 // A click on a title: sorts by the column, in the other direction when it sorts by it already. Column 0 only

@@ -50,13 +50,14 @@ struct PaintedList {
 
     int SortColumn = 0; // column that the rows are sorted by
     int SortDirection = Ascending;
-    int FirstRow = 1;     // number of the row at the top of the list
-    int RowCount = 0;     // rows of the list
-    int RowsVisible = 0;  // whole rows that fit under the titles
-    int HeaderHeight = 0; // height of the titles in pixels
-    int ClickedRow = 0;   // place under the last press; NoRow when there is none
-    int CurrentRow = 0;   // row on which the keys stand, framed; 0 for none
-    int WheelRest = 0;    // eighths of a degree that the wheel was turned beyond a notch
+    int FirstRow = 1;                // number of the row at the top of the list
+    int RowCount = 0;                // rows of the list
+    int RowsVisible = 0;             // whole rows that fit under the titles
+    int HeaderHeight = 0;            // height of the titles in pixels
+    int ClickedRow = 0;              // place under the last press; NoRow when there is none
+    int CurrentRow = 0;              // row on which the keys stand, framed; 0 for none
+    int WheelRest = 0;               // eighths of a degree that the wheel was turned beyond a notch
+    bool SortKeepsRowInView = false; // in another order the current row is seen, else the first one
 
     // What is shown; no columns while the surface shows something else.
     std::span<const ListColumn> ListColumns;

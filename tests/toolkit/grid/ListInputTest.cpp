@@ -120,6 +120,18 @@ TEST_F(ListInput, AnotherOrderShowsTheListFromItsFirstRow) {
     EXPECT_EQ(window->focusWidget(), window->picGrid);
 }
 
+TEST_F(ListInput, AnotherOrderKeepsTheCurrentRowInViewWhereTheListWantsThat) {
+    ShowNames(40);
+    window->SortKeepsRowInView = true;
+    window->CurrentRow = 1;
+    window->VSGridScroll->setValue(9);
+    ColumnClicked(*window, NameColumn);
+    EXPECT_EQ(window->FirstRow, 1);
+    window->CurrentRow = 20;
+    ColumnClicked(*window, NameColumn);
+    EXPECT_EQ(window->FirstRow, 20 - window->RowsVisible + 1);
+}
+
 // --- Keys ---
 
 TEST_F(ListInput, ArrowsPagesAndEndsMoveTheCurrentRow) {

@@ -1,0 +1,3 @@
+target_sources(planovarium_logic PRIVATE
+  customise/ColorRows.cpp
+)

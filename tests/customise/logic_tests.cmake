@@ -1,0 +1,3 @@
+target_sources(logic_tests PRIVATE
+  customise/ColorRowsTest.cpp
+)
