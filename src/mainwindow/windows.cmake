@@ -26,6 +26,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/TermFlow.cpp
   mainwindow/flows/help/TipFlow.cpp
   mainwindow/flows/options/ColorsFlow.cpp
+  mainwindow/flows/paper/PrintFlow.cpp
   mainwindow/flows/ViewFlow.cpp
   mainwindow/flows/WindowFlow.cpp
   mainwindow/frame/BringForward.cpp

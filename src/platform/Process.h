@@ -33,6 +33,9 @@ void ShellOpen(std::string_view address);
 // Starts a program and does not wait for it. Gives its process number, 0 when it could not be started.
 long StartProcess(const std::string& program, std::initializer_list<std::string> arguments);
 
+// The file of this program.
+std::filesystem::path ProgramFile();
+
 // The folder from which the desktop session starts programs.
 std::filesystem::path StartupFolder();
 

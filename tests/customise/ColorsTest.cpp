@@ -164,6 +164,7 @@ TEST_F(Colors, KeysSelectAndEnterIsOk) {
         QTest::keyClick(ColorsDialog->picGrid, Qt::Key_End);
         EXPECT_EQ(ColorsDialog->CurrentRow, TypeRows + 2);
         Choose(ColorsDialog->ButtonBGColor, 7);
+        GoTo(ColorsDialog->picGrid); // the button had become the one that Enter presses
         QTest::keyClick(ColorsDialog->picGrid, Qt::Key_Return);
     });
     EXPECT_FALSE(ColorsDialog->CancelledFlag);

@@ -9,6 +9,7 @@ target_sources(window_tests PRIVATE
   mainwindow/flows/help/HelpFlowTest.cpp
   mainwindow/flows/GPAFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
+  mainwindow/flows/PrintFlowTest.cpp
   mainwindow/flows/help/TipFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp

@@ -131,6 +131,16 @@ std::optional<int> ChooseColor(int color, CustomColors& custom) {
     return chosen;
 }
 
+bool ShowPrinter(PrintFields& fields) {
+    Script.printDialogs.push_back(fields);
+    fields.copies = Script.printCopies.value_or(fields.copies);
+    return Script.printCopies.has_value();
+}
+
+void PrintPages(int pages, const std::function<void(QPainter& painter, const PrintArea& area)>& paint) {
+    Script.printed.push_back({pages, paint});
+}
+
 void PlaySound(const std::filesystem::path& file) {
     Script.sounds.push_back(file);
 }
@@ -178,6 +188,10 @@ void ShellOpen(std::string_view address) {
 long StartProcess(const std::string& program, std::initializer_list<std::string> arguments) {
     Script.processes.push_back({program, arguments});
     return Script.startedProcess;
+}
+
+std::filesystem::path ProgramFile() {
+    return Script.programFile;
 }
 
 std::filesystem::path StartupFolder() {

@@ -7,6 +7,7 @@
 #include "platform/FileDialogs.h"
 #include "platform/Formats.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Printer.h"
 #include "platform/Screen.h"
 #include "platform/Tray.h"
 
@@ -40,6 +41,12 @@ struct ShownColors {
     friend bool operator==(const ShownColors&, const ShownColors&) = default;
 };
 
+// What was sent to the printer: so many pages, each painted by the procedure.
+struct PrintedPages {
+    int pages = 0;
+    std::function<void(QPainter& painter, const PrintArea& area)> paint;
+};
+
 struct ScriptedPlatform {
     Moment now{};
     std::chrono::seconds lookTakes{0}; // that pass with each look at the clock
@@ -55,13 +62,17 @@ struct ScriptedPlatform {
     std::vector<ShownColors> colorDialogs;
     std::deque<std::optional<int>> colors;      // chosen in the next colour dialogs; one without is cancelled
     CustomColors customColors = NoCustomColors; // which a colour dialog gives back
-    std::vector<std::filesystem::path> sounds;  // asked for, in order
-    std::vector<std::string> opened;            // addresses handed to the shell
+    std::vector<PrintFields> printDialogs;
+    std::optional<int> printCopies; // asked for in the print dialog; without them it is cancelled
+    std::vector<PrintedPages> printed;
+    std::vector<std::filesystem::path> sounds; // asked for, in order
+    std::vector<std::string> opened;           // addresses handed to the shell
     std::vector<StartedProcess> processes;
     long startedProcess = 4711; // number of the next one that is started; 0 where none can be
     std::string trayTip;        // empty while there is no icon
     TrayEvents trayEvents;
     std::function<bool(const std::string&)> receiveLink;
+    std::filesystem::path programFile = "/drive/planovarium";
     std::filesystem::path startupFolder; // from which the desktop session starts programs
     ScreenSize screen{1280, 1024};
     WorkArea workArea{0, 0, 1280, 994};

@@ -15,6 +15,7 @@
 #include "mainwindow/flows/help/HelpFlow.h"
 #include "mainwindow/flows/help/TipFlow.h"
 #include "mainwindow/flows/options/ColorsFlow.h"
+#include "mainwindow/flows/paper/PrintFlow.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/modes/Modes.h"
 
@@ -41,6 +42,7 @@ constexpr auto CommandRows = std::to_array<CommandRow>({
     {Command::ShowColors, "homework custom", &ShowColors},
     {Command::ShowColors, "task custom", &ShowColors},
     {Command::ShowColors, "event custom", &ShowColors},
+    {Command::PrintScreen, "", &PrintScreen},
     {Command::SeeHomework, "homework view", &ShowHomeworkMode},
     {Command::SeeCalendar, "calendar view", &ShowCalendarMode},
     {Command::SeeTasks, "task view", &ShowTaskMode},

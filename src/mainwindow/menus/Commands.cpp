@@ -45,6 +45,7 @@ constexpr auto ItemCommands = std::to_array<CommandOf<QAction>>({
     {&frmMain::MenuNewEvent, Command::NewEvent},
     {&frmMain::MenuClassSchedule, Command::ClassSchedule},
     {&frmMain::MenuColors, Command::ShowColors},
+    {&frmMain::MenuPrintScreen, Command::PrintScreen},
     {&frmMain::MenuExportCalendarAS, Command::ExportHomeworkCalendar},
     {&frmMain::MenuExportCalendarEV, Command::ExportEventCalendar},
     {&frmMain::MenuExportCalendarTA, Command::ExportTaskCalendar},

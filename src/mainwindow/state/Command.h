@@ -8,6 +8,7 @@ enum class Command {
     NewEvent,
     ClassSchedule,
     ShowColors,
+    PrintScreen,
     SeeHomework,
     SeeCalendar,
     SeeTasks,

@@ -43,6 +43,10 @@ long StartProcess(const std::string& program, std::initializer_list<std::string>
     return started ? static_cast<long>(number) : 0;
 }
 
+std::filesystem::path ProgramFile() {
+    return QCoreApplication::applicationFilePath().toStdU16String();
+}
+
 std::filesystem::path StartupFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::ConfigLocation).toStdString() + "/autostart";
 }

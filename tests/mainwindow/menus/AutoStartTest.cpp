@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr const char* ShortcutName = "Planovarium Startup Shortcut.lnk";
+constexpr const char* ShortcutName = "Planovarium Startup Shortcut.desktop";
 
 class AutoStart : public WindowTest {
 protected:
