@@ -47,7 +47,7 @@ constexpr std::array<RowFragments, 5> Fragments{{
 
 bool HoldsRowsMark(std::string_view line) {
     const auto sameLetter = [](char a, char b) { return (a & ~0x20) == b; };
-    return !std::ranges::search(line, RowsMark, sameLetter).empty();
+    return std::search(line.begin(), line.end(), RowsMark.begin(), RowsMark.end(), sameLetter) != line.end();
 }
 
 void AddCell(std::string_view fragment, std::string_view value, const AddLine& add) {
