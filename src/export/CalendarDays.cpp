@@ -8,12 +8,12 @@
 #include "planner/recurrence/EventOccursOn.h"
 #include "planner/rows/ClassLink.h"
 #include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 #include <optional>
 
 namespace {
 
-constexpr std::string_view NewEventName = "New Event";
 constexpr std::size_t HomeworkLimit = 14; // characters of a link's text
 constexpr std::size_t TaskLimit = 20;
 constexpr std::size_t EventLimit = 9;
@@ -76,7 +76,7 @@ std::string TaskTitle(int position, bool done) {
     const TaskLists& store = Store.TaskRecord;
     const std::string type = TaskTypeLook(store.type.Item(position)).name;
     const std::string& priority = store.priority.Item(position);
-    return (ShownChoice(type).empty() ? "" : type + ": ") + OrElse(store.desc.Item(position), NewTaskText) +
+    return (ShownChoice(type).empty() ? "" : type + ": ") + std::string(TaskName(position)) +
            (priority == NoType ? "" : " - " + priority + " Priority") +
            (done ? " - Done" : " - " + store.percent_complete.Item(position) + " Complete");
 }
@@ -87,10 +87,9 @@ std::string EventLine(int position) {
     const EventLists& store = Store.EventRecord;
     const std::string& desc = store.desc.Item(position);
     const std::string type = EventTypeLook(store.type.Item(position)).name;
-    const std::optional<TimeOfDay> clock = TimeIn(store.time.Item(position));
-    const std::string time = clock ? ShownClock(StoredTime(*clock)) + " " : "";
-    const std::string title = OrElse(TypeAndDescription(type, desc), NewEventName);
-    return time + Anchor(time + title, OrElse(OrElse(desc, type), NewEventName), EventLimit);
+    const std::string clock = ShownClock(ShownTime(store.time.Item(position)));
+    const std::string time = clock.empty() ? "" : clock + " ";
+    return time + Anchor(time + EventTitle(type, desc), OrElse(OrElse(desc, type), NewEventText), EventLimit);
 }
 
 } // namespace
@@ -113,8 +112,7 @@ MonthDays TaskDays(Date firstCell) {
         }
         const bool done = IsTrue(store.done.Item(position));
         day->workLeft = day->workLeft || !done;
-        AddDayLine(*day, Anchor(TaskTitle(position, done), OrElse(store.desc.Item(position), NewTaskText),
-                                TaskLimit));
+        AddDayLine(*day, Anchor(TaskTitle(position, done), std::string(TaskName(position)), TaskLimit));
     }
     return days;
 }

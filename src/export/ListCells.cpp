@@ -6,7 +6,7 @@
 #include "core/RowLists.h"
 #include "core/Values.h"
 #include "planner/dates/DaysAway.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 namespace {
 
@@ -24,11 +24,6 @@ std::string Choice(std::string_view text) {
 
 std::string DateCell(std::string_view moment) {
     return PageDate(std::chrono::floor<std::chrono::days>(MomentValue(moment)));
-}
-
-std::string TimeCell(std::string_view time) {
-    const std::optional<TimeOfDay> clock = TimeIn(time);
-    return clock ? StoredTime(*clock) : std::string{};
 }
 
 std::string DoneCell(std::string_view flag) {
@@ -62,7 +57,7 @@ Cells TaskCells(int row) {
     const TaskLists& store = Store.TaskRecord;
     const int position = TaskRows.Item(row);
     const bool dated = IsTrue(store.date_exists.Item(position));
-    return {OrElse(store.desc.Item(position), NewTaskText), Choice(TaskRowType.Item(row)),
+    return {std::string(TaskName(position)), Choice(TaskRowType.Item(row)),
             Trimmed(store.priority.Item(position)),
             dated ? DateCell(store.date.Item(position)) : std::string(NoDeadline),
             DoneCell(store.done.Item(position))};
@@ -77,7 +72,7 @@ Cells EventCells(int row) {
     const EventLists& store = Store.EventRecord;
     const int position = EventRows.Item(row);
     return {store.desc.Item(position), EventRowType.Item(row), PageDate(EventRowDate.Item(row)),
-            TimeCell(store.time.Item(position)), Choice(store.recurrence.Item(position))};
+            ShownTime(store.time.Item(position)), Choice(store.recurrence.Item(position))};
 }
 
 } // namespace

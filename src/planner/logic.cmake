@@ -32,6 +32,7 @@ target_sources(planovarium_logic PRIVATE
   planner/rows/ClassLink.cpp
   planner/rows/RowLook.cpp
   planner/rows/RowOrder.cpp
+  planner/rows/RowTexts.cpp
   planner/rows/ViewFilter.cpp
   planner/study/AlertMessage.cpp
   planner/study/StudyLog.cpp

@@ -40,6 +40,7 @@ target_sources(logic_tests PRIVATE
   planner/reminders/ReminderSimulationTest.cpp
   planner/rows/ClassLinkTest.cpp
   planner/rows/RowLookTest.cpp
+  planner/rows/RowTextsTest.cpp
   planner/rows/ViewFilterTest.cpp
   planner/study/AlertMessageTest.cpp
   planner/study/StudyBalanceTest.cpp

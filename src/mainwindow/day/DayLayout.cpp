@@ -6,7 +6,7 @@
 #include "core/RowLists.h"
 #include "planner/dates/DateHelpers.h"
 #include "planner/rows/Colors.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 #include <algorithm>
 #include <array>

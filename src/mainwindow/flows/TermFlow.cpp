@@ -9,6 +9,7 @@
 #include "mainwindow/flows/RecordFlow.h"
 #include "mainwindow/frmMain.h"
 #include "persistence/modIO.h"
+#include "planner/rows/ClassLink.h"
 
 #include <algorithm>
 
@@ -177,15 +178,10 @@ void RemoveTermRecords(int id) {
     }
 }
 
+// A deleted class keeps its assignments.
 bool TermHasClass(int termId, const std::string& classId) {
-    const std::optional<double> wanted = NumberIn(classId);
-    for (int position = 1, records = WholeRecords(Store.ClassRecord); position <= records; ++position) {
-        const bool same = wanted && NumberIn(Store.ClassRecord.id.Item(position)) == wanted;
-        if (same && HasId(Store.ClassRecord.term.Item(position), termId)) {
-            return true;
-        }
-    }
-    return false;
+    const std::optional<double> id = NumberIn(classId);
+    return id && FindClass({.id = *id, .term = termId, .deletedToo = true}) != 0;
 }
 
 // Adds the records again and takes the assignments out whose class has gone; their file is written only then.

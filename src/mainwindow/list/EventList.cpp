@@ -8,7 +8,7 @@
 #include "mainwindow/list/ListRows.h"
 #include "planner/lists/EventSelection.h"
 #include "planner/lists/RowSorts.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 #include "toolkit/Text.h"
 
 GridRow EventGridRow(int row) {
@@ -16,9 +16,9 @@ GridRow EventGridRow(int row) {
     const int position = EventRows.Item(row);
     return {EventRowForeColor.Item(row),
             EventRowBackColor.Item(row),
-            {NameCell(store.desc.Item(position), NewEventText(store.type.Item(position))),
-             TextCell(EventRowType.Item(row)), DateCell(EventRowDate.Item(row)),
-             TimeCell(store.time.Item(position)), TextCell(ShownChoice(store.recurrence.Item(position)))}};
+            {NameCell(store.desc.Item(position), EventName(position)), TextCell(EventRowType.Item(row)),
+             DateCell(EventRowDate.Item(row)), TimeCell(store.time.Item(position)),
+             TextCell(ShownChoice(store.recurrence.Item(position)))}};
 }
 
 void frmMain::LayoutEventList() {

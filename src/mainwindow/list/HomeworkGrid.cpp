@@ -9,7 +9,7 @@
 #include "planner/lists/DayTotals.h"
 #include "planner/lists/HomeworkSelection.h"
 #include "planner/lists/RowSorts.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 GridRow HomeworkGridRow(int row) {
     const AssignmentLists& store = Store.Assignment;
@@ -18,7 +18,7 @@ GridRow HomeworkGridRow(int row) {
             RowBackColor.Item(row),
             {ReminderCell(store.reminder.Item(position)), PriorityCell(store.priority.Item(position)),
              NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(position)),
-             NameCell(store.desc.Item(position), NewAssignmentText),
+             NameCell(store.desc.Item(position), AssignmentName(position)),
              ClockCell(store.time_left.Item(position)), DateCell(store.date.Item(position)),
              CheckCell(store.done.Item(position)), TrimmedCell(store.grade.Item(position))}};
 }

@@ -1,7 +1,7 @@
 // The lists of the main window: which one a mode shows, and its columns.
 #include "mainwindow/list/ListColumns.h"
 
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 #include <array>
 

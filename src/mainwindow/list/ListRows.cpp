@@ -4,7 +4,7 @@
 #include "core/DateText.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 #include "toolkit/Text.h"
 
 int RowsInList(ListKind kind) {
@@ -56,8 +56,7 @@ GridCell ClockCell(std::string_view clock) {
 }
 
 GridCell TimeCell(std::string_view time) {
-    const std::optional<TimeOfDay> clock = TimeIn(time);
-    return clock ? TextCell(StoredTime(*clock)) : GridCell{};
+    return TextCell(ShownTime(time));
 }
 
 GridCell DateCell(Date date) {

@@ -8,7 +8,7 @@
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/lists/HomeworkSelection.h"
 #include "planner/lists/RowSorts.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 GridRow StudyGridRow(int row) {
     const AssignmentLists& store = Store.Assignment;
@@ -17,7 +17,7 @@ GridRow StudyGridRow(int row) {
     return {RowForeColor.Item(row),
             RowBackColor.Item(row),
             {NameCell(RowClass.Item(row)), TrimmedCell(store.type.Item(position)),
-             NameCell(store.desc.Item(position), NewAssignmentText),
+             NameCell(store.desc.Item(position), AssignmentName(position)),
              PriorityCell(store.priority.Item(position)), ClockCell(log.time.Item(StudyRowTime.Item(row))),
              DateCell(log.date.Item(StudyRowDate.Item(row))), DateCell(store.date.Item(position))}};
 }

@@ -9,7 +9,7 @@
 #include "mainwindow/panels/ShowBox.h"
 #include "planner/lists/RowSorts.h"
 #include "planner/lists/TaskSelection.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 namespace {
 
@@ -32,12 +32,12 @@ GridRow TaskGridRow(int row) {
     const TaskLists& store = Store.TaskRecord;
     const int position = TaskRows.Item(row);
     const bool dated = IsTrue(store.date_exists.Item(position));
-    return {TaskRowForeColor.Item(row),
-            TaskRowBackColor.Item(row),
-            {ReminderCell(store.reminder.Item(position)), NameCell(store.desc.Item(position), NewTaskText),
-             NameCell(ShownChoice(TaskRowType.Item(row))),
-             TextCell(ShownChoice(store.priority.Item(position))),
-             dated ? DateCell(store.date.Item(position)) : GridCell{}, CheckCell(store.done.Item(position))}};
+    return {
+        TaskRowForeColor.Item(row),
+        TaskRowBackColor.Item(row),
+        {ReminderCell(store.reminder.Item(position)), NameCell(store.desc.Item(position), TaskName(position)),
+         NameCell(ShownChoice(TaskRowType.Item(row))), TextCell(ShownChoice(store.priority.Item(position))),
+         dated ? DateCell(store.date.Item(position)) : GridCell{}, CheckCell(store.done.Item(position))}};
 }
 
 void frmMain::LayoutTaskGrid() {

@@ -1,12 +1,11 @@
 // The items of the context menus and of the tray menu.
 #include "mainwindow/menus/PopupCaptions.h"
 
-#include "core/DateText.h"
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
 #include "planner/recurrence/SeriesRule.h"
-#include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 #include <array>
 #include <span>
@@ -88,7 +87,8 @@ std::string HomeworkCaption(int row) {
     caption += IsTrue(store.done.Item(position))
                    ? "(Done)  "
                    : "(" + ShownClock(store.time_left.Item(position)) + " left)  ";
-    caption += RowClass.Item(row) + " - " + OrElse(store.desc.Item(position), NewAssignmentText);
+    caption += RowClass.Item(row) + " - ";
+    caption += AssignmentName(position);
     return caption;
 }
 
@@ -97,8 +97,7 @@ std::string TaskCaption(int row) {
     const int position = TaskRows.Item(row);
     std::string caption = IsTrue(store.done.Item(position)) ? "(Done)  " : "(Not Done)  ";
     caption += MarkIf(IsTrue(store.reminder.Item(position)), ReminderMark);
-    caption += TypeAndDescription(ShownChoice(TaskRowType.Item(row)),
-                                  OrElse(store.desc.Item(position), NewTaskText));
+    caption += TypeAndDescription(ShownChoice(TaskRowType.Item(row)), TaskName(position));
     return caption;
 }
 
@@ -106,12 +105,12 @@ std::string EventCaption(int row) {
     const EventLists& store = Store.EventRecord;
     const int position = EventRows.Item(row);
     std::string caption;
-    if (const auto time = TimeIn(store.time.Item(position))) {
-        caption += "(" + StoredTime(*time) + ")  ";
+    if (const std::string time = ShownTime(store.time.Item(position)); !time.empty()) {
+        caption += "(" + time + ")  ";
     }
     caption += MarkIf(IsTrue(store.reminder.Item(position)), ReminderMark);
     caption += MarkIf(IsSeries(position), RecurrenceMark);
-    caption += OrElse(TypeAndDescription(EventRowType.Item(row), store.desc.Item(position)), "New Event");
+    caption += EventTitle(EventRowType.Item(row), store.desc.Item(position));
     return caption;
 }
 

@@ -16,11 +16,10 @@ int LinkedClasses(std::string_view type) {
     if (!link || ActiveTermID == 0 || link->term != ActiveTermID) {
         return 0;
     }
-    const ClassLists& classes = Store.ClassRecord;
+    const ClassSought sought{.id = static_cast<double>(link->class_)};
     int count = 0;
-    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
-        const bool living = classes.name.Item(position) != DeletedRecord;
-        count += living && IdIn(classes.id.Item(position)) == link->class_ ? 1 : 0;
+    for (int position = FindClass(sought); position != 0; position = FindClass(sought, position + 1)) {
+        ++count;
     }
     return count;
 }

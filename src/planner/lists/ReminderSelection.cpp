@@ -11,6 +11,7 @@
 #include "planner/rows/ClassLink.h"
 #include "planner/rows/Colors.h"
 #include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 namespace {
 
@@ -64,8 +65,7 @@ void SelectTaskReminders(Date day, bool taken) {
         ++ReminderTaskCount;
         if (taken) {
             const RowLook look = TaskTypeLook(tasks.type.Item(position));
-            AddRow({position, TaskMode, "", look.name, OrElse(tasks.desc.Item(position), NewTaskText), date},
-                   look, day);
+            AddRow({position, TaskMode, "", look.name, std::string(TaskName(position)), date}, look, day);
         }
     }
 }
@@ -85,7 +85,7 @@ void SelectHomeworkReminders(Date day, bool taken) {
         if (taken) {
             const RowLook look = ClassLook(ClassPositionOf(classes, assignments.class_.Item(position)));
             AddRow({position, HomeworkMode, look.name, assignments.type.Item(position),
-                    OrElse(assignments.desc.Item(position), NewAssignmentText), date},
+                    std::string(AssignmentName(position)), date},
                    look, day);
         }
     }
@@ -96,7 +96,7 @@ void AddEventReminderToList(const EventReminder& reminder, Date day) {
     const std::string& type = events.type.Item(reminder.position);
     const RowLook look = EventTypeLook(type);
     AddRow({reminder.position, EventMode, IsClassMeeting(type) ? look.name : "", look.name,
-            OrElse(events.desc.Item(reminder.position), NewEventText(type)), reminder.date},
+            std::string(EventName(reminder.position)), reminder.date},
            look, day);
 }
 

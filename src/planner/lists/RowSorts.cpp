@@ -7,8 +7,8 @@
 #include "planner/dates/DateHelpers.h"
 #include "planner/dates/MonthGrid.h"
 #include "planner/recurrence/SeriesRule.h"
-#include "planner/rows/RowLook.h"
 #include "planner/rows/RowOrder.h"
+#include "planner/rows/RowTexts.h"
 
 namespace {
 
@@ -76,7 +76,7 @@ RowOrder HomeworkOrder(SortOrder order) {
     case HomeworkColumn::Type:
         return OrderByText(rows, direction, field(store.type));
     case HomeworkColumn::Description:
-        return OrderByText(rows, direction, Replacing("", NewAssignmentText, field(store.desc)));
+        return OrderByText(rows, direction, [](int row) { return AssignmentName(HomeworkRows.Item(row)); });
     case HomeworkColumn::Time:
         return OrderByNumber(rows, direction, ClockMinutesOf(field(store.time_left)));
     case HomeworkColumn::Due:
@@ -132,7 +132,7 @@ RowOrder TaskOrder(SortOrder order) {
     case TaskColumn::Reminder:
         return OrderByText(rows, direction, field(store.reminder));
     case TaskColumn::Name:
-        return OrderByText(rows, direction, Replacing("", NewTaskText, field(store.desc)));
+        return OrderByText(rows, direction, [](int row) { return TaskName(TaskRows.Item(row)); });
     case TaskColumn::Type: {
         const std::string_view sentinel = Sentinel(direction, "zzzzzz", "aaaaa");
         const auto type = Replacing("", sentinel, TextOf(TaskRowType));

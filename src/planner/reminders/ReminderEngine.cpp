@@ -10,6 +10,7 @@
 #include "planner/reminders/ReminderPhrases.h"
 #include "planner/rows/ClassLink.h"
 #include "planner/rows/RowLook.h"
+#include "planner/rows/RowTexts.h"
 
 #include <cstdint>
 #include <optional>
@@ -109,11 +110,6 @@ bool ItemStands(const ItemReminderLists& items, int position, Scan& scan, bool& 
     return stands;
 }
 
-ReminderRow ItemRow(const ItemReminderLists& items, int position, std::string_view mode,
-                    std::string_view newName) {
-    return {items.id.Item(position), mode, OrElse(items.desc.Item(position), newName)};
-}
-
 void TellDay(ReminderRow& row, const std::string& date, const Scan& scan) {
     const int days = DayDiff(scan.today, DateValue(date));
     row.when = DayPhrase(days);
@@ -126,7 +122,7 @@ void CheckTasks(Scan& scan) {
         if (!ItemStands(items, position, scan, scan.flags.ReminderTasksChanged)) {
             continue;
         }
-        ReminderRow row = ItemRow(items, position, TaskMode, NewTaskText);
+        ReminderRow row{items.id.Item(position), TaskMode, std::string(TaskName(position))};
         if (IsTrue(Store.TaskRecord.date_exists.Item(position))) {
             TellDay(row, items.date.Item(position), scan);
         } else {
@@ -147,7 +143,7 @@ void CheckHomework(Scan& scan) {
         if (!scan.classes) {
             scan.classes = ClassPositionsById();
         }
-        ReminderRow row = ItemRow(items, position, HomeworkMode, NewAssignmentText);
+        ReminderRow row{items.id.Item(position), HomeworkMode, std::string(AssignmentName(position))};
         TellDay(row, items.date.Item(position), scan);
         row.look = ClassLook(ClassPositionOf(*scan.classes, Store.Assignment.class_.Item(position)));
         AppendRow(scan, std::move(row));
@@ -219,11 +215,9 @@ void CheckEvents(Scan& scan) {
         }
         const Moment moment = MomentOfEvent(position);
         const std::int64_t away = (floor<minutes>(moment) - floor<minutes>(scan.now)).count();
-        const std::string& type = events.type.Item(position);
-        AppendRow(scan, {events.id.Item(position), EventMode,
-                         OrElse(events.desc.Item(position), NewEventText(type)),
+        AppendRow(scan, {events.id.Item(position), EventMode, std::string(EventName(position)),
                          MomentPhrase(away, DayDiff(scan.now, moment)), static_cast<double>(away),
-                         EventTypeLook(type)});
+                         EventTypeLook(events.type.Item(position))});
     }
 }
 

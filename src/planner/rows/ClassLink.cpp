@@ -39,15 +39,20 @@ std::string ClassLinkText(int term, std::string_view class_) {
     return std::string(TermWord) + std::to_string(term) + "-" + std::string(ClassWord) + std::string(class_);
 }
 
-int ClassPosition(const ClassLink& link) {
+int FindClass(const ClassSought& sought, int from) {
     const ClassLists& classes = Store.ClassRecord;
-    for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
-        if (IdIn(classes.id.Item(position)) == link.class_ &&
-            IdIn(classes.term.Item(position)) == link.term && classes.name.Item(position) != DeletedRecord) {
+    for (int position = from, records = WholeRecords(classes); position <= records; ++position) {
+        if (NumberIn(classes.id.Item(position)) == sought.id &&
+            (!sought.term || NumberIn(classes.term.Item(position)) == *sought.term) &&
+            (sought.deletedToo || classes.name.Item(position) != DeletedRecord)) {
             return position;
         }
     }
     return 0;
+}
+
+int ClassPosition(const ClassLink& link) {
+    return FindClass({.id = static_cast<double>(link.class_), .term = link.term});
 }
 
 std::vector<int> ActiveClassIds() {

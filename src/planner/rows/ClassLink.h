@@ -20,8 +20,17 @@ std::optional<ClassLink> ClassLinkIn(std::string_view type);
 // The type of a meeting of the class.
 std::string ClassLinkText(int term, std::string_view class_);
 
-// Position in Store.ClassRecord of the class with that term and id, in whichever term; 0 when there is none.
-// Deleted classes are none.
+// Which class is looked for. Ids are read as numbers: "13.0" is 13.
+struct ClassSought {
+    double id = 0;
+    std::optional<int> term{}; // id of its term; without, a class of any term will do
+    bool deletedToo = false;   // a deleted class is as good as one that lives
+};
+
+// The first such position in Store.ClassRecord from this one on; 0 when there is none.
+int FindClass(const ClassSought& sought, int from = 1);
+
+// The living class that the link names, in whichever term; 0 when there is none.
 int ClassPosition(const ClassLink& link);
 
 // The ids of the active term's classes, deleted ones left out; none without a term.

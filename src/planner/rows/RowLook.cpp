@@ -1,5 +1,4 @@
-// What a row shows of its record: the name and the two colours of its class or type, and a text where the
-// description is empty.
+// What a row shows of its record's class or type: the name and the two colours.
 #include "planner/rows/RowLook.h"
 
 #include "core/Module1.h"
@@ -56,30 +55,4 @@ RowLook EventTypeLook(std::string_view type) {
         return ClassLook(link ? ClassPosition(*link) : 0);
     }
     return TypeLook("Event", type);
-}
-
-std::string OrElse(const std::string& text, std::string_view other) {
-    return text.empty() ? std::string(other) : text;
-}
-
-std::string_view ShownChoice(std::string_view text) {
-    return text == NoType ? std::string_view{} : text;
-}
-
-std::string ShownClock(std::string_view clock) {
-    std::string text(clock);
-    std::erase(text, ' ');
-    return text;
-}
-
-std::string TypeAndDescription(std::string_view type, std::string_view desc) {
-    const bool both = !type.empty() && !desc.empty();
-    return std::string(type) + (both ? " - " : "") + std::string(desc);
-}
-
-std::string_view NewEventText(std::string_view type) {
-    if (IsClassMeeting(type)) {
-        return "Class";
-    }
-    return type == StudyTimeType ? StudyTimeType : "New Event";
 }

@@ -1,5 +1,4 @@
-// What a row shows of its record: the name and the two colours of its class or type, and a text where the
-// description is empty.
+// What a row shows of its record's class or type: the name and the two colours.
 #pragma once
 
 #include "planner/rows/Colors.h"
@@ -34,26 +33,3 @@ RowLook TaskTypeLook(std::string_view type);
 // The shown name and the colours of an event's type, and for a class meeting those of its class, in whichever
 // term. A type that is not in the table, "None" among them, has no name.
 RowLook EventTypeLook(std::string_view type);
-
-// The text, or the other one where it is empty.
-std::string OrElse(const std::string& text, std::string_view other);
-
-// A type, a priority or a recurrence as rows show it: nothing for "None".
-std::string_view ShownChoice(std::string_view text);
-
-// A clock length as rows show it: without its blanks.
-std::string ShownClock(std::string_view clock);
-
-// A type and a description, joined by " - " where there are both.
-std::string TypeAndDescription(std::string_view type, std::string_view desc);
-
-// The marks of a reminder and of a high priority in lists and menus.
-inline constexpr std::string_view ReminderMark = "\xAE";
-inline constexpr std::string_view PriorityMark = "!";
-
-// What stands for an empty description.
-inline constexpr std::string_view NewAssignmentText = "New Assignment";
-inline constexpr std::string_view NewTaskText = "New Task";
-
-// The same for an event of the type: "Class" for a class meeting, "Study Time" for study, else "New Event".
-std::string_view NewEventText(std::string_view type);

@@ -71,6 +71,27 @@ TEST_F(ClassLinks, DoNotFindADeletedClass) {
     EXPECT_EQ(ClassPosition({4, 11}), 0);
 }
 
+TEST_F(ClassLinks, FindAClassOfAnyTermWhereNoneIsTold) {
+    AddClass("12", "4", "Algebra of this term");
+    EXPECT_EQ(FindClass({.id = 12}), 3);
+    EXPECT_EQ(FindClass({.id = 12}, 4), 6);
+    EXPECT_EQ(FindClass({.id = 12}, 7), 0);
+    EXPECT_EQ(FindClass({.id = 12, .term = 4}), 6);
+}
+
+TEST_F(ClassLinks, FindADeletedClassWhereItWillDo) {
+    EXPECT_EQ(FindClass({.id = 11}), 0);
+    EXPECT_EQ(FindClass({.id = 11, .deletedToo = true}), 2);
+    EXPECT_EQ(FindClass({.id = 11, .term = 4, .deletedToo = true}), 2);
+    EXPECT_EQ(FindClass({.id = 11, .term = 5, .deletedToo = true}), 0);
+}
+
+TEST_F(ClassLinks, FindAClassWhoseIdIsNoWholeNumberByThatNumber) {
+    AddClass("10.5", "4", "Half");
+    EXPECT_EQ(FindClass({.id = 10.5, .term = 4}), 6);
+    EXPECT_EQ(FindClass({.id = 10, .term = 4}), 1);
+}
+
 TEST_F(ClassLinks, KeepClassMeetingsToTheActiveTerm) {
     EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID10"));
     EXPECT_TRUE(BelongsToActiveTerm("TermID4-ClassID13"));

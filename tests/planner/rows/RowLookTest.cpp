@@ -80,28 +80,3 @@ TEST_F(RowLooks, FindAClassByTheNumberOfItsId) {
     EXPECT_EQ(ClassPositionOf(classes, "none"), 0);
     EXPECT_EQ(ClassPositionOf(classes, ""), 0);
 }
-
-TEST_F(RowLooks, CallAnEventWithoutDescriptionByItsKind) {
-    EXPECT_EQ(NewEventText("TermID4-ClassID12"), "Class");
-    EXPECT_EQ(NewEventText("Study Time"), "Study Time");
-    EXPECT_EQ(NewEventText("Class"), "New Event");
-    EXPECT_EQ(NewEventText("None"), "New Event");
-}
-
-TEST(ShownText, OfNoneIsNothing) {
-    EXPECT_EQ(ShownChoice("None"), "");
-    EXPECT_EQ(ShownChoice("High"), "High");
-    EXPECT_EQ(ShownChoice("none"), "none");
-}
-
-TEST(ShownText, OfAClockLengthHasNoBlanks) {
-    EXPECT_EQ(ShownClock("01 : 30"), "01:30");
-    EXPECT_EQ(ShownClock(""), "");
-}
-
-TEST(ShownText, OfATypeAndADescriptionJoinsThemWhereThereAreBoth) {
-    EXPECT_EQ(TypeAndDescription("Club", "Chess"), "Club - Chess");
-    EXPECT_EQ(TypeAndDescription("Club", ""), "Club");
-    EXPECT_EQ(TypeAndDescription("", "Chess"), "Chess");
-    EXPECT_EQ(TypeAndDescription("", ""), "");
-}
