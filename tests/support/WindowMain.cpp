@@ -17,9 +17,3 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
-
-// The toolkit keeps 16 bytes of a guarded pointer to a window that is already being destroyed; where such a
-// pointer is made has not been found yet.
-extern "C" const char* __lsan_default_suppressions() {
-    return "leak:QtSharedPointer::ExternalRefCountData::getAndRef";
-}
