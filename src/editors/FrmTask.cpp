@@ -16,6 +16,11 @@ constexpr std::string_view ItemName = "Task";
 constexpr int ColorNoDeadline = 0x808080;     // 0xBBGGRR
 constexpr int ColorNoDeadlineText = 0xC0C0C0; // 0xBBGGRR
 
+// The date in the text; where the task does not use it, a text that is none gives the other date.
+Date DateOrOther(bool used, const std::string& text, Date other) {
+    return used ? DateValue(text) : DateIn(text).value_or(other);
+}
+
 } // namespace
 
 FrmTask* TaskDialog = nullptr;
@@ -127,7 +132,8 @@ void FrmTask::FillEdit() {
     ShowComboText(ComboPercentComplete, tempTaskPercentComplete);
     CheckBoxDeadline->setChecked(IsTrue(tempTaskDateExists));
     CheckboxReminder->setChecked(IsTrue(tempTaskReminder));
-    FillDates(DateValue(tempTaskDate), DateValue(tempTaskReminderDate));
+    const Date date = DateOrOther(CheckBoxDeadline->isChecked(), tempTaskDate, Today());
+    FillDates(date, DateOrOther(CheckboxReminder->isChecked(), tempTaskReminderDate, date));
 }
 
 // --- What follows an entry ---------------------------------------------------------------------------------

@@ -13,8 +13,9 @@ public:
     explicit FrmTask(QWidget* parent);
 
     // Fills all controls, for "New" from tempClickedDate, for "Edit" from the fields; to be
-    // called before each opening. Raises the run-time error where a field holds no date or neither "True" nor
-    // "False".
+    // called before each opening. Raises the run-time error where a flag is neither "True" nor "False", and
+    // where the date of a deadline or of a reminder that is on is none. Where there is no deadline, today
+    // stands for a date that is none, and that of the task for one of a reminder that is off.
     void Fill();
 
     std::string tempTaskDescription;

@@ -121,9 +121,6 @@ const std::vector<OneFault> Faults{
      "<reminderdate>x", 1, 1, "reminderdate", "is no date", "as the record is opened"},
     {"TaskReminderDate", "tasks.xml", "<reminder_date>2009/10/11", "<reminder_date>x", "<reminder_date>x", 1,
      1, "reminder_date", "is no date", "as the record is opened"},
-    {"UndatedTask", "tasks.xml", "<date>2009/10/11</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>True",
-     "<date>//</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>False", "<date>//", 1, 1, "date",
-     "is no date", "as the record is opened"},
     {"SingleEventFlag", "events.xml",
      "<recurrence>Day</recurrence>\r\n  <exceptions></exceptions>\r\n  <parent_id></parent_id>\r\n  "
      "<same_date>False",
@@ -237,6 +234,16 @@ TEST_F(CheckedDrive, WithAFileThatCannotBeReadSaysThatItCouldNotLook) {
 TEST_F(CheckedDrive, OfDeletedRecordsAsksNothingOfTheirValues) {
     ASSERT_NO_FATAL_FAILURE(Edit("events.xml", "<desc>Event 1", "<desc>DELETED RECORD"));
     ASSERT_NO_FATAL_FAILURE(Edit("events.xml", "<time>09:00 AM", "<time>noon"));
+    EXPECT_EQ(Shown(Check().findings), "");
+}
+
+TEST_F(CheckedDrive, WithDatesThatATaskDoesNotUseHasNoFinding) {
+    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml",
+                                 "<date>2009/10/11</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>True",
+                                 "<date>//</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>False"));
+    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml", "<reminder_date>2009/10/11", "<reminder_date>//"));
+    EXPECT_EQ(Check().findings.size(), 1U) << "its reminder is on";
+    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml", "<reminder>True", "<reminder>False"));
     EXPECT_EQ(Shown(Check().findings), "");
 }
 

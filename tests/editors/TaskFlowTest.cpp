@@ -67,6 +67,58 @@ TEST_F(TaskFlow, TaskWithoutDeadlineIsStoredWithToday) {
     EXPECT_EQ(Tasks.date.Item(1), "2009/10/16");
 }
 
+// As the older release's tasks without a date stand after their conversion.
+TEST_F(TaskFlow, TaskWithoutADeadlineOpensThoughItsDatesAreNone) {
+    AddTaskRecord({.date = "//",
+                   .desc = "Old",
+                   .date_exists = "False",
+                   .reminder = "False",
+                   .reminder_date = "//",
+                   .notes = "kept"});
+    WriteTasks();
+    const std::string before = ReadData("tasks.xml");
+    EditTask(1, [] {
+        EXPECT_FALSE(TaskDialog->CheckBoxDeadline->isChecked());
+        EXPECT_EQ(TaskDialog->TextboxTaskDate->text(), "Wednesday, October 14, 2009");
+        EXPECT_EQ(TaskDialog->TextboxReminderDate->text(), "Wednesday, October 14, 2009");
+        EXPECT_EQ(TaskDialog->tempTaskReminderAlarm, "2009/10/14 09:00:00");
+        Cancel();
+    });
+    EXPECT_TRUE(Script.boxes.empty()) << "the opening is no change";
+    EXPECT_EQ(ReadData("tasks.xml"), before);
+    EditTask(1, [] {
+        EXPECT_EQ(TaskDialog->TextBoxNotes->toPlainText(), "kept");
+        Click(TaskDialog->CheckboxReminder);
+        Ok();
+    });
+    EXPECT_EQ(Tasks.desc.Item(1), "Old");
+    EXPECT_EQ(Tasks.notes.Item(1), "kept");
+    EXPECT_EQ(Tasks.date_exists.Item(1), "False");
+    EXPECT_EQ(Tasks.date.Item(1), "2009/10/14");
+    EXPECT_EQ(Tasks.reminder_date.Item(1), "2009/10/14");
+    EXPECT_EQ(Tasks.reminder_alarm.Item(1), "2009/10/14 09:00:00");
+}
+
+TEST_F(TaskFlow, DateThatIsNoneOfADeadlineOrAReminderStaysTheError) {
+    AddTaskRecord({.date = "//", .date_exists = "True"});
+    AddTaskRecord({.reminder = "True", .reminder_date = "//"});
+    EXPECT_THROW(::EditTask(*window, 1), RunTimeError);
+    EXPECT_THROW(::EditTask(*window, 2), RunTimeError);
+}
+
+TEST_F(TaskFlow, ReminderThatIsOffHasTheTasksDateWhereItsOwnIsNone) {
+    AddTaskRecord({.date = "2009/10/30", .reminder = "False", .reminder_date = "soon"});
+    EditTask(1, Ok);
+    EXPECT_EQ(Tasks.date.Item(1), "2009/10/30");
+    EXPECT_EQ(Tasks.reminder_date.Item(1), "2009/10/30");
+    AddTaskRecord({.date = "2009/10/30", .date_exists = "False", .reminder_date = "2009/11/02"});
+    EditTask(2, [] {
+        EXPECT_EQ(TaskDialog->TextboxTaskDate->text(), "Friday, October 30, 2009") << "a date that is one";
+        EXPECT_EQ(TaskDialog->TextboxReminderDate->text(), "Monday, November 2, 2009");
+        Cancel();
+    });
+}
+
 TEST_F(TaskFlow, EmptyTaskIsAccepted) {
     NewTask(Ok);
     EXPECT_EQ(Tasks.desc.Item(1), "");
@@ -252,7 +304,7 @@ TEST_F(TaskFlow, ShutdownWhileTheDialogIsOpenWritesNothing) {
 }
 
 TEST_F(TaskFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
-    AddTaskRecord({.desc = "Read", .reminder_date = "some other day"});
+    AddTaskRecord({.desc = "Read", .reminder = "True", .reminder_date = "some other day"});
     std::string text;
     try {
         ::EditTask(*window, 1);

@@ -166,8 +166,6 @@ bool IsAsked(Asked asked, const RecordState& state) {
         return state.living;
     case Asked::Dated:
         return state.dated;
-    case Asked::Undated:
-        return state.living && !state.dated;
     case Asked::Armed:
         return state.living && state.armed;
     case Asked::Series:

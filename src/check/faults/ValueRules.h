@@ -27,7 +27,6 @@ enum class Asked {
     Always,
     Living,        // not marked as deleted
     Dated,         // tasks with a date
-    Undated,       // tasks without one
     Armed,         // with a reminder
     Series,        // events that repeat
     Ending,        // events whose repeating has an end
@@ -74,13 +73,12 @@ inline constexpr std::array<ValueRule, 12> AssignmentRules{{
     {"reminderlist", ValueKind::Flag, Asked::Living, AtReminders},
 }};
 
-inline constexpr std::array<ValueRule, 8> TaskRules{{
+inline constexpr std::array<ValueRule, 7> TaskRules{{
     {"date_exists", ValueKind::Flag, Asked::Always, "as it counts the tasks"},
     {"date", ValueKind::DateOnly, Asked::Dated, "as it shows the tasks of a day"},
-    {"date", ValueKind::DateOnly, Asked::Undated, AsOpened},
     {"done", ValueKind::Flag, Asked::Always, "as it counts the tasks"},
     {"reminder", ValueKind::Flag, Asked::Living, AtReminders},
-    {"reminder_date", ValueKind::DateOnly, Asked::Living, AsOpened},
+    {"reminder_date", ValueKind::DateOnly, Asked::Armed, AsOpened},
     {"reminder_alarm", ValueKind::DateAndTime, Asked::Armed, AtReminders},
     {"reminder_list", ValueKind::Flag, Asked::Living, AtReminders},
 }};
