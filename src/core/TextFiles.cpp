@@ -78,6 +78,19 @@ std::optional<std::string_view> TakeLine(std::string_view& text) {
     return line;
 }
 
+std::vector<std::size_t> PlacesOfBlanks(std::string_view text, std::string_view closingTag) {
+    std::vector<std::size_t> places;
+    for (std::size_t at = text.rfind(closingTag); at != std::string_view::npos;
+         at = at == 0 ? std::string_view::npos : text.rfind(closingTag, at - 1)) {
+        const std::size_t behind = at + closingTag.size();
+        const std::string_view rest = text.substr(behind);
+        if (rest.starts_with('\n') || rest.starts_with(LineEnd)) {
+            places.push_back(behind);
+        }
+    }
+    return places;
+}
+
 OutputFile OpenForWriting(const std::string& name) {
     return OpenOutput(name, "wb");
 }

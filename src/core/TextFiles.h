@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 inline constexpr std::string_view LineEnd = "\r\n";
 
@@ -24,6 +25,11 @@ std::string FileBytes(const std::string& name);
 // Takes the first line off the text and gives it without its end, which is CR LF or a lone LF; a lone CR is a
 // character like any other. A last line needs no end. Nothing when the text is used up.
 std::optional<std::string_view> TakeLine(std::string_view& text);
+
+// The places, the last one first, behind each line of a field's text that ends with the closing tag of the
+// field where another line follows. A blank belongs there, since the reader takes such a line for the field's
+// last.
+std::vector<std::size_t> PlacesOfBlanks(std::string_view text, std::string_view closingTag);
 
 struct FileCloser {
     void operator()(std::FILE* file) const { std::fclose(file); }

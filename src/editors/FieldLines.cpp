@@ -1,6 +1,8 @@
 // The lines of a box whose text is a field of a record file: none may look like the end of that field.
 #include "editors/FieldLines.h"
 
+#include "core/TextFiles.h"
+
 #include <QKeyEvent>
 
 namespace {
@@ -9,26 +11,23 @@ bool IsBreak(QChar character) {
     return character == QChar::ParagraphSeparator || character == QChar::LineSeparator;
 }
 
-// Where blanks are missing in the text of a document, the last place first.
-QList<int> PlacesOfBlanks(const QString& text, const QString& closingTag) {
-    QList<int> places;
-    for (qsizetype at = text.indexOf(closingTag); at >= 0; at = text.indexOf(closingTag, at + 1)) {
-        const qsizetype behind = at + closingTag.size();
-        if (behind < text.size() && IsBreak(text[behind])) {
-            places.prepend(static_cast<int>(behind));
-        }
+// The text of a document with a byte for each of its characters, so that places stay the same.
+std::string BytesOf(const QString& text) {
+    std::string bytes;
+    for (const QChar character : text) {
+        bytes += IsBreak(character) ? '\n' : character.toLatin1();
     }
-    return places;
+    return bytes;
 }
 
 // The cursor of the box stays before a blank that comes at it, so that the keys that delete reach the tag.
-void PutBlanks(QPlainTextEdit* box, const QList<int>& places) {
+void PutBlanks(QPlainTextEdit* box, const std::vector<std::size_t>& places) {
     QTextCursor kept = box->textCursor();
     kept.setKeepPositionOnInsert(true);
     QTextCursor cursor(box->document());
     cursor.joinPreviousEditBlock(); // one step of undo with what brought the lines in
-    for (const int place : places) {
-        cursor.setPosition(place);
+    for (const std::size_t place : places) {
+        cursor.setPosition(static_cast<int>(place));
         cursor.insertText(QStringLiteral(" "));
     }
     cursor.endEditBlock();
@@ -72,9 +71,9 @@ private:
 void KeepLinesOfField(QPlainTextEdit* box, const QString& tag) {
     const QString closingTag = QStringLiteral("</") + tag + QStringLiteral(">");
     box->installEventFilter(new DeleteKey(box, closingTag));
-    QObject::connect(box, &QPlainTextEdit::textChanged, box, [box, closingTag] {
-        const QList<int> places = PlacesOfBlanks(box->document()->toRawText(), closingTag);
-        if (!places.isEmpty()) {
+    QObject::connect(box, &QPlainTextEdit::textChanged, box, [box, bytes = closingTag.toStdString()] {
+        const std::vector<std::size_t> places = PlacesOfBlanks(BytesOf(box->document()->toRawText()), bytes);
+        if (!places.empty()) {
             PutBlanks(box, places);
         }
     });

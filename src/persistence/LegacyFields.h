@@ -9,6 +9,7 @@
 
 enum class LegacyRule {
     Plain,    // as it stands
+    Notes,    // the same, with a blank behind each line that the reader would take for the field's last
     DateText, // "." and "-" become "/"
     Day,      // the date as yyyy/mm/dd; a text that is none as a date
     Time,     // "None" becomes the time of reminders
@@ -50,20 +51,20 @@ inline constexpr std::array<LegacyField<ClassLists>, 7> LegacyClassFields{{
     {&ClassLists::id, 0, 5},
     {&ClassLists::term, 5, 5},
     {&ClassLists::name, 10, 25},
-    {&ClassLists::notes, 75, 500},
+    {&ClassLists::notes, 75, 500, LegacyRule::Notes},
     {.list = &ClassLists::credits, .text = "1"},
     {.list = &ClassLists::forecolor, .text = "0"},
     {.list = &ClassLists::backcolor, .text = "16777215"},
 }};
 
 // The notes of assignments had a file of their own.
-struct LegacyNoteLists {
+struct LegacyNotes {
     TextList owner, text;
 };
 
-inline constexpr std::array<LegacyField<LegacyNoteLists>, 2> LegacyNoteFields{{
-    {&LegacyNoteLists::owner, 5, 5},
-    {&LegacyNoteLists::text, 50, 1450},
+inline constexpr std::array<LegacyField<LegacyNotes>, 2> LegacyNoteFields{{
+    {&LegacyNotes::owner, 5, 5},
+    {&LegacyNotes::text, 50, 1450, LegacyRule::Notes},
 }};
 
 // The time left is the estimate here, and none for what is done; the notes come from their file.
@@ -98,7 +99,7 @@ inline constexpr std::array<LegacyField<TaskLists>, 14> LegacyTaskFields{{
     {&TaskLists::priority, 100, 10},
     {&TaskLists::done, 110, 5},
     {&TaskLists::percent_complete, 110, 5, LegacyRule::Progress},
-    {&TaskLists::notes, 115, 845},
+    {&TaskLists::notes, 115, 845, LegacyRule::Notes},
     {.list = &TaskLists::reminder, .text = "False"},
     {&TaskLists::reminder_date, 75, 15, LegacyRule::DateText},
     {.list = &TaskLists::reminder_time, .text = LegacyTime},
@@ -119,7 +120,7 @@ inline constexpr std::array<LegacyField<EventLists>, 23> LegacyEventFields{{
     {&EventLists::repeat_daily, 135, 10},
     {&EventLists::end, 145, 5},
     {&EventLists::end_date, 150, 15, LegacyRule::DateText},
-    {&EventLists::notes, 165, 795},
+    {&EventLists::notes, 165, 795, LegacyRule::Notes},
     {.list = &EventLists::duration, .text = "1 Hour"},
     {.list = &EventLists::exceptions},
     {.list = &EventLists::parent_id},

@@ -50,10 +50,20 @@ std::string_view TextAt(std::string_view record, std::size_t offset, std::size_t
     return text.substr(0, text.find_last_not_of(Padding) + 1);
 }
 
+std::string NotesOf(std::string_view text) {
+    std::string notes(text);
+    for (const std::size_t place : PlacesOfBlanks(text, ClosingTag("notes"))) {
+        notes.insert(place, 1, ' ');
+    }
+    return notes;
+}
+
 std::string ValueByRule(LegacyRule rule, std::string_view text) {
     switch (rule) {
     case LegacyRule::Plain:
         return std::string(text);
+    case LegacyRule::Notes:
+        return NotesOf(text);
     case LegacyRule::DateText:
         return WithSlashes(text);
     case LegacyRule::Day: {
@@ -116,7 +126,7 @@ void ConvertTermsAndClasses() {
     WriteTermsAndClasses();
 }
 
-void ReadLegacyNotes(LegacyNoteLists& notes) {
+void ReadLegacyNotes(LegacyNotes& notes) {
     const std::string bytes = LegacyBytes("Notes.txt");
     std::string_view rest = bytes;
     while (!rest.empty()) {
@@ -154,7 +164,7 @@ void KeepAssignmentsOfActiveTerm() {
 }
 
 // A later note of an assignment replaces an earlier one.
-void AddNotes(const LegacyNoteLists& notes) {
+void AddNotes(const LegacyNotes& notes) {
     AssignmentLists& assignments = Store.Assignment;
     for (int row = 1; row <= notes.owner.Count(); ++row) {
         for (int position = 1; position <= assignments.id.Count(); ++position) {
@@ -166,7 +176,7 @@ void AddNotes(const LegacyNoteLists& notes) {
     }
 }
 
-void ConvertAssignments(const LegacyNoteLists& notes) {
+void ConvertAssignments(const LegacyNotes& notes) {
     AddLivingRecords(Store.Assignment, LegacyAssignmentFields, LegacyBytes("Assignments.txt"),
                      LegacyAssignmentLength);
     KeepAssignmentsOfActiveTerm();
@@ -195,7 +205,7 @@ void Try(Step step) {
 }
 
 void ConvertAssignmentsOfEachTerm() {
-    LegacyNoteLists notes;
+    LegacyNotes notes;
     Try([&notes] { ReadLegacyNotes(notes); });
     for (int position = 1; position <= Store.Term.id.Count(); ++position) {
         Try([&notes, position] {

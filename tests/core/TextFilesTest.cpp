@@ -43,6 +43,19 @@ TEST(TextLines, MayBeEmptyAndTheLastNeedsNoEnd) {
     EXPECT_EQ(LinesIn("\r\n\r\na"), (Texts{"", "", "a"}));
 }
 
+TEST(FieldTexts, WantABlankBehindAClosingTagThatEndsALineAndNowhereElse) {
+    const auto places = [](std::string_view text) { return PlacesOfBlanks(text, "</notes>"); };
+    using Places = std::vector<std::size_t>;
+    EXPECT_EQ(places("a</notes>\r\nb"), Places{9});
+    EXPECT_EQ(places("a</notes>\nb"), Places{9}) << "a lone line feed ends a line, too";
+    EXPECT_EQ(places("</notes>\r\n\r\n</notes></notes>\r\n"), (Places{28, 8})) << "the last one first";
+    EXPECT_EQ(places("a</notes>"), Places{}) << "the field's own closing tag follows on its line";
+    EXPECT_EQ(places("a</notes> \r\nb"), Places{});
+    EXPECT_EQ(places("a</notes>\rb"), Places{});
+    EXPECT_EQ(places("a</note>\r\nb</Notes>\r\n"), Places{});
+    EXPECT_EQ(places(""), Places{});
+}
+
 TEST_F(TextFiles, HoldEveryByteThatIsWritten) {
     std::string bytes;
     for (int i = 0; i < 200000; ++i) {

@@ -273,6 +273,19 @@ TEST_F(Conversion, GoesOnBehindTheBoxOfAWriter) {
     EXPECT_TRUE(FileWrittenFlags.tasks);
 }
 
+TEST_F(Conversion, WritesTermsThenAssignmentsThenEventsThenTasks) {
+    SetDataFile("Terms.txt", LegacyTerm("2", "Spring 2010") + LegacyTerm("1", "Fall 2009"));
+    Texts written;
+    Script.whileSyncing = [&written](const std::string& name) {
+        if (name.ends_with(".tmp")) {
+            written.push_back(name);
+        }
+    };
+    ConvertLegacyData();
+    EXPECT_EQ(written, (Texts{"terms.xml.tmp", "classes.xml.tmp", "assignments_2.xml.tmp",
+                              "assignments_1.xml.tmp", "events.xml.tmp", "tasks.xml.tmp"}));
+}
+
 TEST_F(Conversion, OfAFolderThatIsGoneDoesNothingAndSaysNothing) {
     fs::remove_all(DataFolder);
     ConvertLegacyData();
@@ -364,6 +377,21 @@ TEST_F(Conversion, DropsNotesWhoseOwnerIsZeroOrNoNumber) {
     EXPECT_EQ(DataFile("assignments_1.xml").find("zero"), std::string::npos);
     EXPECT_EQ(DataFile("assignments_1.xml").find("no number"), std::string::npos);
     EXPECT_EQ(DataFile("assignments_1.xml").find("empty"), std::string::npos);
+}
+
+TEST_F(Conversion, KeepsTheLinesOfNotesBehindOneThatLooksLikeTheirEnd) {
+    const std::string notes = "see</notes>\r\nline two</notes>\r\n</notes> and on</notes>";
+    SetDataFile("Classes.txt", LegacyClass("1", "1", "Algebra", notes));
+    SetDataFile("Notes.txt", LegacyNote("1", notes));
+    SetDataFile("Tasks.txt", LegacyTask({.notes = notes}) + LegacyTask({.id = "2"}));
+    SetDataFile("Events.txt", LegacyEvent({.notes = notes}) + LegacyEvent({.id = "2"}));
+    Start();
+    const std::string kept = "see</notes> \r\nline two</notes> \r\n</notes> and on</notes>";
+    EXPECT_EQ(Store.ClassRecord.notes.values, Texts{kept});
+    EXPECT_EQ(Store.Assignment.notes.values, Texts{kept});
+    EXPECT_EQ(Store.TaskRecord.notes.values, (Texts{kept, ""}));
+    EXPECT_EQ(Store.EventRecord.notes.values, (Texts{kept, ""}));
+    EXPECT_EQ(Script.boxes, Boxes{});
 }
 
 TEST_F(Conversion, OfWhatWasDoneLeavesNoTimeAndAllOfItComplete) {
