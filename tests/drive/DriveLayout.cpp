@@ -38,6 +38,10 @@ LayoutResult RenewDrive(const std::filesystem::path& source, const std::filesyst
     return RunStep("--renew" + Quoted(source) + Quoted(target));
 }
 
+LayoutResult BringProgram(const std::filesystem::path& program, const std::filesystem::path& target) {
+    return RunStep("--program" + Quoted(program) + Quoted(target));
+}
+
 std::string BytesOf(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};

@@ -19,4 +19,7 @@ LayoutResult LayOutDrive(const std::filesystem::path& source, const std::filesys
 // Brings the program folder of the drive in the target up to that of the source.
 LayoutResult RenewDrive(const std::filesystem::path& source, const std::filesystem::path& target);
 
+// Brings the program into the program folder of the drive in the target.
+LayoutResult BringProgram(const std::filesystem::path& program, const std::filesystem::path& target);
+
 std::string BytesOf(const std::filesystem::path& file);

@@ -231,6 +231,41 @@ TEST_F(LayOutDriveTest, RenewsNeitherDocumentsNorTemplatesThatAreThere) {
     EXPECT_EQ(BytesOf(target / "Planovarium/Calendar Template3.html"), "another");
 }
 
+TEST_F(LayOutDriveTest, BringsAProgramThatStartsAndANewerOneInItsPlace) {
+    LayOutWithProgram();
+    const fs::path program = drive.root / "check";
+    const fs::path brought = target / "Planovarium/check";
+    std::ofstream(program) << "#!/bin/sh\nexit 7\n";
+    ASSERT_TRUE(BringProgram(program, target).succeeded);
+    EXPECT_EQ(std::system(("'" + brought.string() + "'").c_str()), 7 << 8);
+    std::ofstream(program) << "#!/bin/sh\nexit 8\n";
+    ASSERT_TRUE(BringProgram(program, target).succeeded);
+    EXPECT_EQ(std::system(("'" + brought.string() + "'").c_str()), 8 << 8);
+    fs::permissions(brought, fs::perms{0644});
+    ASSERT_TRUE(BringProgram(program, target).succeeded);
+    EXPECT_EQ(std::system(("'" + brought.string() + "'").c_str()), 8 << 8)
+        << "the same one, not to be started";
+    ASSERT_TRUE(RenewDrive(source, target).succeeded);
+    EXPECT_TRUE(fs::exists(brought)) << "a renewal leaves it there";
+}
+
+TEST_F(LayOutDriveTest, BringsNoProgramThatIsNoneNorToADriveThatIsNone) {
+    LayOutWithProgram();
+    EXPECT_FALSE(BringProgram(drive.root / "nothing", target).succeeded);
+    EXPECT_FALSE(fs::exists(target / "Planovarium/nothing"));
+    const LayoutResult result = BringProgram(source / "Planovarium/Help/index.html", drive.root / "nowhere");
+    EXPECT_FALSE(result.succeeded);
+    EXPECT_EQ(result.output, (drive.root / "nowhere").string() + "/Planovarium: no such folder.\n");
+    EXPECT_FALSE(fs::exists(drive.root / "nowhere"));
+}
+
+TEST_F(LayOutDriveTest, OfTheRunCommandBringsTheCheck) {
+    const std::string run = BytesOf(fs::path(PLANOVARIUM_SOURCE_DIR) / "run");
+    EXPECT_NE(run.find("\ntools/lay-out-drive --program build/run/src/plancheck \"$drive\""),
+              std::string::npos);
+    EXPECT_LT(run.find("cmake --build --preset run"), run.find("--program")) << "behind the build";
+}
+
 TEST_F(LayOutDriveTest, RenewsNoDriveThatIsNone) {
     LayOutWithProgram();
     const LayoutResult result = RenewDrive(source, drive.root / "nowhere");

@@ -44,7 +44,9 @@ TEST_P(Plancheck, FindsNothingAtFaultInTheSampleDrive) {
 
 TEST_P(Plancheck, OnTheDriveFindsItsDataWithoutTheVariables) {
     const std::filesystem::path program = laidOut / "Planovarium" / "plancheck";
-    std::filesystem::copy_file(PLANOVARIUM_PLANCHECK, program);
+    const LayoutResult result = BringProgram(PLANOVARIUM_PLANCHECK, laidOut);
+    ASSERT_TRUE(result.succeeded) << result.output;
+    EXPECT_EQ(result.output, "");
     const std::string command = "cd / && env -i '" + program.string() + "' >/dev/null";
     EXPECT_EQ(std::system(command.c_str()), 0);
 }
