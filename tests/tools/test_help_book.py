@@ -194,6 +194,14 @@ class HelpBook(unittest.TestCase):
         told = words((BOOK / "templates.html").read_text(encoding="utf-8"))
         self.assertEqual(set(re.findall(r">([^<>]* Template\d?\.html)<", told)), templates)
 
+    def test_tells_of_every_command_of_the_check_where_a_backup_is_got_back(self):
+        source = (ROOT / "src" / "check" / "Commands.cpp").read_text(encoding="utf-8")
+        commands = set(re.findall(r'^    \{"(--[a-z-]+)", \d\},$', source, re.M))
+        self.assertGreater(len(commands), 3)
+        told = words((BOOK / "backup.html").read_text(encoding="utf-8"))
+        self.assertEqual(set(re.findall(r"<td><code>Planovarium/plancheck (--[a-z-]+)", told)), commands)
+        self.assertIn("<td><code>Planovarium/plancheck</code>", told)
+
 
 if __name__ == "__main__":
     unittest.main()
