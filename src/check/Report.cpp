@@ -13,10 +13,6 @@
 
 namespace {
 
-std::string Counted(int count, std::string_view what) {
-    return std::to_string(count).append(" ").append(what).append(count == 1 ? "" : "s");
-}
-
 // The place of the finding: "tasks.xml, line 14, record 2 "Buy paper", field date".
 std::string PlaceOf(const Finding& finding) {
     std::string text = finding.file;

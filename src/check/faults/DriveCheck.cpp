@@ -40,8 +40,8 @@ void CheckWaiting(const RecordFile& file, Moment now, CheckResult& result) {
     if (written) {
         fault += " (" + AgeText(*written, now) + ")";
     }
-    std::string meaning = "The planner does not read it. It holds " + std::to_string(waiting.size()) +
-                          (waiting.size() == 1 ? " record" : " records");
+    std::string meaning = "The planner does not read it. It holds " +
+                          Counted(static_cast<std::int64_t>(waiting.size()), "record");
     if (!difference.onlyInFirst.empty()) {
         meaning += ", of which the file lacks " + std::to_string(difference.onlyInFirst.size()) + ": " +
                    NamesText(difference.onlyInFirst);

@@ -1,6 +1,7 @@
 // When files were written.
 #include "check/faults/FileAge.h"
 
+#include "check/faults/Finding.h"
 #include "core/DateText.h"
 
 #include <algorithm>
@@ -10,10 +11,6 @@
 namespace {
 
 constexpr std::size_t MinutesEnd = 16; // of "2026/11/22 14:03:00"
-
-std::string Counted(std::int64_t count, const char* unit) {
-    return std::to_string(count) + " " + unit + (count == 1 ? "" : "s");
-}
 
 } // namespace
 

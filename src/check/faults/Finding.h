@@ -1,7 +1,9 @@
 // What the check tells: one fault of one file, with its place and what it would mean.
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // All texts are in the store's character set. A number of 0 and an empty text say that there is none.
@@ -16,3 +18,8 @@ struct Finding {
 };
 
 using Findings = std::vector<Finding>;
+
+// The count with its noun: "1 record", "3 records".
+inline std::string Counted(std::int64_t count, std::string_view what) {
+    return std::to_string(count).append(" ").append(what).append(count == 1 ? "" : "s");
+}

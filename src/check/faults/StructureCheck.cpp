@@ -10,10 +10,6 @@
 
 namespace {
 
-std::string Number(int count, std::string_view what) {
-    return std::to_string(count).append(" ").append(what).append(count == 1 ? "" : "s");
-}
-
 std::string LinesText(LineRange lines) {
     return lines.first == lines.last
                ? "line " + std::to_string(lines.first)
@@ -52,7 +48,7 @@ std::string FaultOfStep(const ReadFile& read) {
 std::string MeaningOfFailure(const ReadFile& read) {
     std::string text =
         "The planner stops reading here with the message \"Error reading the file: " + read.file.name +
-        "\". It has " + Number(read.records, "record") + " of it; all that stands behind is lost to it";
+        "\". It has " + Counted(read.records, "record") + " of it; all that stands behind is lost to it";
     if (read.file.kind == "terms") {
         text += ", and it does not read the classes";
     }
