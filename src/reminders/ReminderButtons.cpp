@@ -26,11 +26,11 @@ void frmReminders::ViewItem() {
 }
 
 void frmReminders::ResetItem() {
-    NormaliseInterval();
     const ReminderItem item = ItemToActOn();
     if (item.id.empty()) {
         return;
     }
+    NormaliseInterval();
     {
         const QScopedValueRollback hold(ReminderHold, true);
         SnoozeReminder(item.mode, item.id, TextOf(ComboReminderTime), Now(), *this);
@@ -69,8 +69,9 @@ void frmReminders::RemoveAllItems() {
             return;
         }
         RemoveAllReminders(*this, *this);
-        DrawReminderGrid();
         WriteChangedFiles();
+        EmptyReminderRows(*this, *this);
+        DrawReminderGrid();
     }
     SetReminderButtons();
 }

@@ -29,8 +29,8 @@ void frmReminders::Tick() {
     }
 }
 
-// What was selected stays so when nothing has fired. The rows are drawn before the files are written, since a
-// box may come then, with the list behind it.
+// What was selected stays so when nothing has fired. The files are written before the rows are drawn; a box
+// may come then, and a shutdown with it.
 void frmReminders::ReminderTick() {
     const ReminderItem selected = ItemOfRow(*this, ReminderSelectedRow);
     CheckReminders(Now(), *this, *this);
@@ -39,10 +39,13 @@ void frmReminders::ReminderTick() {
         ReminderSelectedRow = RowOfItem(*this, selected);
     }
     SetReminderTitle();
+    WriteChangedFiles();
+    if (ShuttingDown) {
+        return;
+    }
     DrawSortedRows();
     SetReminderButtons();
-    WriteChangedFiles();
-    if (ReminderShowWindow && !ShuttingDown) {
+    if (ReminderShowWindow) {
         ShowReminderWindow();
     }
 }

@@ -6,6 +6,7 @@
 #include "planner/entries/ComboRows.h"
 #include "planner/entries/DurationEntry.h"
 #include "planner/reminders/ReminderItems.h"
+#include "planner/reminders/ReminderPhrases.h"
 #include "toolkit/Text.h"
 #include "toolkit/grid/ListInput.h"
 #include "toolkit/grid/ListPainting.h"
@@ -152,8 +153,7 @@ void frmReminders::SetReminderButtons() {
 }
 
 void frmReminders::SetReminderTitle() {
-    const int count = ReminderIds.Count();
-    setWindowTitle(QStringLiteral("%1 Reminder%2").arg(count).arg(count == 1 ? u"" : u"s"));
+    setWindowTitle(FromStore(ReminderTitle(ReminderIds.Count())));
 }
 
 // --- Keys and entries --------------------------------------------------------------------------------------

@@ -30,7 +30,7 @@ public:
     // open or the program ends.
     void Tick();
 
-    // Scans, shows the rows, writes the files of what has fired, and shows the window where something has.
+    // Scans, writes the files of what has fired, shows the rows, and shows the window where something has.
     // Raises the run-time error at a bad text in a reminder.
     void ReminderTick();
 

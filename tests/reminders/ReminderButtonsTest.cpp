@@ -1,7 +1,10 @@
 // The buttons of the reminder window: what they change, what they write and what they leave in the list.
 #include "core/Module1.h"
+#include "core/RunTimeError.h"
 #include "mainwindow/frame/Unload.h"
 #include "reminders/RemindersTest.h"
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -305,6 +308,65 @@ TEST_F(ReminderButtons, RemoveAllStopsWhereAShutdownComesWhileItAsks) {
     EXPECT_FALSE(list->ReminderHold);
 }
 
+// --- The hold ----------------------------------------------------------------------------------------------
+
+TEST_F(ReminderButtons, EachWritesInItsHoldBeforeTheRowLeavesTheList) {
+    ShowFour();
+    std::vector<int> standing;
+    Script.whileSyncing = [&](const std::string& name) {
+        if (name.ends_with(".tmp")) {
+            EXPECT_TRUE(list->ReminderHold);
+            EXPECT_EQ(list->RowCount, list->ReminderIds.Count()) << "as drawn";
+            standing.push_back(list->ReminderIds.Count());
+        }
+    };
+    Snooze("Task 1", "1 Hour");
+    Select("Homework 1");
+    Click(list->ButtonRemove);
+    Script.answers = {Answer::Yes};
+    Click(list->ButtonRemoveAll);
+    EXPECT_EQ(standing, (std::vector<int>{4, 3, 2}));
+    EXPECT_EQ(list->RowCount, 0);
+}
+
+TEST_F(ReminderButtons, HoldEndsWithAnErrorAndLeavesRowAndRecord) {
+    ShowFour();
+    const PlannerStore before = Store;
+    Select("Task 1");
+    SetClock(9999, 12, 31, 23, 0);
+    list->ComboReminderTime->setCurrentText("1 Day"); // is later than any date that can be stored
+    EXPECT_THROW(list->ResetItem(), RunTimeError);
+    EXPECT_FALSE(list->ReminderHold);
+    EXPECT_EQ(Standing().size(), 4U);
+    EXPECT_EQ(Changed(before), Texts{});
+    EXPECT_EQ(saved, Texts{});
+    AddDueTask();
+    Tick();
+    EXPECT_EQ(Standing().size(), 5U) << "ticks are not held";
+}
+
+TEST_F(ReminderButtons, HoldEndsWithAnErrorBehindTheBoxesOfTheOtherButtons) {
+    ShowFour();
+    Script.whileBoxIsOpen = [](const ShownBox&) { throw RunTimeError("while the box is open"); };
+    EXPECT_THROW(list->RemoveAllItems(), RunTimeError);
+    EXPECT_FALSE(list->ReminderHold);
+    Select("Task 1");
+    const FailingFile failing = LetFail("tasks.xml");
+    EXPECT_THROW(list->RemoveItem(), RunTimeError);
+    EXPECT_FALSE(list->ReminderHold);
+}
+
+TEST_F(ReminderButtons, ResetLeavesTheTypedTimeAloneWhereItDoesNothing) {
+    ShowFour();
+    Select("Task 1");
+    list->ComboReminderTime->setCurrentText("45m");
+    list->ReminderBusy = true;
+    list->ResetItem();
+    list->ReminderBusy = false;
+    EXPECT_EQ(list->ComboReminderTime->currentText(), "45m");
+    EXPECT_EQ(Standing().size(), 4U);
+}
+
 // --- Busy, and records that have gone ----------------------------------------------------------------------
 
 TEST_F(ReminderButtons, NoneDoesAnythingWhileATickRuns) {
@@ -378,6 +440,64 @@ TEST_F(ViewedReminder, OpensHomeworkInHomeworkMode) {
     QuietTick();
     EXPECT_EQ(View("Homework 1"), "Planovarium - Edit Assignment");
     EXPECT_EQ(window->CurrentMode(), Mode::Homework);
+}
+
+TEST_F(ViewedReminder, OpensAnEventInEventsModeOnItsDay) {
+    AddEventRecord({.date = "2009/10/21", .reminder = "True", .reminder_alarm = "2009/10/14 09:00:00"});
+    QuietTick();
+    EXPECT_EQ(View("Event 1"), "Planovarium - Edit Event");
+    EXPECT_EQ(window->CurrentMode(), Mode::Events);
+    EXPECT_EQ(window->ClickedDate, (Date{2009y / 10 / 21}));
+    EXPECT_EQ(window->SelectedDate, window->ClickedDate);
+    EXPECT_TRUE(Script.boxes.empty());
+}
+
+TEST_F(ViewedReminder, OpensTheOccurrenceOfASeriesThatItIsAbout) {
+    AddArmedEvent({.date = "2009/10/02", .desc = "Club", .recurrence = "Day", .repeat_daily = "FFFFTFF"});
+    SetClock(2009, 10, 17); // the last Friday is the 16th
+    QuietTick();
+    Select("Event 1");
+    QString title;
+    QString day;
+    WhenDialogOpens([&](QWidget* editor) {
+        title = editor->windowTitle();
+        day = editor->findChild<QLineEdit*>("TextboxEventStartDate")->text();
+        editor->close();
+    });
+    Click(list->ButtonView); // and No: this specific event
+    EXPECT_TRUE(WaitUntil([&] { return !title.isEmpty(); }));
+    EXPECT_EQ(title, "Planovarium - Edit Event");
+    EXPECT_EQ(day.toStdString(), "Friday, October 16, 2009");
+    EXPECT_EQ(Script.boxes.size(), 1U);
+    EXPECT_EQ(window->CurrentMode(), Mode::Events);
+    EXPECT_EQ(window->ClickedDate, (Date{2009y / 10 / 16}));
+    EXPECT_EQ(window->SelectedDate, window->ClickedDate);
+}
+
+TEST_F(ViewedReminder, OpensTheWholeSeriesWhereTheStudentSaysSo) {
+    AddArmedEvent({.date = "2009/10/02", .recurrence = "Day", .repeat_daily = "FFFFTFF"});
+    SetClock(2009, 10, 17);
+    QuietTick();
+    Script.answers = {Answer::Yes};
+    QString day;
+    Select("Event 1");
+    WhenDialogOpens([&](QWidget* editor) {
+        day = editor->findChild<QLineEdit*>("TextboxEventStartDate")->text();
+        editor->close();
+    });
+    Click(list->ButtonView);
+    EXPECT_TRUE(WaitUntil([&] { return !day.isEmpty(); }));
+    EXPECT_EQ(day.toStdString(), "Friday, October 2, 2009");
+}
+
+TEST_F(ViewedReminder, OfASecondItemOpensThatOne) {
+    AddDueTask();
+    AddDueHomework();
+    QuietTick();
+    EXPECT_EQ(View("Task 1"), "Planovarium - Edit Task");
+    EXPECT_EQ(View("Homework 1"), "Planovarium - Edit Assignment");
+    EXPECT_EQ(View("Task 1"), "Planovarium - Edit Task");
+    EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
 }
 
 TEST_F(ViewedReminder, OpensFromTheHiddenWindow) {

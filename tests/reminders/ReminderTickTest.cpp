@@ -82,6 +82,28 @@ TEST_F(ReminderTicks, WriteTasksFirstThenHomeworkThenEventsAndEachOnce) {
     EXPECT_FALSE(list->ReminderTasksChanged || list->ReminderHomeworkChanged || list->ReminderEventsChanged);
 }
 
+TEST_F(ReminderTicks, SetTheTitleThenWriteThenDrawTheRowsAndShowTheWindowLast) {
+    AddTaskRecord({.desc = "Old", .reminder_list = "True"});
+    QuietTick();
+    Select("Task 1");
+    list->hide();
+    AddDueTask("New");
+    int saves = 0;
+    Script.whileSyncing = [&](const std::string& name) {
+        saves += name == "tasks.xml.tmp" ? 1 : 0;
+        EXPECT_EQ(list->windowTitle(), "2 Reminders");
+        EXPECT_TRUE(DrawnTexts(*list->picGrid).contains(" Old"));
+        EXPECT_FALSE(DrawnTexts(*list->picGrid).contains(" New"));
+        EXPECT_TRUE(list->ButtonView->isEnabled()) << "the buttons follow the rows that are drawn";
+        EXPECT_FALSE(list->isVisible());
+    };
+    Tick();
+    EXPECT_EQ(saves, 1);
+    EXPECT_TRUE(DrawnTexts(*list->picGrid).contains(" New"));
+    EXPECT_FALSE(list->ButtonView->isEnabled());
+    EXPECT_TRUE(list->isVisible());
+}
+
 TEST_F(ReminderTicks, WriteOnlyTheFileOfWhatHasFired) {
     AddTaskRecord({.reminder_list = "True"});
     AddDueEvent();

@@ -7,7 +7,6 @@
 #include "planner/entries/ReminderEntry.h"
 #include "planner/reminders/AdvanceEventReminder.h"
 #include "planner/reminders/ReminderItems.h"
-
 #include "planner/rows/ClassLink.h"
 #include "planner/rows/RowOrder.h"
 
@@ -103,7 +102,7 @@ void RemoveReminder(std::string_view mode, std::string_view id, ReminderFlags& f
     RemoveRecord(mode, ReminderPosition(mode, id), flags);
 }
 
-void RemoveAllReminders(ReminderListRows& rows, ReminderFlags& flags) {
+void RemoveAllReminders(const ReminderListRows& rows, ReminderFlags& flags) {
     const auto tasks = PositionsById(Store.TaskRecord);
     const auto homework = PositionsById(Store.Assignment);
     const auto events = PositionsById(Store.EventRecord);
@@ -113,6 +112,9 @@ void RemoveAllReminders(ReminderListRows& rows, ReminderFlags& flags) {
         const auto found = positions.find(rows.ReminderIds.Item(row));
         RemoveRecord(mode, found == positions.end() ? 0 : found->second, flags);
     }
+}
+
+void EmptyReminderRows(ReminderListRows& rows, ReminderFlags& flags) {
     rows = {};
     flags.ReminderSelectedRow = 0;
 }

@@ -14,8 +14,11 @@ void SnoozeReminder(std::string_view mode, std::string_view id, std::string_view
 // Takes the record of a row off the list; a series follows its next occurrence.
 void RemoveReminder(std::string_view mode, std::string_view id, ReminderFlags& flags);
 
-// The same for the records of all rows, and empties the lists.
-void RemoveAllReminders(ReminderListRows& rows, ReminderFlags& flags);
+// The same for the records of all rows; those that have gone are passed over.
+void RemoveAllReminders(const ReminderListRows& rows, ReminderFlags& flags);
+
+// Empties the lists, and selects none.
+void EmptyReminderRows(ReminderListRows& rows, ReminderFlags& flags);
 
 // Position of the record with that id among those of the mode; 0 when it has gone, and then the two above
 // change nothing.

@@ -141,6 +141,87 @@ TEST_F(ReminderButtons, ChangeNothingOfARecordThatHasGone) {
     EXPECT_EQ(Store.TaskRecord.reminder_list, before.TaskRecord.reminder_list);
 }
 
+TEST_F(ReminderButtons, RemovingAllTakesEachRowsRecordOffTheListAndLeavesTheRows) {
+    RemoveAllReminders(window.rows, window.flags);
+    EXPECT_EQ(Store.TaskRecord.reminder_list.values, (Texts{"False", "False"}));
+    EXPECT_EQ(Store.Assignment.reminderlist.values, Texts{"False"});
+    EXPECT_EQ(Store.EventRecord.reminder_list.values, (Texts{"False", "False"}));
+    EXPECT_EQ(Store.EventRecord.reminder_currentday.Item(2), "2009/10/15") << "a series follows";
+    EXPECT_EQ(Store.EventRecord.reminder_alarm.Item(2), "2009/10/15 08:30:00");
+    ExpectChanged(true, true, true);
+    EXPECT_EQ(window.rows.ReminderIds.Count(), 5);
+}
+
+TEST_F(ReminderButtons, RemovingAllPassesOverWhatDoesNotStandAndWhatHasGone) {
+    AddTaskRecord({.reminder_list = "True"}); // since the last scan
+    window.rows.ReminderIds.values = {"99"};
+    window.rows.ReminderModes.values = {"Homework"};
+    RemoveAllReminders(window.rows, window.flags);
+    ExpectChanged(false, false, false);
+    window.rows.ReminderIds.values = {"99", "2"};
+    window.rows.ReminderModes.values = {"Event", "Task"};
+    RemoveAllReminders(window.rows, window.flags);
+    ExpectChanged(true, false, false);
+    EXPECT_EQ(Store.TaskRecord.reminder_list.values, (Texts{"True", "False", "True"}));
+    EXPECT_EQ(Store.Assignment.reminderlist.values, Texts{"True"});
+}
+
+TEST_F(ReminderButtons, RemovingAllGoesByTheFirstOfTwoRecordsWithOneId) {
+    Store.TaskRecord.id.values = {"7", "7"};
+    window.rows = {};
+    window.QuietTick();
+    window.rows.ReminderIds.values = {"7"};
+    window.rows.ReminderModes.values = {"Task"};
+    RemoveAllReminders(window.rows, window.flags);
+    EXPECT_EQ(Store.TaskRecord.reminder_list.values, (Texts{"False", "True"}));
+}
+
+TEST_F(ReminderButtons, EmptyRowsHaveNoSelection) {
+    window.flags.ReminderSelectedRow = 3;
+    EmptyReminderRows(window.rows, window.flags);
+    EXPECT_EQ(window.flags.ReminderSelectedRow, 0);
+    ForEachList(window.rows, [](const auto& list) { EXPECT_EQ(list.Count(), 0); });
+}
+
+// --- Another term ------------------------------------------------------------------------------------------
+
+TEST_F(ReminderButtons, RowsOfATermAreThoseOfHomeworkAndOfMeetings) {
+    Store.EventRecord.type.Replace(1, "TermID1-ClassID1");
+    window.flags.ReminderSelectedRow = 5;
+    TakeOutTermRows(window.rows, window.flags);
+    EXPECT_EQ(window.Standing(), (Texts{"Task 1", "Task 2", "Event 2"}));
+    EXPECT_EQ(window.flags.ReminderSelectedRow, 3) << "the selection stays on its item";
+    ForEachList(window.rows, [](const auto& list) { EXPECT_EQ(list.Count(), 3); });
+}
+
+TEST_F(ReminderButtons, SelectionGoesWithTheRowsOfATerm) {
+    window.flags.ReminderSelectedRow = 3; // the homework
+    TakeOutTermRows(window.rows, window.flags);
+    EXPECT_EQ(window.Standing(), (Texts{"Task 1", "Task 2", "Event 1", "Event 2"}));
+    EXPECT_EQ(window.flags.ReminderSelectedRow, 0);
+    TakeOutTermRows(window.rows, window.flags);
+    EXPECT_EQ(window.Standing().size(), 4U) << "there are no more of them";
+}
+
+TEST_F(ReminderButtons, OfATermAloneLeaveNoRow) {
+    window.rows = {};
+    Store.TaskRecord = {};
+    Store.EventRecord.reminder_list.values = {"False", "False"};
+    Store.EventRecord.reminder.values = {"False", "False"};
+    window.QuietTick();
+    ASSERT_EQ(window.Standing(), Texts{"Homework 1"});
+    TakeOutTermRows(window.rows, window.flags);
+    EXPECT_EQ(window.Standing(), Texts{});
+    EXPECT_EQ(window.rows.ReminderWhens.Count(), 0);
+}
+
+TEST_F(ReminderButtons, ARowWhoseEventHasGoneStaysWhenTheTermIsLeft) {
+    Store.EventRecord.type.Replace(1, "TermID1-ClassID1");
+    RemoveRecord(Store.EventRecord, EventFields, 1);
+    TakeOutTermRows(window.rows, window.flags);
+    EXPECT_EQ(window.Standing(), (Texts{"Task 1", "Task 2", "Event 1", "Event 2"}));
+}
+
 TEST_F(ReminderButtons, FindTheRecordOfARowByItsId) {
     Store.TaskRecord.id.Replace(2, "41");
     EXPECT_EQ(ReminderPosition("Task", "41"), 2);

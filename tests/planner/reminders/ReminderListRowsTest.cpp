@@ -1,5 +1,6 @@
 // The order of the rows of the reminder window.
 #include "planner/reminders/ReminderListRows.h"
+#include "core/RunTimeError.h"
 #include "core/Values.h"
 
 #include <gtest/gtest.h>
@@ -82,6 +83,31 @@ TEST(ReminderListOrder, ByTimeComparesDaysWithMinutes) {
 TEST(ReminderListOrder, ByAnyOtherColumnStays) {
     EXPECT_EQ(Sorted(0, Ascending), (Texts{"1", "2", "3", "4", "5"}));
     EXPECT_EQ(Sorted(9, Descending), (Texts{"1", "2", "3", "4", "5"}));
+}
+
+TEST(ReminderItems, AreTheModeAndIdOfTheirRowAndNothingOfRowZero) {
+    const ReminderListRows rows = SampleRows();
+    EXPECT_EQ(ItemOfRow(rows, 2).mode, "Homework");
+    EXPECT_EQ(ItemOfRow(rows, 2).id, "2");
+    EXPECT_EQ(ItemOfRow(rows, 0).mode, "");
+    EXPECT_EQ(ItemOfRow(rows, 0).id, "");
+    EXPECT_THROW(ItemOfRow(rows, 6), RunTimeError);
+}
+
+TEST(ReminderItems, AreFoundByBothModeAndId) {
+    ReminderListRows rows = SampleRows();
+    rows.ReminderIds.values = {"1", "1", "1", "2", "3"};
+    EXPECT_EQ(RowOfItem(rows, {"Task", "1"}), 1);
+    EXPECT_EQ(RowOfItem(rows, {"Homework", "1"}), 2);
+    EXPECT_EQ(RowOfItem(rows, {"Event", "1"}), 3);
+    EXPECT_EQ(RowOfItem(rows, {"Task", "2"}), 4);
+    EXPECT_EQ(RowOfItem(rows, {"Event", "3"}), 5);
+    EXPECT_EQ(RowOfItem(rows, {"Homework", "2"}), 0);
+    EXPECT_EQ(RowOfItem(rows, {}), 0);
+    EXPECT_EQ(RowOfItem({}, {"Task", "1"}), 0);
+    for (int row = 1; row <= 5; ++row) {
+        EXPECT_EQ(RowOfItem(rows, ItemOfRow(rows, row)), row);
+    }
 }
 
 TEST(ReminderListOrder, OfFewerThanTwoRowsIsNoMatter) {
