@@ -19,6 +19,11 @@ class MainWindow:
         """A short mark of what the area shows: the same for the same picture."""
         return hashlib.sha256(self.desktop.colours(self.id, area)).hexdigest()
 
+    def is_bare(self, area):
+        """Whether the area shows nothing but one colour."""
+        colours = self.desktop.colours(self.id, area)
+        return colours == colours[:3] * (len(colours) // 3)
+
     def click(self, place):
         self.desktop.click_in(self.id, place)
 

@@ -20,6 +20,8 @@ class Main:
     CLOCK = (540, 554, 220, 18)
     NEW = (31, 254)  # of the buttons for new records the first
     CLASS_SCHEDULE = (106, 319)  # in Calendar mode
+    ALERT = (7, 341, 200, 21)  # the first one, in Events mode
+    ALERT_BUTTON = (100, 351)
     HALF_HOUR = (450, 300)  # one of those that the day's schedule shows first
 
 
@@ -72,6 +74,8 @@ class Task:
 
 class Event:
     DESCRIPTION = (262, 41)
+    TYPE = (460, 88)
+    STUDY_TIME = (310, 133)  # in the list that opens under that box
     DATE_BUTTON = (243, 88)
     DATE_16 = (175, 189)  # the 16th of October 2009 in the month that opens from that button
     CHANGE = (464, 244)

@@ -3,6 +3,15 @@
 from desktop import wait_until
 
 
+def record_file(kind, *records):
+    """The text of the file of the kind, as "term", with these records; each is a dictionary by its tags."""
+    def lines(record):
+        return "".join(f"  <{tag}>{value}</{tag}>\n" for tag, value in record.items())
+
+    return ('<?xml version="1.0" encoding="ISO-8859-1"?>\n' + f"<{kind}_data>\n" +
+            "".join(f"<{kind}>\n{lines(record)}</{kind}>\n" for record in records) + f"</{kind}_data>\n")
+
+
 def values(text, tag):
     """The values of a field in a record file, in order."""
     opening, closing = f"<{tag}>", f"</{tag}>"

@@ -1,20 +1,29 @@
-"""The way of a student with a lecture, once by keyboard and once by mouse: a weekly series entered, one occurrence moved
-to another day and one given up; then the planner shut down and started again, and everything as it was left."""
+"""The way of a student who has to study for a paper, once by keyboard and once by mouse: a weekly series of study
+entered, one occurrence moved to another day and one given up, while the alert of missing study goes and comes back;
+then the planner shut down and started again, and everything as it was left."""
 
 import unittest
 
 from desktop import DesktopTest, wait_until
 from main_window import MainWindow
 from places import Event, Main, MessageBox, Recurrence, small_day
-from records import wait_for_record
+from records import record_file, wait_for_record
 
 QUESTION = "Planovarium"
 NEW_EVENT = "Planovarium - New Event"
 EDIT_EVENT = "Planovarium - Edit Event"
 RECURRENCE = "Event Recurrence"
+ALERT = "Planovarium - Study Time Alert"
 
-DATE = "2009-10-14 10:00:00"  # a Wednesday
-LECTURE = "Lecture"
+DATE = "2009-10-14 08:00:00"  # a Wednesday
+STUDY = "Study for the paper"
+TERM = {"id": 1, "name": "Fall 2009", "start": "2009/09/01", "end": "2009/12/18"}
+CLASS = {"id": 1, "term": 1, "name": "History", "credits": 3, "forecolor": 0, "backcolor": 0xFFFFFF, "notes": ""}
+# Four half hours on Wednesdays and Thursdays before it is due are just enough.
+PAPER = {"id": 1, "class": 1, "date": "2009/10/26", "type": "Paper", "priority": "False", "est_time": "02 : 00",
+         "time_left": "02 : 00", "percent_complete": "0%", "desc": "Rome", "done": "False", "score": "", "total": "",
+         "grade": "", "reminder": "False", "reminderdate": "2009/10/26", "remindertime": "09:00 AM",
+         "reminderalarm": "2009/10/26 09:00:00", "reminderlist": "False", "notes": ""}
 THURSDAY_15, WEDNESDAY_21 = (2, 4), (3, 3)  # row and column in the small calendar
 
 
@@ -22,18 +31,31 @@ class EventPath(DesktopTest):
     """The way itself; how each step is done stands in the classes for the keyboard and the mouse."""
 
     def walk(self):
-        self.program = self.planner(date=DATE).start()
+        self.program = self.planner(date=DATE)
+        self.program.write_data("terms.xml", record_file("term", TERM))
+        self.program.write_data("classes.xml", record_file("class", CLASS))
+        self.program.write_data("assignments_1.xml", record_file("assignment", PAPER))
+        self.program.start()
         self.main = MainWindow(self.program)
         self.show_events()
+        alert = self.main.settled(Main.ALERT)
+        self.assertFalse(self.main.is_bare(Main.ALERT))
         self.enter_series()
-        self.wait_for_events(desc=[LECTURE], date=["2009/10/14"], recurrence=["Day"], repeat_daily=["FFTTFFF"],
-                             exceptions=[""], parent_id=[""])
+        self.wait_for_events(desc=[STUDY], type=["Study Time"], date=["2009/10/14"], recurrence=["Day"],
+                             repeat_daily=["FFTTFFF"], exceptions=[""], parent_id=[""])
+        wait_until(lambda: self.main.is_bare(Main.ALERT), "the alert is gone")
         self.move_thursday_to_friday()
-        self.wait_for_events(desc=[LECTURE] * 2, date=["2009/10/14", "2009/10/16"], recurrence=["Day", "None"],
+        self.wait_for_events(desc=[STUDY] * 2, date=["2009/10/14", "2009/10/16"], recurrence=["Day", "None"],
                              exceptions=["2009/10/15", ""], parent_id=["", "1"])
+        self.main.finish_input()
+        self.assertTrue(self.main.is_bare(Main.ALERT), "the study that was moved counts on")
         self.give_up_next_wednesday()
-        self.wait_for_events(desc=[LECTURE] * 2, exceptions=["2009/10/15 2009/10/21", ""])
+        self.wait_for_events(desc=[STUDY] * 2, exceptions=["2009/10/15 2009/10/21", ""])
+        self.main.wait_for_picture(Main.ALERT, alert, "the alert is back")
         self.shut_down_and_start_again()
+        self.main.wait_for_picture(Main.ALERT, alert, "the alert stands at the next start, too")
+        self.assertEqual(self.program.shut_down(), 0)
+        self.assertEqual(self.program.read_data("events.xml"), self.left)
 
     def wait_for_events(self, **fields):
         wait_for_record(self, "events.xml", **fields)
@@ -42,14 +64,12 @@ class EventPath(DesktopTest):
         self.show_events()
         shown = self.main.settled(Main.SMALL_CALENDAR)
         self.assertEqual(self.program.shut_down(), 0)
-        left = self.program.read_data("events.xml")
+        self.left = self.program.read_data("events.xml")
         self.program.start()
         self.main = MainWindow(self.program)
         self.show_events()
         self.go_to_next_wednesday()
         self.assertEqual(self.main.settled(Main.SMALL_CALENDAR), shown)
-        self.assertEqual(self.program.shut_down(), 0)
-        self.assertEqual(self.program.read_data("events.xml"), left)
 
     def opened(self, title):
         """The window of this title, once it is in front."""
@@ -80,7 +100,8 @@ class ByKeyboard(EventPath):
     def enter_series(self):
         self.keys("ctrl+e")  # at nine o'clock
         self.opened(NEW_EVENT)
-        self.desktop.type(LECTURE)
+        self.desktop.type(STUDY)
+        self.keys("alt+y", "Down")
         self.keys("alt+c")
         self.opened(RECURRENCE)
         self.keys("Down", "alt+h", "Return")  # Daily, and Thursday beside the weekday of the start
@@ -136,11 +157,23 @@ class ByMouse(EventPath):
         self.main.wait_for_mode("Events")
         self.main.finish_input()
 
+    def read_alert(self):
+        self.main.click(Main.ALERT_BUTTON)
+        self.opened(ALERT)
+        self.desktop.key("Escape")
+        self.closed(ALERT)
+        self.main.finish_input()
+
     def enter_series(self):
+        self.read_alert()
         self.main.click(Main.HALF_HOUR)
         dialog = self.opened(NEW_EVENT)
         self.click(dialog, Event.DESCRIPTION)
-        self.desktop.type(LECTURE)
+        self.desktop.type(STUDY)
+        self.click(dialog, Event.TYPE)
+        wait_until(self.desktop.popup_menu, "the types are offered")
+        self.click(dialog, Event.STUDY_TIME)
+        wait_until(lambda: not self.desktop.popup_menu(), "a type is chosen")
         self.click(dialog, Event.CHANGE)
         recurrence = self.opened(RECURRENCE)
         self.click(recurrence, Recurrence.DAILY)
