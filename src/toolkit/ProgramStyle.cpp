@@ -18,6 +18,7 @@ constexpr const char* ReadOnlyLook = "readOnlyLook";
 constexpr const char* NarrowList = "narrowList";
 constexpr qreal RingWidth = 2;
 constexpr qreal CornerRadius = 2.5;
+constexpr int LabelInset = 4; // pixels of a button that has its word beside its picture
 
 void DrawRing(QPainter* painter, const QRect& rect, const QColor& color, qreal width) {
     painter->save();
@@ -111,6 +112,14 @@ public:
             QStyleOptionComboBox shown = *combo;
             const QRect room = subControlRect(CC_ComboBox, &shown, SC_ComboBoxEditField, widget);
             shown.currentText = shown.fontMetrics.elidedText(shown.currentText, Qt::ElideRight, room.width());
+            QProxyStyle::drawControl(element, &shown, painter, widget);
+            return;
+        }
+        const auto* const tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+        if (element == CE_ToolButtonLabel && tool != nullptr &&
+            tool->toolButtonStyle == Qt::ToolButtonTextBesideIcon) {
+            QStyleOptionToolButton shown = *tool;
+            shown.rect.adjust(LabelInset, 0, 0, 0);
             QProxyStyle::drawControl(element, &shown, painter, widget);
             return;
         }

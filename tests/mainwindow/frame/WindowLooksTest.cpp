@@ -45,6 +45,19 @@ protected:
     }
 };
 
+// The columns of the button to the left of what stands on it.
+int RoomBesidePicture(const QImage& button) {
+    constexpr int Edge = 4;
+    for (int x = Edge; x < button.width(); ++x) {
+        for (int y = Edge; y < button.height() - Edge; ++y) {
+            if (std::abs(qGray(button.pixel(x, y)) - qGray(button.pixel(button.width() - Edge, y))) > 40) {
+                return x;
+            }
+        }
+    }
+    return button.width();
+}
+
 // The pixels of the screen within the rectangle, without so much of each edge.
 QRect OnScreen(const UnitRect& rect, int edge, double scale) {
     const auto pixel = [scale](int units) { return qRound(units * scale / UnitsPerPixel); };
@@ -108,6 +121,18 @@ TEST_F(WindowLooks, AButtonForNewRecordsThatStandsAloneSaysWhatItDoes) {
     QCoreApplication::processEvents();
     EXPECT_EQ(window->ButtonNewEventSmall->x() - window->ButtonNewAssignmentSmall->x(), 50);
     EXPECT_EQ(window->ButtonNewTaskSmall->x() - window->ButtonNewAssignmentSmall->x(), 100);
+}
+
+TEST_F(WindowLooks, AButtonForNewRecordsThatStandsAloneLeavesRoomBesideItsPicture) {
+    const std::array<std::pair<QToolButton*, void (*)(frmMain&)>, 3> alone{
+        {{window->ButtonNewAssignmentSmall, &ShowHomeworkMode},
+         {window->ButtonNewEventSmall, &ShowEventMode},
+         {window->ButtonNewTaskSmall, &ShowTaskMode}}};
+    for (const auto& [button, enter] : alone) {
+        enter(*window);
+        QCoreApplication::processEvents();
+        EXPECT_GE(RoomBesidePicture(button->grab().toImage()), 8) << button->objectName().toStdString();
+    }
 }
 
 TEST_F(WindowLooks, EachIconButtonAndStepperHasATipWithItsKey) {
