@@ -4,10 +4,15 @@
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/EventFlow.h"
+#include "mainwindow/flows/ReadDialogs.h"
+#include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
+#include "mainwindow/flows/options/ColorsFlow.h"
 #include "mainwindow/modes/Modes.h"
 #include "persistence/modIO.h"
+#include "reminders/frmReminders.h"
 #include "support/CutDrive.h"
 
 #include <QApplication>
@@ -71,13 +76,23 @@ protected:
     void OpenAllDialogs() {
         NewTask(*window);
         NewAssignment(*window);
+        NewEvent(*window);
         if (const int last = WholeRecords(Store.TaskRecord); last > 0) {
             EditTask(*window, last);
         }
         if (const int last = WholeRecords(Store.Assignment); last > 0) {
             EditAssignment(*window, last);
         }
+        if (const int last = WholeRecords(Store.EventRecord); last > 0) {
+            Script.answers = {Answer::Yes}; // to the series
+            EditEvent(*window, last);
+        }
+        Script.answers.clear();
         ClassSchedule(*window);
+        ShowColors(*window);
+        ShowGPA(*window);
+        ShowReminders(*window);
+        ReminderListWindow->hide();
     }
 };
 

@@ -1,14 +1,16 @@
-// A student who does anything at all in the dialogs of assignments, tasks and terms. Whatever that is, what
-// the program holds and what stands on the drive stay the same, and no record loses a field.
+// A student who does anything at all in the dialogs of assignments, tasks, events and terms. Whatever that
+// is, what the program holds and what stands on the drive stay the same, and no record loses a field.
 #include "editors/EditorTest.h"
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "persistence/modIO.h"
 
 #include <QApplication>
+#include <QRadioButton>
 #include <QWhatsThis>
 
 #include <algorithm>
@@ -17,7 +19,7 @@
 namespace {
 
 constexpr unsigned Seed = 20091014;
-constexpr int Steps = 6000;
+constexpr int Steps = 9000;
 
 // What a box says, before and behind the student's own words.
 struct ToldBox {
@@ -39,6 +41,27 @@ constexpr std::array ToldBoxes{
     ToldBox{Buttons::YesNo, "Cancel this Task?", {}, Preset::No},
     ToldBox{Buttons::YesNo, "Cancel all changes to this Task?", {}, Preset::No},
     ToldBox{Buttons::YesNo, "Are you sure you want to Delete this Task?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Cancel this Event?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Cancel all changes to this Event?", {}, Preset::No},
+    ToldBox{Buttons::YesNo, "Are you sure you want to Delete this Event?", {}, Preset::No},
+    ToldBox{Buttons::YesNoCancel,
+            "This is a recurring event.\r\n\r\nClick 'Yes' to edit the series. Click 'No' to "
+            "edit this specific event."},
+    ToldBox{Buttons::YesNoCancel,
+            "There are exceptions to this recurring event. If you make changes to the days on "
+            "which this event recurs, the exceptions will be lost.\r\n\r\nClick 'Yes' to "
+            "continue."},
+    ToldBox{Buttons::Ok,
+            "This event is an exception in a series of recurring events. It cannot be changed to a "
+            "new recurring event."},
+    ToldBox{Buttons::Ok,
+            "This event is no longer recurring. Click the Change button to set recurrences for the new "
+            "date."},
+    ToldBox{Buttons::Ok,
+            "Note: Events are limited to one day. Events that go beyond midnight do not appear in the "
+            "next day's schedule."},
+    ToldBox{Buttons::Ok, "The End Date is before the Event Date."},
+    ToldBox{Buttons::YesNo, "Cancel all changes?", {}, Preset::No},
     ToldBox{Buttons::YesNo, "You have changed the name of this class. If you have created assignments for '",
             "'.\r\n\r\nClick 'Yes' to rename this class."},
     ToldBox{Buttons::YesNo, "Delete this class?", {}, Preset::No},
@@ -60,28 +83,14 @@ constexpr std::array ToldBoxes{
 };
 
 const QStringList Texts{
-    "",
-    "x",
-    "Chapter 7 < 8 & \"more\"",
-    "100",
-    "100%",
-    "40",
-    "-5",
-    "85",
-    "1:5",
-    "100:75",
-    "12:30 PM",
-    "soon",
-    "Latin",
-    "algebra",
-    " History ",
-    "Fall 2009",
-    "Spring",
-    "Summer ",
-    "A long word",
-    "3.5",
-    "  ",
-    "0",
+    "",        "x",         "Chapter 7 < 8 & \"more\"",
+    "100",     "100%",      "40",
+    "-5",      "85",        "1:5",
+    "100:75",  "12:30 PM",  "11:45 PM",
+    "2 hours", "soon",      "Latin",
+    "algebra", " History ", "Fall 2009",
+    "Spring",  "Summer ",   "A long word",
+    "3.5",     "  ",        "0",
 };
 
 // Within what the files can hold, and outside of it.
@@ -104,12 +113,14 @@ protected:
     void SetUp() override {
         EditorTest::SetUp();
         NextTermID = 2;
+        window->EventClickedStartTime = "11:30 PM";
         WriteTermsAndClasses();
-        QObject::connect(&hand, &QTimer::timeout, &hand, [this] { TakeStep(); });
-        hand.start(0);
+        AwaitNextStep();
     }
 
     int Roll(int sides) { return static_cast<int>(dice() % static_cast<unsigned>(sides)); }
+
+    Date AnyDay() { return window->ClickedDate + std::chrono::days{Roll(30)}; }
 
     // One of the dialog's controls of a kind that the student can reach; null where there is none.
     template <class Control>
@@ -124,6 +135,7 @@ protected:
     }
 
     void StartFlow();
+    void AwaitNextStep();
     void TakeStep();
     void Act(QDialog& dialog);
     void TypeText(QDialog& dialog);
@@ -131,16 +143,18 @@ protected:
     void TypeNotes(QDialog& dialog);
     void ChooseRow(QDialog& dialog);
     void PickDate(QDialog& dialog);
+    void TickBox(QDialog& dialog);
     void PressKey();
     void PressButton(QDialog& dialog);
     void WorkOnTerm();
 
     void ExpectInStep(const RecordFile& file) const;
     void ExpectAllInStep() const;
+    void ExpectChildrenHaveTheirSeries() const;
     void ExpectOnlyToldBoxes();
 
     std::mt19937 dice{Seed};
-    QTimer hand; // acts whenever a dialog is open
+    QObject hand; // acts whenever a dialog is open
     int steps = 0;
     std::array<int, ToldBoxes.size()> timesTold{};
 };
@@ -156,7 +170,8 @@ void RandomWalk::StartFlow() {
     QApplication::processEvents();
     const int assignments = Store.Assignment.id.Count();
     const int tasks = Store.TaskRecord.id.Count();
-    switch (Roll(8)) {
+    const int events = Store.EventRecord.id.Count();
+    switch (Roll(12)) {
     case 0:
     case 1:
         return NewAssignment(*window);
@@ -167,12 +182,24 @@ void RandomWalk::StartFlow() {
         return NewTask(*window);
     case 5:
         return tasks > 0 ? EditTask(*window, Roll(tasks) + 1) : NewTask(*window);
+    case 6:
+        return NewEvent(*window);
+    case 7:
+    case 8:
+    case 9:
+        return events > 0 ? EditEvent(*window, Roll(events) + 1, AnyDay()) : NewEvent(*window);
     default:
         return ClassSchedule(*window);
     }
 }
 
+// A timer that fires again and again would wait for the dialog that its own step has opened.
+void RandomWalk::AwaitNextStep() {
+    QTimer::singleShot(0, &hand, [this] { TakeStep(); });
+}
+
 void RandomWalk::TakeStep() {
+    AwaitNextStep();
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) {
         return;
@@ -202,6 +229,9 @@ void RandomWalk::Act(QDialog& dialog) {
     if (&dialog == TermDialog && Roll(4) == 0) {
         return WorkOnTerm();
     }
+    if (&dialog == RecurrenceDialog && Roll(2) == 0) {
+        return TickBox(dialog);
+    }
     switch (Roll(12)) {
     case 0:
     case 1:
@@ -214,10 +244,7 @@ void RandomWalk::Act(QDialog& dialog) {
     case 5:
         return ChooseRow(dialog);
     case 6:
-        if (auto* box = AnyOf<QCheckBox>(dialog)) {
-            Click(box);
-        }
-        return;
+        return TickBox(dialog);
     case 7:
         return PickDate(dialog);
     case 8:
@@ -298,6 +325,15 @@ void RandomWalk::PickDate(QDialog& dialog) {
     }
 }
 
+// Or chooses one of several.
+void RandomWalk::TickBox(QDialog& dialog) {
+    if (auto* radio = AnyOf<QRadioButton>(dialog); radio != nullptr && Roll(2) == 0) {
+        Click(radio);
+    } else if (auto* box = AnyOf<QCheckBox>(dialog)) {
+        Click(box);
+    }
+}
+
 void RandomWalk::PressKey() {
     constexpr std::array keys{Qt::Key_Tab,    Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space,
                               Qt::Key_Delete, Qt::Key_Up,     Qt::Key_Down};
@@ -352,7 +388,15 @@ void RandomWalk::ExpectAllInStep() const {
         EXPECT_NE(std::ranges::find(ActiveClasses.id, id), ActiveClasses.id.end())
             << id << " after " << steps;
     }
+    ExpectChildrenHaveTheirSeries();
     EXPECT_TRUE(Script.fatalErrors.empty());
+}
+
+void RandomWalk::ExpectChildrenHaveTheirSeries() const {
+    for (const std::string& parent : Store.EventRecord.parent_id) {
+        EXPECT_TRUE(parent.empty() || std::ranges::count(Store.EventRecord.id, parent) == 1)
+            << parent << " after " << steps;
+    }
 }
 
 void RandomWalk::ExpectOnlyToldBoxes() {
