@@ -152,8 +152,8 @@ void frmEvent::FillEdit() {
 void frmEvent::ShowType() {
     const std::string shown = ShownEventType(tempEventType);
     const auto link = ClassLinkIn(tempEventType);
-    const bool isRow = !link || link->term == ActiveTermID;
-    ShowComboText(ComboType, isRow ? shown : std::string());
+    const bool isRow = !shown.empty() && (!link || link->term == ActiveTermID);
+    ComboType->setCurrentIndex(isRow ? ComboType->findText(FromStore(shown)) : -1);
     ComboType->setPlaceholderText(FromStore(isRow ? std::string() : shown));
 }
 

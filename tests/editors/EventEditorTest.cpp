@@ -135,6 +135,38 @@ TEST_F(EventEditor, EditShowsTheFields) {
     EXPECT_FALSE(dialog->ChangeFlag || dialog->CancelledFlag || dialog->DeleteFlag || dialog->CloseOK);
 }
 
+TEST_F(EventEditor, OpeningWritesTheHeadsOfThePickerAndHidesIt) {
+    for (const auto& [day, head] : {std::pair{"Monday", "M"}, {"Sunday", "S"}}) {
+        window->StartDayOfWeek = day;
+        OpenNew();
+        EXPECT_EQ(dialog->Picker->LabelCalDay[0]->text(), head);
+        EXPECT_FALSE(dialog->Picker->isVisible());
+        Click(dialog->picButtonEventStartDate);
+        EXPECT_TRUE(dialog->Picker->isVisible());
+        FireTimer(dialog->Picker->TimerCalendar);
+    }
+    OpenEdit({});
+    EXPECT_FALSE(dialog->Picker->isVisible());
+}
+
+TEST_F(EventEditor, EachOpeningBeginsInTheDescription) {
+    OpenNew();
+    GoTo(dialog->TextBoxNotes);
+    OpenEdit({});
+    EXPECT_EQ(dialog->focusWidget(), dialog->TextBoxEvent);
+    GoTo(dialog->ComboType);
+    OpenNew();
+    EXPECT_EQ(dialog->focusWidget(), dialog->TextBoxEvent);
+}
+
+TEST_F(EventEditor, EditBehindANewEventCanBeDeletedAgain) {
+    OpenNew();
+    OpenEdit({});
+    EXPECT_TRUE(dialog->ButtonDelete->isEnabled());
+    OpenNew();
+    EXPECT_FALSE(dialog->ButtonDelete->isEnabled());
+}
+
 TEST_F(EventEditor, NewEventKeepsNothingOfTheSeriesEditedBefore) {
     EventTexts series = Weekly();
     series.type = "Study Time";
@@ -308,6 +340,14 @@ TEST_F(EventEditor, TypeThatHasGoneShowsNothingAndStays) {
     }
 }
 
+TEST_F(EventEditor, TypeThatHasGoneIsNotTakenForAClassWithoutAName) {
+    AddClassRecord({.id = "9", .name = ""});
+    SetActiveTerm(*window, "Fall 2009");
+    OpenEdit({.type = "Gone"});
+    Click(dialog->ButtonOK);
+    EXPECT_EQ(dialog->tempEventType, "Gone");
+}
+
 TEST_F(EventEditor, ClassOfAnotherTermIsShownAndStaysLinkedUntouched) {
     AddClassRecord({.id = "12", .term = "8", .name = "Latin"});
     AddClassRecord({.id = "13", .term = "8", .name = "Algebra"});
@@ -372,7 +412,7 @@ TEST_F(EventEditor, LengthIsRewrittenOnLeavingAndOnEnter) {
 }
 
 TEST_F(EventEditor, LeadTimeTakesDaysAndNoNoteOfTheDayLimit) {
-    OpenEdit({.time = "11:00 PM", .duration = "30 Minutes", .reminder = "True"});
+    OpenEdit({.time = "11:00 PM", .duration = "2 Hours", .reminder = "True"});
     TypeAndLeave(dialog->ComboReminderTime, "5 d");
     EXPECT_EQ(dialog->ComboReminderTime->currentText(), "5 Days");
     EXPECT_TRUE(dialog->ChangeFlag);
@@ -492,9 +532,14 @@ TEST_F(EventEditor, EntriesSetTheChangeFlag) {
         enter();
         EXPECT_TRUE(dialog->ChangeFlag);
     }
-    OpenEdit({.reminder = "True"});
-    Choose(dialog->ComboReminderTime, 4);
-    EXPECT_TRUE(dialog->ChangeFlag);
+    for (QComboBox* combo :
+         {dialog->ComboType, dialog->ComboStartTime, dialog->ComboDuration, dialog->ComboReminderTime}) {
+        OpenEdit({.reminder = "True"});
+        GoTo(combo);
+        EXPECT_FALSE(dialog->ChangeFlag);
+        QTest::keyClick(combo, Qt::Key_Down);
+        EXPECT_TRUE(dialog->ChangeFlag) << combo->objectName().toStdString();
+    }
 }
 
 // --- Reminder ----------------------------------------------------------------------------------------------

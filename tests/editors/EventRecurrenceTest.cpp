@@ -182,6 +182,17 @@ TEST_F(EventRecurrence, DialogOpensBesideTheEditorOnceAndThenWhereItWasLeft) {
     });
 }
 
+TEST_F(EventRecurrence, PickerOfTheEndDateBeginsTheWeekAsTheCalendarDoes) {
+    for (const auto& [day, head] : {std::pair{"Monday", "M"}, {"Saturday", "S"}, {"Monday", "M"}}) {
+        window->StartDayOfWeek = day;
+        OpenNew();
+        InRecurrence([&] {
+            EXPECT_EQ(recurrence->Picker->LabelCalDay[0]->text(), head);
+            Click(recurrence->ButtonCancel);
+        });
+    }
+}
+
 TEST_F(EventRecurrence, ShutdownOverBothDialogsCountsAsCancelled) {
     OpenWithExceptions();
     Script.answers = {Answer::Yes};
@@ -249,6 +260,17 @@ TEST_F(EventRecurrence, MovedDateEndsTheSeriesAndSaysSoOnceThePickerHasClosed) {
     EXPECT_EQ(Script.boxes, std::vector{WillLose()});
     PickDate("2009/10/30");
     EXPECT_EQ(Script.boxes.size(), 1U) << "it is no series any more";
+}
+
+TEST_F(EventRecurrence, EndOfTheSeriesIsToldOnceAndNotAsThePickerClosesAgain) {
+    OpenEdit(Weekly(), SeriesDateCaption);
+    PickDate("2009/10/23");
+    EXPECT_EQ(Script.boxes.size(), 1U);
+    FireTimer(dialog->Picker->TimerCalendar);
+    Click(dialog->picButtonEventStartDate);
+    QTest::keyClick(dialog->Picker, Qt::Key_Escape);
+    EXPECT_FALSE(dialog->Picker->isVisible());
+    EXPECT_EQ(Script.boxes.size(), 1U);
 }
 
 TEST_F(EventRecurrence, TodayAndTomorrowMoveTheDateToo) {

@@ -150,6 +150,17 @@ TEST_F(RecurrenceDialogs, SecondOpeningForgetsWhatWasTouched) {
     EXPECT_TRUE(recurrence->RadioRepeatMonthly->isChecked()) << "the state of this opening is put back";
 }
 
+TEST_F(RecurrenceDialogs, EachOpeningBeginsAtTheKindThatIsChosen) {
+    OpenFor(On("2009/10/20"));
+    Click(recurrence->ButtonCancel);
+    OpenFor(Weekly());
+    EXPECT_EQ(recurrence->focusWidget(), recurrence->RadioRepeatDaily);
+    GoTo(recurrence->ButtonOK);
+    Click(recurrence->ButtonOK);
+    Reopen();
+    EXPECT_EQ(recurrence->focusWidget(), recurrence->RadioRepeatDaily);
+}
+
 // --- Clicks ------------------------------------------------------------------------------------------------
 
 TEST_F(RecurrenceDialogs, KindShowsItsPanelAndMakesItsControlsAvailable) {

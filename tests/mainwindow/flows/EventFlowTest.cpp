@@ -199,6 +199,25 @@ TEST_F(EventFlow, NewEventBehindAnOccurrenceBelongsToNoSeries) {
     EXPECT_EQ(Events.recurrence.Item(2), "None");
 }
 
+TEST_F(EventFlow, NewEventBehindASeriesHasGivenUpNothing) {
+    EventTexts series = Weekly();
+    series.exceptions = "2009/10/26";
+    AddEventRecord(series);
+    EditSeries(1, Cancel);
+    Script.boxes.clear();
+    New([this] {
+        InRecurrence([this] {
+            Click(recurrence->RadioRepeatMonthly);
+            Click(recurrence->ButtonOK);
+        });
+        Ok();
+    });
+    EXPECT_TRUE(Script.boxes.empty());
+    EXPECT_EQ(Events.recurrence.Item(2), "Month");
+    EXPECT_EQ(Events.exceptions.Item(2), "");
+    ExpectStoreIsOnDisk();
+}
+
 TEST_F(EventFlow, MorningEventStandsAtNine) {
     WhenDialogOpens([this](QWidget*) {
         EXPECT_EQ(dialog->ComboStartTime->currentText(), "9:00 AM");
@@ -324,6 +343,24 @@ TEST_F(EventFlow, UntouchedEditKeepsTheRecordButForTheRankOfItsDate) {
     EXPECT_EQ(Events.repeat_number.Item(1), "Third");
     EXPECT_EQ(Events.repeat_day.Item(1), "Monday");
     ExpectStoreIsOnDisk();
+}
+
+TEST_F(EventFlow, WholeSeriesBehindAnOccurrenceIsReplacedInPlace) {
+    AddEventRecord(Weekly());
+    AddEventRecord({.desc = "Concert"});
+    for (const int position : {1, 2}) {
+        EditOccurrence(1, Cancel);
+        Script.answers = {Answer::Yes};
+        Edit(position, [this] {
+            EXPECT_TRUE(dialog->EditEventSeries);
+            Type(dialog->TextBoxEvent, "Changed");
+            Ok();
+        });
+        Script.answers.clear();
+        EXPECT_EQ(Events.desc.Item(position), "Changed");
+        EXPECT_EQ(Events.id.Count(), 2);
+        EXPECT_EQ(Events.exceptions.Item(position), "");
+    }
 }
 
 TEST_F(EventFlow, OccurrenceThatIsMovedLivesOnAndItsDateIsGivenUp) {
@@ -554,6 +591,25 @@ TEST_F(EventFlow, EventBehindOneThatWasCutDoesNotMergeWithIt) {
         Ok();
     });
     EXPECT_EQ(Events.desc.values, (std::vector<std::string>{"changed", "three"}));
+    EXPECT_EQ(ReadData("Backup/events_damaged.xml"), cut);
+    ExpectStoreIsOnDisk();
+}
+
+TEST_F(EventFlow, EditBesideAnEventThatWasCutDropsIt) {
+    AddEventRecord({.desc = "one"});
+    AddEventRecord({.desc = "two"});
+    WriteEvents();
+    const std::string cut = ReadData("events.xml").substr(0, ReadData("events.xml").rfind("</desc>"));
+    WriteData("events.xml", cut);
+    Events = {};
+    ReadEvents();
+    Edit(1, [this] {
+        Type(dialog->TextBoxEvent, "changed");
+        Ok();
+    });
+    for (const Field<EventLists>& field : EventFields) {
+        EXPECT_EQ((Events.*field.list).Count(), 1) << field.tag;
+    }
     EXPECT_EQ(ReadData("Backup/events_damaged.xml"), cut);
     ExpectStoreIsOnDisk();
 }
