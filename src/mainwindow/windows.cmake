@@ -25,8 +25,10 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/flows/TaskFlow.cpp
   mainwindow/flows/TermFlow.cpp
   mainwindow/flows/help/TipFlow.cpp
+  mainwindow/flows/options/AutoStartFlow.cpp
   mainwindow/flows/options/ColorsFlow.cpp
   mainwindow/flows/paper/PrintFlow.cpp
+  mainwindow/flows/timer/TimerFlow.cpp
   mainwindow/flows/ViewFlow.cpp
   mainwindow/flows/WindowFlow.cpp
   mainwindow/frame/BringForward.cpp

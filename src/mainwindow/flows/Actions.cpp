@@ -6,6 +6,8 @@
 #include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/RunCommand.h"
 #include "mainwindow/flows/ViewFlow.h"
+#include "mainwindow/flows/options/AutoStartFlow.h"
+#include "mainwindow/flows/timer/TimerFlow.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/input/GridKeys.h"
 #include "mainwindow/menus/PopupMenus.h"
@@ -90,6 +92,14 @@ void Act(frmMain& window, const ViewAction& action) {
         return window.RefreshFor(ReasonViewChange);
     case ViewActionKind::ChooseStartDay:
         return ChooseStartDayOfWeek(window, action.words);
+    case ViewActionKind::ChooseAutoStart:
+        return ChooseAutoStart(window, action.words);
+    case ViewActionKind::StartOrPauseTimer:
+        return StartOrPauseStudyTimer(window);
+    case ViewActionKind::ResetTimer:
+        return ResetStudyTimer(window);
+    case ViewActionKind::TurnTimerSeconds:
+        return TurnTimerSeconds(window);
     case ViewActionKind::ExplainAlert:
         return ShowAlertMessage(window, action.index);
     case ViewActionKind::GoToDate:

@@ -5,6 +5,7 @@
 #include "export/CalendarPages.h"
 #include "export/ListPages.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "platform/FileDialogs.h"
 #include "platform/Process.h"
 
@@ -46,42 +47,6 @@ void ExportCalendar(frmMain& window, CalendarPage page) {
                [&](std::string_view text, const AddLine& add) { AddCalendarPage(page, month, text, add); });
 }
 
-std::optional<ListPage> ListPageOf(Mode mode) {
-    switch (mode) {
-    case Mode::Homework:
-        return ListPage::Homework;
-    case Mode::StudySessions:
-        return ListPage::StudySessions;
-    case Mode::Tasks:
-        return ListPage::Tasks;
-    case Mode::Events:
-        return ListPage::Events;
-    case Mode::Reminders:
-        return ListPage::Reminders;
-    case Mode::Calendar:
-    case Mode::None:
-        break;
-    }
-    return std::nullopt;
-}
-
-std::optional<CalendarPage> CalendarPageOf(Mode mode) {
-    switch (mode) {
-    case Mode::Tasks:
-        return CalendarPage::Tasks;
-    case Mode::Events:
-        return CalendarPage::Events;
-    case Mode::Homework:
-    case Mode::StudySessions:
-    case Mode::Reminders:
-        return CalendarPage::Homework;
-    case Mode::Calendar:
-    case Mode::None:
-        break;
-    }
-    return std::nullopt;
-}
-
 } // namespace
 
 void ExportHomeworkList(frmMain& window) {
@@ -117,16 +82,18 @@ void ExportEventCalendar(frmMain& window) {
 }
 
 void ExportListOfMode(frmMain& window) {
-    if (const std::optional<ListPage> page = ListPageOf(window.CurrentMode())) {
-        ExportList(window, *page);
+    const Mode mode = window.CurrentMode();
+    if (mode != Mode::None && RowOf(ExportRows, mode).list) {
+        ExportList(window, *RowOf(ExportRows, mode).list);
     } else {
         window.RefreshFor(ReasonNewRecord);
     }
 }
 
 void ExportCalendarOfMode(frmMain& window) {
-    if (const std::optional<CalendarPage> page = CalendarPageOf(window.CurrentMode())) {
-        ExportCalendar(window, *page);
+    const Mode mode = window.CurrentMode();
+    if (mode != Mode::None && RowOf(ExportRows, mode).calendar) {
+        ExportCalendar(window, *RowOf(ExportRows, mode).calendar);
     } else {
         window.RefreshFor(ReasonNewRecord);
     }

@@ -17,6 +17,7 @@
 #include "mainwindow/flows/options/ColorsFlow.h"
 #include "mainwindow/flows/paper/PrintFlow.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/CommandTable.h"
 #include "mainwindow/modes/Modes.h"
 
 #include <algorithm>
@@ -28,43 +29,50 @@ void Shutdown(frmMain& window) {
     emit window.EndAsked();
 }
 
-struct CommandRow {
+struct RunRow {
     Command command;
-    std::string_view words; // of its popup items; empty without
     void (*run)(frmMain& window);
 };
 
-constexpr auto CommandRows = std::to_array<CommandRow>({
-    {Command::NewAssignment, "homework new", &NewAssignment},
-    {Command::NewTask, "task new", &NewTask},
-    {Command::NewEvent, "event new", &NewMorningEvent},
-    {Command::ClassSchedule, "", &ClassSchedule},
-    {Command::ShowColors, "homework custom", &ShowColors},
-    {Command::ShowColors, "task custom", &ShowColors},
-    {Command::ShowColors, "event custom", &ShowColors},
-    {Command::PrintScreen, "", &PrintScreen},
-    {Command::SeeHomework, "homework view", &ShowHomeworkMode},
-    {Command::SeeCalendar, "calendar view", &ShowCalendarMode},
-    {Command::SeeTasks, "task view", &ShowTaskMode},
-    {Command::SeeEvents, "event view", &ShowEventMode},
-    {Command::ExportHomeworkCalendar, "", &ExportHomeworkCalendar},
-    {Command::ExportEventCalendar, "", &ExportEventCalendar},
-    {Command::ExportTaskCalendar, "", &ExportTaskCalendar},
-    {Command::ExportHomeworkList, "", &ExportHomeworkList},
-    {Command::ExportTaskList, "", &ExportTaskList},
-    {Command::ExportCalendarOfMode, "", &ExportCalendarOfMode},
-    {Command::ExportListOfMode, "", &ExportListOfMode},
-    {Command::OpenHelp, "", &OpenHelp},
-    {Command::OpenHomeworkHelp, "", &OpenHomeworkHelp},
-    {Command::ShowTips, "", &ShowTips},
-    {Command::ShowAbout, "", &ShowAbout},
-    {Command::ShowGPA, "homework GPA", &ShowGPA},
-    {Command::ShowReminders, "tray reminders", &ShowReminders},
-    {Command::OpenDataFolder, "", &OpenDataFolder},
-    {Command::OpenWindow, "tray view", &OpenWindow},
-    {Command::HideWindows, "", &HideWindows},
-    {Command::Shutdown, "tray shutdown", &Shutdown},
-});
+// What runs each command, in the order of Command.
+constexpr std::array<RunRow, CommandCount> RunRows{{
+    {Command::NewAssignment, &NewAssignment},
+    {Command::NewTask, &NewTask},
+    {Command::NewEvent, &NewMorningEvent},
+    {Command::ClassSchedule, &ClassSchedule},
+    {Command::ShowColors, &ShowColors},
+    {Command::PrintScreen, &PrintScreen},
+    {Command::SeeHomework, &ShowHomeworkMode},
+    {Command::SeeCalendar, &ShowCalendarMode},
+    {Command::SeeTasks, &ShowTaskMode},
+    {Command::SeeEvents, &ShowEventMode},
+    {Command::ExportHomeworkCalendar, &ExportHomeworkCalendar},
+    {Command::ExportEventCalendar, &ExportEventCalendar},
+    {Command::ExportTaskCalendar, &ExportTaskCalendar},
+    {Command::ExportHomeworkList, &ExportHomeworkList},
+    {Command::ExportTaskList, &ExportTaskList},
+    {Command::ExportCalendarOfMode, &ExportCalendarOfMode},
+    {Command::ExportListOfMode, &ExportListOfMode},
+    {Command::OpenHelp, &OpenHelp},
+    {Command::OpenHomeworkHelp, &OpenHomeworkHelp},
+    {Command::ShowTips, &ShowTips},
+    {Command::ShowAbout, &ShowAbout},
+    {Command::ShowGPA, &ShowGPA},
+    {Command::ShowReminders, &ShowReminders},
+    {Command::OpenDataFolder, &OpenDataFolder},
+    {Command::OpenWindow, &OpenWindow},
+    {Command::HideWindows, &HideWindows},
+    {Command::Shutdown, &Shutdown},
+}};
+
+static_assert([] {
+    for (std::size_t i = 0; i < RunRows.size(); ++i) {
+        if (RunRows[i].command != static_cast<Command>(i + 1)) {
+            return false;
+        }
+    }
+    return true;
+}());
 
 void EditRowOf(frmMain& window, std::string_view subject, int row) {
     if (subject == "homework") {
@@ -79,16 +87,14 @@ void EditRowOf(frmMain& window, std::string_view subject, int row) {
 } // namespace
 
 void RunCommand(frmMain& window, Command command) {
-    const auto* const row = std::ranges::find(CommandRows, command, &CommandRow::command);
-    if (row != CommandRows.end()) {
-        row->run(window);
+    if (command != Command::None) {
+        RunRows[static_cast<std::size_t>(command) - 1].run(window);
     }
 }
 
 void RunPopupItem(frmMain& window, const std::string& words) {
-    const auto* const known = std::ranges::find(CommandRows, words, &CommandRow::words);
-    if (!words.empty() && known != CommandRows.end()) {
-        return known->run(window);
+    if (const CommandRow* const known = RowOfWords(words)) {
+        return RunCommand(window, known->command);
     }
     const std::size_t blank = std::min(words.find(' '), words.size());
     if (const auto row = IdIn(words.substr(blank))) {

@@ -8,6 +8,7 @@
 #include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "mainwindow/panels/CalendarSteps.h"
 #include "planner/reminders/ReminderItems.h"
 #include "toolkit/grid/ListInput.h"
@@ -40,15 +41,14 @@ void EditReminder(frmMain& window, int row) {
 }
 
 void EditRecordOf(frmMain& window, int row) {
-    switch (window.CurrentMode()) {
-    case Mode::Homework:
-    case Mode::StudySessions:
+    switch (ViewOf(window.CurrentMode()).record) {
+    case RowRecord::Assignment:
         return EditAssignment(window, HomeworkRows.Item(row));
-    case Mode::Tasks:
+    case RowRecord::Task:
         return EditTask(window, TaskRows.Item(row));
-    case Mode::Reminders:
+    case RowRecord::OfReminder:
         return EditReminder(window, row);
-    default:
+    case RowRecord::None:
         return;
     }
 }

@@ -6,7 +6,6 @@
 #include "mainwindow/input/GridKeys.h"
 #include "mainwindow/input/GridPointer.h"
 #include "mainwindow/input/GridTable.h"
-#include "mainwindow/list/ListColumns.h"
 #include "mainwindow/modes/ModeTables.h"
 #include "toolkit/grid/ListInput.h"
 #include "toolkit/grid/SurfaceEvents.h"
@@ -49,16 +48,16 @@ ViewAction ClickOnDay(const frmMain& window, int x, int y, bool right) {
 
 // What is asked of the list in this mode; gives whether it means anything there.
 bool AskOfList(frmMain& window, const ListAction& action) {
-    if (!ListOf(window.CurrentMode())) {
+    const ViewRow mode = ViewOf(window.CurrentMode());
+    if (mode.view != GridView::List) {
         return false;
     }
-    const ModeRow& mode = RowOf(ModeRows, window.CurrentMode());
     switch (action.ask) {
     case ListAsk::Menu:
-        if (mode.listMenu != ListMenu::None) {
+        if (mode.menu != ListMenu::None) {
             emit window.Asked({.kind = ViewActionKind::OpenListMenu, .point = InPixels(action.x, action.y)});
         }
-        return mode.listMenu != ListMenu::None;
+        return mode.menu != ListMenu::None;
     case ListAsk::Click:
     case ListAsk::Enter:
         emit window.Asked(action.row > 0
@@ -74,37 +73,30 @@ bool AskOfList(frmMain& window, const ListAction& action) {
     return false;
 }
 
-// What the release asks for in the month or in the schedule of a day.
-ViewAction ReleaseOnDays(const frmMain& window, int x, int y, Qt::MouseButton button) {
+// Press and release have to fall on the same cell or box; the list sees to that itself.
+void ReleaseOnGrid(frmMain& window, int x, int y, Qt::MouseButton button) {
+    const GridView view = ViewOf(window.CurrentMode()).view;
+    if (view == GridView::List) {
+        return ReleaseList(window, x, y, button);
+    }
     if (!IsOnSurface(window, x, y) || RowUnder(window, x, y) != window.ClickedRow) {
-        return {};
+        return;
     }
     const bool right = button == Qt::RightButton;
-    switch (window.CurrentMode()) {
-    case Mode::Calendar:
-        return ClickOnMonth(window, x, y, right);
-    case Mode::Events:
-        return ClickOnDay(window, x, y, right);
-    default:
-        return {};
-    }
-}
-
-void ReleaseOnGrid(frmMain& window, int x, int y, Qt::MouseButton button) {
-    if (ListOf(window.CurrentMode())) {
-        ReleaseList(window, x, y, button);
-    } else {
-        emit window.Asked(ReleaseOnDays(window, x, y, button));
+    if (view == GridView::Month) {
+        emit window.Asked(ClickOnMonth(window, x, y, right));
+    } else if (view == GridView::Day) {
+        emit window.Asked(ClickOnDay(window, x, y, right));
     }
 }
 
 } // namespace
 
 int RowUnder(const frmMain& window, int x, int y) {
-    switch (window.CurrentMode()) {
-    case Mode::Calendar:
+    switch (ViewOf(window.CurrentMode()).view) {
+    case GridView::Month:
         return CalendarCellAt(window.CalendarGrid, x, y).value_or(NoRow);
-    case Mode::Events:
+    case GridView::Day:
         return EventBoxAt(x, y, window.FirstRow);
     default:
         return PlaceAt(x, y, window.picGrid->WidthInUnits());

@@ -6,7 +6,7 @@
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/grid/DateMoves.h"
-#include "mainwindow/list/ListColumns.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "toolkit/grid/ListInput.h"
 
 namespace {
@@ -45,6 +45,10 @@ int ChosenEvent(const frmMain& window, GridMove move) {
 }
 
 KeyMeaning DayKey(const frmMain& window, int key) {
+    if (key == Qt::Key_Menu) {
+        return Ask(
+            {.kind = ViewActionKind::OpenListMenu, .halfHour = window.CurrentHalfHour, .reveal = true});
+    }
     if (const auto move = MoveOf(key)) {
         const ListView view{HalfHours, window.FirstRow, window.RowsVisible};
         return Ask({.kind = ViewActionKind::ShowHalfHour,
@@ -60,10 +64,6 @@ KeyMeaning DayKey(const frmMain& window, int key) {
         return Ask({.kind = ViewActionKind::OpenHalfHour, .halfHour = window.CurrentHalfHour});
     }
     return {};
-}
-
-KeyMeaning DayMenuKeyPressed(const frmMain& window) {
-    return Ask({.kind = ViewActionKind::OpenListMenu, .halfHour = window.CurrentHalfHour, .reveal = true});
 }
 
 // --- The month ---
@@ -96,6 +96,9 @@ KeyMeaning OpenDay(const frmMain& window) {
 }
 
 KeyMeaning MonthKey(const frmMain& window, int key) {
+    if (key == Qt::Key_Menu) {
+        return AskForCalendarMenu(window);
+    }
     if (const auto move = MoveOf(key)) {
         return AskToGo(MovedDate(*move, window.ClickedDate), true);
     }
@@ -120,23 +123,13 @@ KeyMeaning DateKey(const frmMain& window, int key) {
     return AskToGo(MovedDate(*move, window.ClickedDate), false);
 }
 
+// What the key means in the view; those of a list mean something to the list itself.
 KeyMeaning PlainKey(const frmMain& window, int key) {
-    switch (window.CurrentMode()) {
-    case Mode::Calendar:
+    switch (ViewOf(window.CurrentMode()).view) {
+    case GridView::Month:
         return MonthKey(window, key);
-    case Mode::Events:
+    case GridView::Day:
         return DayKey(window, key);
-    default:
-        return {};
-    }
-}
-
-KeyMeaning MenuKeyPressed(const frmMain& window) {
-    switch (window.CurrentMode()) {
-    case Mode::Calendar:
-        return AskForCalendarMenu(window);
-    case Mode::Events:
-        return DayMenuKeyPressed(window);
     default:
         return {};
     }
@@ -147,13 +140,14 @@ KeyMeaning MenuKeyPressed(const frmMain& window) {
 bool PressGridKey(frmMain& window, int key, Qt::KeyboardModifiers modifiers) {
     const KeyMeaning meaning = MeaningOfKey(window, key, modifiers);
     emit window.Asked(meaning.action);
-    return meaning.taken || (ListOf(window.CurrentMode()) && PressListKey(window, key, modifiers));
+    return meaning.taken ||
+           (ViewOf(window.CurrentMode()).view == GridView::List && PressListKey(window, key, modifiers));
 }
 
 KeyMeaning MeaningOfKey(const frmMain& window, int key, Qt::KeyboardModifiers modifiers) {
     const Qt::KeyboardModifiers held = modifiers & ~Qt::KeypadModifier;
     if (IsMenuKey(key, held)) {
-        return MenuKeyPressed(window);
+        return PlainKey(window, Qt::Key_Menu);
     }
     if (held == Qt::ControlModifier) {
         return DateKey(window, key);

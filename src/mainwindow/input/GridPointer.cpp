@@ -5,7 +5,7 @@
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/day/DaySchedule.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/list/ListColumns.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "toolkit/Text.h"
 #include "toolkit/WindowStyle.h"
 #include "toolkit/grid/ListPointer.h"
@@ -64,6 +64,11 @@ QString MonthTip(const frmMain& window, int x, int y) {
 
 // --- The day ---
 
+std::optional<UnitRect> EventRectAt(int x, int y, int firstRow) {
+    const int box = EventBoxAt(x, y, firstRow);
+    return box == 0 ? std::nullopt : std::optional(EventBoxOf(box, firstRow));
+}
+
 QString EventTip(const frmMain& window, int x, int y) {
     const int row = EventBoxAt(x, y, window.FirstRow);
     const QString whole = row == 0 ? QString() : FromStore(EventBoxText(row));
@@ -73,28 +78,31 @@ QString EventTip(const frmMain& window, int x, int y) {
 } // namespace
 
 std::optional<UnitRect> OpenableAt(const frmMain& window, int x, int y) {
-    const Mode mode = window.CurrentMode();
-    if (ListOf(mode)) {
+    switch (ViewOf(window.CurrentMode()).view) {
+    case GridView::List:
         return RowRectAt(window, x, y);
-    }
-    if (mode == Mode::Calendar) {
+    case GridView::Month:
         return CounterRectAt(window.CalendarGrid, x, y);
+    case GridView::Day:
+        return EventRectAt(x, y, window.FirstRow);
+    default:
+        return std::nullopt;
     }
-    const int box = mode == Mode::Events ? EventBoxAt(x, y, window.FirstRow) : 0;
-    return box == 0 ? std::nullopt : std::optional(EventBoxOf(box, window.FirstRow));
 }
 
 QString GridTip(frmMain& window, QPoint point) {
-    const Mode mode = window.CurrentMode();
-    if (ListOf(mode)) {
-        return ListTipAt(window, point);
-    }
     const int x = point.x() * UnitsPerPixel;
     const int y = point.y() * UnitsPerPixel;
-    if (mode == Mode::Calendar) {
+    switch (ViewOf(window.CurrentMode()).view) {
+    case GridView::List:
+        return ListTipAt(window, point);
+    case GridView::Month:
         return MonthTip(window, x, y);
+    case GridView::Day:
+        return EventTip(window, x, y);
+    default:
+        return {};
     }
-    return mode == Mode::Events ? EventTip(window, x, y) : QString();
 }
 
 void InstallGridPointer(frmMain& window) {

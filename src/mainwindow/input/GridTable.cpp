@@ -8,6 +8,7 @@
 #include "mainwindow/day/DayLayout.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/list/ListRows.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "toolkit/Text.h"
 #include "toolkit/grid/ListTable.h"
 
@@ -121,14 +122,12 @@ PaintedTable TableOfDay(frmMain& window) {
 } // namespace
 
 PaintedTable TableOfView(frmMain& window) {
-    const Mode mode = window.CurrentMode();
-    if (ListOf(mode)) {
+    switch (ViewOf(window.CurrentMode()).view) {
+    case GridView::List:
         return TableOfList(window);
-    }
-    switch (mode) {
-    case Mode::Calendar:
+    case GridView::Month:
         return TableOfMonth(window);
-    case Mode::Events:
+    case GridView::Day:
         return TableOfDay(window);
     default:
         return {};

@@ -1,4 +1,4 @@
-// The lists of the main window: which one a mode shows, and its columns.
+// The columns of the lists of the main window.
 #include "mainwindow/list/ListColumns.h"
 
 #include "planner/rows/RowTexts.h"
@@ -61,21 +61,6 @@ constexpr std::array<ListColumn, 7> ReminderColumns{{
 }};
 
 } // namespace
-
-std::optional<ListKind> ListOf(Mode mode) {
-    switch (mode) {
-    case Mode::Homework:
-        return ListKind::Homework;
-    case Mode::StudySessions:
-        return ListKind::StudySessions;
-    case Mode::Tasks:
-        return ListKind::Tasks;
-    case Mode::Reminders:
-        return ListKind::Reminders;
-    default:
-        return std::nullopt;
-    }
-}
 
 std::span<const ListColumn> ColumnsOf(ListKind kind) {
     switch (kind) {

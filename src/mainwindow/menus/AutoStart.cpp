@@ -3,7 +3,6 @@
 
 #include "core/Preferences.h"
 #include "mainwindow/frmMain.h"
-#include "mainwindow/menus/StartupShortcut.h"
 
 namespace {
 
@@ -21,28 +20,14 @@ void CheckAutoStartItem(const frmMain& window, const std::string& word) {
     }
 }
 
-namespace {
-
-// Starts with the desktop session from now on as the word says.
-void ChooseAutoStart(frmMain& window, const std::string& word) {
-    CheckAutoStartItem(window, word);
-    window.AutoStart = word;
-    if (word == "No") {
-        RemoveStartupShortcut();
-    } else {
-        PutStartupShortcut();
-    }
-}
-
-} // namespace
-
 void BindAutoStart(frmMain& window) {
     const std::array items = StartItems(window);
     for (std::size_t i = 0; i < items.size(); ++i) {
         QObject::connect(items[i], &QAction::triggered, &window,
                          [&window, item = items[i], i](bool nowChecked) {
                              if (nowChecked) {
-                                 ChooseAutoStart(window, std::string(StartModes[i]));
+                                 emit window.Asked({.kind = ViewActionKind::ChooseAutoStart,
+                                                    .words = std::string(StartModes[i])});
                              } else {
                                  item->setChecked(true); // it was chosen already
                              }

@@ -2,6 +2,7 @@
 #include "mainwindow/menus/Commands.h"
 
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/CommandTable.h"
 #include "mainwindow/modes/ModeTables.h"
 
 namespace {
@@ -39,30 +40,6 @@ struct CommandOf {
     Command command;
 };
 
-constexpr auto ItemCommands = std::to_array<CommandOf<QAction>>({
-    {&frmMain::MenuNewAssignment, Command::NewAssignment},
-    {&frmMain::MenuNewTask, Command::NewTask},
-    {&frmMain::MenuNewEvent, Command::NewEvent},
-    {&frmMain::MenuClassSchedule, Command::ClassSchedule},
-    {&frmMain::MenuColors, Command::ShowColors},
-    {&frmMain::MenuPrintScreen, Command::PrintScreen},
-    {&frmMain::MenuExportCalendarAS, Command::ExportHomeworkCalendar},
-    {&frmMain::MenuExportCalendarEV, Command::ExportEventCalendar},
-    {&frmMain::MenuExportCalendarTA, Command::ExportTaskCalendar},
-    {&frmMain::MenuExportListAS, Command::ExportHomeworkList},
-    {&frmMain::MenuExportListTA, Command::ExportTaskList},
-    {&frmMain::MenuExportCalendar, Command::ExportCalendarOfMode},
-    {&frmMain::MenuExportList, Command::ExportListOfMode},
-    {&frmMain::MenuHelpDB, Command::OpenHelp},
-    {&frmMain::MenuHomeworkHelp, Command::OpenHomeworkHelp},
-    {&frmMain::MenuShowTips, Command::ShowTips},
-    {&frmMain::MenuAbout, Command::ShowAbout},
-    {&frmMain::MenuPopupReminders, Command::ShowReminders},
-    {&frmMain::MenuGPA, Command::ShowGPA},
-    {&frmMain::MenuData, Command::OpenDataFolder},
-    {&frmMain::MenuExit, Command::HideWindows},
-});
-
 constexpr auto SmallButtonCommands = std::to_array<CommandOf<QToolButton>>({
     {&frmMain::ButtonNewAssignmentSmall, Command::NewAssignment},
     {&frmMain::ButtonNewTaskSmall, Command::NewTask},
@@ -87,12 +64,25 @@ constexpr auto WordCommands = std::to_array<CommandOf<ClickLabel>>({
     {&frmMain::LabelBarWeb, Command::OpenHomeworkHelp},
 });
 
+template <class Control, class Signal>
+void Bind(frmMain& window, Control* control, Signal chosen, Command command) {
+    QObject::connect(control, chosen, &window, [&window, command] {
+        emit window.Asked({.kind = ViewActionKind::RunCommand, .command = command});
+    });
+}
+
+void BindItems(frmMain& window) {
+    for (const CommandRow& row : CommandRows) {
+        if (row.item != nullptr) {
+            Bind(window, window.*row.item, &QAction::triggered, row.command);
+        }
+    }
+}
+
 template <class Control, std::size_t Count, class Signal>
 void BindControls(frmMain& window, const std::array<CommandOf<Control>, Count>& rows, Signal chosen) {
     for (const CommandOf<Control>& row : rows) {
-        QObject::connect(window.*row.control, chosen, &window, [&window, command = row.command] {
-            emit window.Asked({.kind = ViewActionKind::RunCommand, .command = command});
-        });
+        Bind(window, window.*row.control, chosen, row.command);
     }
 }
 
@@ -100,7 +90,7 @@ void BindControls(frmMain& window, const std::array<CommandOf<Control>, Count>& 
 
 void BindCommands(frmMain& window) {
     BindModeChoices(window);
-    BindControls(window, ItemCommands, &QAction::triggered);
+    BindItems(window);
     BindControls(window, SmallButtonCommands, &QToolButton::clicked);
     BindControls(window, ButtonCommands, &QPushButton::clicked);
     BindControls(window, PictureCommands, &PictureBox::Clicked);

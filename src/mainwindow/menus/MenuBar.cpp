@@ -2,19 +2,16 @@
 #include "mainwindow/menus/MenuBar.h"
 
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/CommandTable.h"
+#include "toolkit/Text.h"
 
 #include <QMenuBar>
 
 namespace {
 
-QAction* AddItem(QMenu* menu, const char* caption, const char* keys = "") {
+QAction* AddCheckable(QMenu* menu, const char* caption, const char* keys = "") {
     QAction* item = menu->addAction(QLatin1String(caption));
     item->setShortcut(QKeySequence(QLatin1String(keys)));
-    return item;
-}
-
-QAction* AddCheckable(QMenu* menu, const char* caption, const char* keys = "") {
-    QAction* item = AddItem(menu, caption, keys);
     item->setCheckable(true);
     return item;
 }
@@ -25,10 +22,14 @@ QAction* AddHiddenCheckable(QMenu* menu, const char* caption) {
     return item;
 }
 
-QAction* AddHidden(QMenu* menu, const char* caption) {
-    QAction* item = AddItem(menu, caption);
-    item->setVisible(false);
-    return item;
+// The items of commands, in this order.
+void AddCommands(frmMain& window, QMenu* menu, std::initializer_list<Command> commands) {
+    for (const Command command : commands) {
+        const CommandRow& row = *std::ranges::find(CommandRows, command, &CommandRow::command);
+        QAction* item = menu->addAction(FromStore(row.caption));
+        item->setShortcut(QKeySequence(FromStore(row.keys)));
+        window.*row.item = item;
+    }
 }
 
 } // namespace
@@ -39,33 +40,30 @@ void BuildMenuBar(frmMain& window) {
     window.MenuHomework = AddCheckable(window.mnuFile, "&Homework", "Ctrl+2");
     window.MenuEvents = AddCheckable(window.mnuFile, "&Events", "Ctrl+3");
     window.MenuTasks = AddCheckable(window.mnuFile, "&Tasks", "Ctrl+4");
-    window.MenuPopupReminders = AddItem(window.mnuFile, "&Reminders", "Ctrl+5");
+    AddCommands(window, window.mnuFile, {Command::ShowReminders});
     window.mnuFile->addSeparator();
-    window.MenuGPA = AddItem(window.mnuFile, "&GPA", "Ctrl+G");
+    AddCommands(window, window.mnuFile, {Command::ShowGPA});
     window.MenuReminders = AddHiddenCheckable(window.mnuFile, "To&day's Reminders");
     window.MenuStudySessions = AddHiddenCheckable(window.mnuFile, "&Study Sessions");
     window.mnuFile->addSeparator();
-    window.MenuPrintScreen = AddItem(window.mnuFile, "&Print Screen...", "Ctrl+P");
+    AddCommands(window, window.mnuFile, {Command::PrintScreen});
     window.MenuExport = window.mnuFile->addMenu(QStringLiteral("Exp&ort for Printing"));
-    window.MenuExportCalendarAS = AddItem(window.MenuExport, "&Homework Calendar...");
-    window.MenuExportCalendarEV = AddItem(window.MenuExport, "&Event Calendar...");
-    window.MenuExportCalendarTA = AddItem(window.MenuExport, "&Task Calendar...");
-    window.MenuExportListAS = AddItem(window.MenuExport, "This Homework &List...");
-    window.MenuExportListTA = AddItem(window.MenuExport, "This Task L&ist...");
-    window.MenuExportCalendar = AddHidden(window.MenuExport, "&Calendar...");
-    window.MenuExportList = AddHidden(window.MenuExport, "C&urrent List...");
+    AddCommands(window, window.MenuExport,
+                {Command::ExportHomeworkCalendar, Command::ExportEventCalendar, Command::ExportTaskCalendar,
+                 Command::ExportHomeworkList, Command::ExportTaskList, Command::ExportCalendarOfMode,
+                 Command::ExportListOfMode});
+    window.MenuExportCalendar->setVisible(false);
+    window.MenuExportList->setVisible(false);
     window.mnuFile->addSeparator();
-    window.MenuExit = AddItem(window.mnuFile, "E&xit", "Ctrl+Q");
+    AddCommands(window, window.mnuFile, {Command::HideWindows});
 
     window.MenuEdit = window.menuBar()->addMenu(QStringLiteral("&Edit"));
-    window.MenuNewAssignment = AddItem(window.MenuEdit, "New &Assignment...", "Ctrl+N");
-    window.MenuNewEvent = AddItem(window.MenuEdit, "New &Event...", "Ctrl+E");
-    window.MenuNewTask = AddItem(window.MenuEdit, "New &Task...", "Ctrl+T");
+    AddCommands(window, window.MenuEdit, {Command::NewAssignment, Command::NewEvent, Command::NewTask});
     window.MenuEdit->addSeparator();
-    window.MenuClassSchedule = AddItem(window.MenuEdit, "&Class Schedule...");
+    AddCommands(window, window.MenuEdit, {Command::ClassSchedule});
 
     window.MenuOptions = window.menuBar()->addMenu(QStringLiteral("&Options"));
-    window.MenuColors = AddItem(window.MenuOptions, "&Colors and Names...");
+    AddCommands(window, window.MenuOptions, {Command::ShowColors});
     window.MenuStartDay = window.MenuOptions->addMenu(QStringLiteral("Start &Day of Week"));
     window.MenuStartSat = AddCheckable(window.MenuStartDay, "&Saturday");
     window.MenuStartSun = AddCheckable(window.MenuStartDay, "S&unday");
@@ -77,10 +75,8 @@ void BuildMenuBar(frmMain& window) {
     window.MenuStartNo = AddCheckable(window.MenuStartup, "&No");
 
     window.MenuHelp = window.menuBar()->addMenu(QStringLiteral("&Help"));
-    window.MenuHelpDB = AddItem(window.MenuHelp, "&Help", "F1");
-    window.MenuHomeworkHelp = AddItem(window.MenuHelp, "&Online Homework Help");
-    window.MenuShowTips = AddItem(window.MenuHelp, "&Show Tips at Startup...");
-    window.MenuAbout = AddItem(window.MenuHelp, "&About Planovarium...");
+    AddCommands(window, window.MenuHelp,
+                {Command::OpenHelp, Command::OpenHomeworkHelp, Command::ShowTips, Command::ShowAbout});
     window.mnuHelpBar1 = window.MenuHelp->addSeparator();
-    window.MenuData = AddItem(window.MenuHelp, "Open Planovarium &Data Folder");
+    AddCommands(window, window.MenuHelp, {Command::OpenDataFolder});
 }

@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
+#include "mainwindow/menus/CommandTable.h"
 #include "planner/recurrence/SeriesRule.h"
 #include "planner/rows/RowTexts.h"
 
@@ -12,53 +13,43 @@
 
 namespace {
 
+// An item of a command, by its two words; words that no command has do not compile. Without words it is a
+// separator.
 struct FixedItem {
+    std::string_view words;
     std::string_view caption;
-    std::string_view tag;
+
+    // NOLINTNEXTLINE(google-explicit-constructor): the words stand for the item
+    consteval FixedItem(const char* text) : words(text), caption("-") {
+        if (!words.empty()) {
+            caption = RowOfWords(words)->popupCaption;
+        }
+    }
 };
 
-constexpr FixedItem Separator{"-", ""};
-constexpr FixedItem NewAssignmentItem{"Add new assignment...", "homework new"};
-constexpr FixedItem NewEventItem{"Add new event...", "event new"};
-constexpr FixedItem NewTaskItem{"Add new task...", "task new"};
-constexpr FixedItem SeeAssignmentsItem{"See all assignments...", "homework view"};
-constexpr FixedItem SeeEventsItem{"See this day's events...", "event view"};
-constexpr FixedItem SeeTasksItem{"See all tasks...", "task view"};
-constexpr FixedItem SeeCalendarItem{"See the Calendar...", "calendar view"};
-constexpr FixedItem SeeGPAItem{"See GPA...", "homework GPA"};
-
-constexpr std::array CalendarMenu{NewAssignmentItem,  NewEventItem,  NewTaskItem, Separator,
-                                  SeeAssignmentsItem, SeeEventsItem, SeeTasksItem};
-
-constexpr std::array HomeworkListMenu{
-    NewAssignmentItem, FixedItem{"Customize colors...", "homework custom"},
-    SeeGPAItem,        Separator,
-    SeeEventsItem,     SeeTasksItem,
-    SeeCalendarItem,
-};
-
-constexpr std::array EventListMenu{
-    NewEventItem, FixedItem{"Customize colors...", "event custom"},
-    Separator,    SeeAssignmentsItem,
-    SeeTasksItem, SeeCalendarItem,
-};
-
-constexpr std::array TaskListMenu{
-    NewTaskItem,   FixedItem{"Customize colors...", "task custom"},
-    Separator,     SeeAssignmentsItem,
-    SeeEventsItem, SeeCalendarItem,
-};
+constexpr std::array<FixedItem, 7> CalendarMenu{"homework new",  "event new",  "task new", "",
+                                                "homework view", "event view", "task view"};
+constexpr std::array<FixedItem, 7> HomeworkListMenu{"homework new", "homework custom", "homework GPA", "",
+                                                    "event view",   "task view",       "calendar view"};
+constexpr std::array<FixedItem, 6> EventListMenu{"event new",     "event custom", "",
+                                                 "homework view", "task view",    "calendar view"};
+constexpr std::array<FixedItem, 6> TaskListMenu{"task new",      "task custom", "",
+                                                "homework view", "event view",  "calendar view"};
+constexpr std::array<FixedItem, 4> TrayMenu{"tray reminders", "", "tray view", "tray shutdown"};
+constexpr std::string_view OpenWindowWords = TrayMenu[2].words;
 
 // What stands in the menus of a day behind its rows.
-constexpr std::array HomeworkDayEnd{Separator, NewAssignmentItem, SeeAssignmentsItem, SeeGPAItem};
-constexpr std::array TaskDayEnd{Separator, NewTaskItem, SeeTasksItem};
-constexpr std::array EventDayEnd{Separator, NewEventItem, SeeEventsItem};
+constexpr std::array<FixedItem, 4> HomeworkDayEnd{"", "homework new", "homework view", "homework GPA"};
+constexpr std::array<FixedItem, 3> TaskDayEnd{"", "task new", "task view"};
+constexpr std::array<FixedItem, 3> EventDayEnd{"", "event new", "event view"};
 
 constexpr std::string_view RecurrenceMark = "\xA7";
 constexpr std::size_t CaptionLimit = 75;
 
 PopupItem ItemOf(const FixedItem& item) {
-    return {std::string(item.caption), std::string(item.tag)};
+    std::string caption(item.caption);
+    std::erase(caption, '&');
+    return {caption, std::string(item.words)};
 }
 
 void Append(PopupItems& items, std::span<const FixedItem> fixed) {
@@ -145,11 +136,10 @@ PopupItems TaskListMenuItems() {
 }
 
 PopupItems TrayMenuItems(bool windowIsOpen) {
-    PopupItems items{{"Show Popup Reminders...", "tray reminders"}, {"-", ""}};
-    if (!windowIsOpen) {
-        items.push_back({"Open Planovarium...", "tray view"});
+    PopupItems items = ItemsOf(TrayMenu);
+    if (windowIsOpen) {
+        std::erase_if(items, [](const PopupItem& item) { return item.tag == OpenWindowWords; });
     }
-    items.push_back({"Shutdown Planovarium", "tray shutdown"});
     return items;
 }
 

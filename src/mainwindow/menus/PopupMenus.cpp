@@ -3,6 +3,7 @@
 
 #include "core/Module1.h"
 #include "mainwindow/frmMain.h"
+#include "mainwindow/menus/CommandTable.h"
 #include "mainwindow/menus/PopupCaptions.h"
 #include "mainwindow/modes/ModeTables.h"
 #include "planner/lists/EventSelection.h"
@@ -18,26 +19,6 @@
 
 namespace {
 
-// The part of an item's caption that begins with its key; no two of them have the same one.
-struct ItemKey {
-    std::string_view tag;
-    std::string_view fromKeyOn;
-};
-
-constexpr std::array<ItemKey, 11> ItemKeys{{
-    {"homework new", "assignment"},
-    {"event new", "event"},
-    {"task new", "task"},
-    {"homework view", "signments"},
-    {"event view", "day"},
-    {"task view", "ks"},
-    {"calendar view", "Calendar"},
-    {"homework GPA", "GPA"},
-    {"homework custom", "ustomize"},
-    {"event custom", "ustomize"},
-    {"task custom", "ustomize"},
-}};
-
 void SortBy(frmMain& window, NamedColumn column) {
     window.SortColumn = column.number;
     window.SortDirection = Ascending;
@@ -47,13 +28,10 @@ void AskFor(frmMain& window, const PopupItem& item) {
     emit window.Asked({.kind = ViewActionKind::RunPopupItem, .words = item.tag});
 }
 
+// With the letter of its key, which the rows of a day do not have.
 QString KeyedCaption(const PopupItem& item) {
-    const auto* const keyed = std::ranges::find(ItemKeys, item.tag, &ItemKey::tag);
-    if (keyed == ItemKeys.end()) {
-        return MenuText(item.caption);
-    }
-    const std::size_t at = item.caption.find(keyed->fromKeyOn);
-    return FromStore(item.caption.substr(0, at) + "&" + item.caption.substr(at));
+    const CommandRow* const row = RowOfWords(item.tag);
+    return row == nullptr ? MenuText(item.caption) : FromStore(row->popupCaption);
 }
 
 // Shows the items where the last click or key wants them, and asks for the one that is chosen.
@@ -94,7 +72,7 @@ void ShowTaskListMenu(frmMain& window) {
 }
 
 void ShowListMenu(frmMain& window) {
-    switch (RowOf(ModeRows, window.CurrentMode()).listMenu) {
+    switch (ViewOf(window.CurrentMode()).menu) {
     case ListMenu::Homework:
         return ShowHomeworkListMenu(window);
     case ListMenu::Tasks:

@@ -5,7 +5,7 @@
 
 namespace {
 
-static_assert(StandsInModeOrder(ModeRows) && StandsInModeOrder(PanelRows) &&
+static_assert(StandsInModeOrder(ModeRows) && StandsInModeOrder(ViewRows) && StandsInModeOrder(PanelRows) &&
               StandsInModeOrder(NewButtonRows) && StandsInModeOrder(EditMenuRows) &&
               StandsInModeOrder(ExportRows) && StandsInModeOrder(CounterRows));
 

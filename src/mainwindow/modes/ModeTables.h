@@ -1,18 +1,18 @@
 // What each mode says, shows, enables and offers, and the steps of a refresh: tables of one row a mode.
 #pragma once
 
+#include "export/CalendarTables.h"
+#include "export/ListPages.h"
 #include "mainwindow/state/Command.h"
 #include "mainwindow/state/Mode.h"
 #include "planner/lists/RowSorts.h"
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 // What a mode entry does to a control.
 enum class Turn { Kept, Off, On };
-
-// The context menu of a list.
-enum class ListMenu { None, Homework, Tasks, Events };
 
 struct ModeRow {
     Mode mode;
@@ -20,22 +20,83 @@ struct ModeRow {
     int gridTopic, rangeTopic, listTopic; // help topics of the list and of the two filter menus; 0 is kept
     NamedColumn firstSort;                // none keeps the sort as it is
     bool leavesCalendar;                  // Calendar stays checked, and the mode bar's words as they are
-    ListMenu listMenu;                    // by a right click on the list
-    Command behindRows;                   // by a click behind the last row
+    const char *pictureUp, *pictureDown;  // in the mode bar
 };
 
 // Study Sessions and Reminders leave Calendar alone: entered from it both are checked, and the window counts
 // as in Calendar mode, as is meant.
 inline constexpr std::array<ModeRow, ModeCount> ModeRows{{
-    {Mode::Homework, "Homework Mode", 153, 112, 114, HomeworkColumn::Done, false, ListMenu::Homework,
-     Command::NewAssignment},
-    {Mode::Calendar, "Calendar Mode", 154, 0, 0, {}, false, ListMenu::None, Command::None},
-    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, StudyColumn::DoneOn, true, ListMenu::None,
-     Command::None},
-    {Mode::Tasks, "Task Mode", 156, 113, 115, TaskColumn::Day, false, ListMenu::Tasks, Command::NewTask},
-    {Mode::Events, "Event Mode", 155, 0, 0, EventColumn::Day, false, ListMenu::Events, Command::None},
-    {Mode::Reminders, "Today's Reminders", 0, 0, 0, ReminderColumn::When, true, ListMenu::None,
-     Command::None},
+    {Mode::Homework, "Homework Mode", 153, 112, 114, HomeworkColumn::Done, false, "picStashHomeworkUp.svg",
+     "picStashHomeworkDown.svg"},
+    {Mode::Calendar,
+     "Calendar Mode",
+     154,
+     0,
+     0,
+     {},
+     false,
+     "picStashCalendarUp.svg",
+     "picStashCalendarDown.svg"},
+    {Mode::StudySessions, "Study Session Mode", 0, 0, 0, StudyColumn::DoneOn, true, "picStashSessionsUp.svg",
+     "picStashSessionsDown.svg"},
+    {Mode::Tasks, "Task Mode", 156, 113, 115, TaskColumn::Day, false, "picStashTasksUp.svg",
+     "picStashTasksDown.svg"},
+    {Mode::Events, "Event Mode", 155, 0, 0, EventColumn::Day, false, "picStashEventsUp.svg",
+     "picStashEventsDown.svg"},
+    {Mode::Reminders, "Today's Reminders", 0, 0, 0, ReminderColumn::When, true, "picStashRemindersUp.svg",
+     "picStashRemindersDown.svg"},
+}};
+
+// What is on the grid.
+enum class GridView { None, List, Month, Day };
+
+// Whose record a row of the list stands for.
+enum class RowRecord { None, Assignment, Task, OfReminder };
+
+// The context menu of a view.
+enum class ListMenu { None, Homework, Tasks, Events };
+
+// Whose days are marked in the month.
+enum class MarkedDays { None, StudySessions, Homework, Tasks, Events, Reminders };
+
+// What the mode shows on the grid, what a click there leads to, and the marks of the month, which are made in
+// their order.
+struct ViewRow {
+    Mode mode;
+    GridView view = GridView::None;
+    RowRecord record = RowRecord::None;
+    Command behindRows = Command::None; // by a click behind the last row
+    ListMenu menu = ListMenu::None;     // by a right click
+    std::array<MarkedDays, 3> marks{};
+};
+
+inline constexpr std::array<ViewRow, ModeCount> ViewRows{{
+    {Mode::Homework,
+     GridView::List,
+     RowRecord::Assignment,
+     Command::NewAssignment,
+     ListMenu::Homework,
+     {MarkedDays::Homework}},
+    {Mode::Calendar,
+     GridView::Month,
+     RowRecord::None,
+     Command::None,
+     ListMenu::None,
+     {MarkedDays::Events, MarkedDays::Homework, MarkedDays::Tasks}},
+    {Mode::StudySessions,
+     GridView::List,
+     RowRecord::Assignment,
+     Command::None,
+     ListMenu::None,
+     {MarkedDays::StudySessions}},
+    {Mode::Tasks, GridView::List, RowRecord::Task, Command::NewTask, ListMenu::Tasks, {MarkedDays::Tasks}},
+    {Mode::Events, GridView::Day, RowRecord::None, Command::None, ListMenu::Events, {MarkedDays::Events}},
+    {Mode::Reminders,
+     GridView::List,
+     RowRecord::OfReminder,
+     Command::None,
+     ListMenu::None,
+     {MarkedDays::Reminders}},
 }};
 
 struct PanelRow {
@@ -81,23 +142,28 @@ inline constexpr std::array<EditMenuRow, ModeCount> EditMenuRows{{
     {Mode::Reminders, false, false, false, false},
 }};
 
-// The items of the export menu, and the captions of its two hidden ones, where an empty one is kept.
+// The items of the export menu, and the captions of its two hidden ones, where an empty one is kept, with the
+// pages that these two export.
 struct ExportRow {
     Mode mode;
     Turn calendarAS, calendarEV, calendarTA, listAS, listTA;
     std::string_view calendarCaption, listCaption;
+    std::optional<CalendarPage> calendar;
+    std::optional<ListPage> list;
 };
 
 inline constexpr std::array<ExportRow, ModeCount> ExportRows{{
-    {Mode::Homework, Turn::On, Turn::Off, Turn::Off, Turn::On, Turn::Off, "", ""},
-    {Mode::Calendar, Turn::On, Turn::On, Turn::On, Turn::Off, Turn::Off, "", ""},
+    {Mode::Homework, Turn::On, Turn::Off, Turn::Off, Turn::On, Turn::Off, "", "", CalendarPage::Homework,
+     ListPage::Homework},
+    {Mode::Calendar, Turn::On, Turn::On, Turn::On, Turn::Off, Turn::Off, "", "", {}, {}},
     {Mode::StudySessions, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, "Homework Calendar...",
-     "This Study List..."},
-    {Mode::Tasks, Turn::Off, Turn::Off, Turn::On, Turn::Off, Turn::On, "", ""},
+     "This Study List...", CalendarPage::Homework, ListPage::StudySessions},
+    {Mode::Tasks, Turn::Off, Turn::Off, Turn::On, Turn::Off, Turn::On, "", "", CalendarPage::Tasks,
+     ListPage::Tasks},
     {Mode::Events, Turn::Off, Turn::On, Turn::Off, Turn::Off, Turn::Off, "Event Calendar...",
-     "This Event List..."},
+     "This Event List...", CalendarPage::Events, ListPage::Events},
     {Mode::Reminders, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, Turn::Kept, "Homework Calendar...",
-     "This Reminder List..."},
+     "This Reminder List...", CalendarPage::Homework, ListPage::Reminders},
 }};
 
 // The words before the three counters; without one the counter is hidden.
@@ -146,6 +212,11 @@ constexpr bool StandsInModeOrder(const std::array<Row, ModeCount>& rows) {
 template <class Row>
 constexpr const Row& RowOf(const std::array<Row, ModeCount>& rows, Mode mode) {
     return rows[static_cast<std::size_t>(mode)];
+}
+
+// What the mode shows on the grid; nothing for Mode::None.
+constexpr ViewRow ViewOf(Mode mode) {
+    return mode == Mode::None ? ViewRow{.mode = mode} : RowOf(ViewRows, mode);
 }
 
 // A step of a refresh, by its letter in the tables.

@@ -13,21 +13,6 @@
 
 namespace {
 
-struct BarPictures {
-    Mode mode;
-    const char* up;
-    const char* down;
-};
-
-constexpr std::array<BarPictures, ModeCount> BarPictureNames{{
-    {Mode::Homework, "picStashHomeworkUp.svg", "picStashHomeworkDown.svg"},
-    {Mode::Calendar, "picStashCalendarUp.svg", "picStashCalendarDown.svg"},
-    {Mode::StudySessions, "picStashSessionsUp.svg", "picStashSessionsDown.svg"},
-    {Mode::Tasks, "picStashTasksUp.svg", "picStashTasksDown.svg"},
-    {Mode::Events, "picStashEventsUp.svg", "picStashEventsDown.svg"},
-    {Mode::Reminders, "picStashRemindersUp.svg", "picStashRemindersDown.svg"},
-}};
-
 void SetTopics(const frmMain& window, const ModeRow& row) {
     const std::array<std::pair<QWidget*, int>, 3> topics{{
         {window.picGrid, row.gridTopic},
@@ -42,18 +27,18 @@ void SetTopics(const frmMain& window, const ModeRow& row) {
 }
 
 // Checks the item of the mode, shows its picture pressed and its word bright, and the rest otherwise.
-void CheckMode(const frmMain& window, const ModeRow& row) {
+void CheckMode(const frmMain& window, const ModeRow& entered) {
     const auto controls = window.AllModeControls();
-    for (const BarPictures& pictures : BarPictureNames) {
-        if (row.leavesCalendar && pictures.mode == Mode::Calendar) {
+    for (const ModeRow& row : ModeRows) {
+        if (entered.leavesCalendar && row.mode == Mode::Calendar) {
             continue;
         }
-        const ModeControls& mode = RowOf(controls, pictures.mode);
-        const bool active = pictures.mode == row.mode;
+        const ModeControls& mode = RowOf(controls, row.mode);
+        const bool active = row.mode == entered.mode;
         mode.item->setChecked(active);
-        mode.picture->ShowPicture(QLatin1String(active ? pictures.down : pictures.up));
-        RowOf(window.BarEntries, pictures.mode)->ShowActive(active);
-        if (mode.word != nullptr && !row.leavesCalendar) {
+        mode.picture->ShowPicture(QLatin1String(active ? row.pictureDown : row.pictureUp));
+        RowOf(window.BarEntries, row.mode)->ShowActive(active);
+        if (mode.word != nullptr && !entered.leavesCalendar) {
             SetLabelForeColor(mode.word, active ? ActiveWordColor : WordColor);
         }
         if (mode.word != nullptr) {

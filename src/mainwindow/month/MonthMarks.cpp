@@ -5,6 +5,7 @@
 #include "core/Module1.h"
 #include "core/RowLists.h"
 #include "core/Values.h"
+#include "mainwindow/modes/ModeTables.h"
 #include "planner/dates/DateHelpers.h"
 #include "planner/lists/EventMarks.h"
 #include "planner/lists/ViewMenuColor.h"
@@ -69,33 +70,29 @@ bool TakesReminder(std::string_view comboList, const std::string& kind) {
     return comboList == "All" || comboList == (kind == HomeworkMode ? kind : kind + "s");
 }
 
+void Mark(CalendarMonth& month, Date firstCellDate, MarkedDays marks, const ListFilter& filter) {
+    switch (marks) {
+    case MarkedDays::StudySessions:
+        return MarkStudyInMonth(month, firstCellDate);
+    case MarkedDays::Homework:
+        return MarkHomeworkInMonth(month, firstCellDate, filter);
+    case MarkedDays::Tasks:
+        return MarkTasksInMonth(month, firstCellDate, filter);
+    case MarkedDays::Events:
+        return MarkEventsInMonth(month, firstCellDate, filter);
+    case MarkedDays::Reminders:
+        return MarkRemindersInMonth(month, firstCellDate, filter);
+    case MarkedDays::None:
+        return;
+    }
+}
+
 } // namespace
 
 void MarkMonth(CalendarMonth& month, Date firstCellDate, Mode mode, const ListFilter& filter) {
     month.CellMarked = {};
-    switch (mode) {
-    case Mode::StudySessions:
-        MarkStudyInMonth(month, firstCellDate);
-        break;
-    case Mode::Tasks:
-        MarkTasksInMonth(month, firstCellDate, filter);
-        break;
-    case Mode::Events:
-        MarkEventsInMonth(month, firstCellDate, filter);
-        break;
-    case Mode::Homework:
-        MarkHomeworkInMonth(month, firstCellDate, filter);
-        break;
-    case Mode::Calendar:
-        MarkEventsInMonth(month, firstCellDate, filter);
-        MarkHomeworkInMonth(month, firstCellDate, filter);
-        MarkTasksInMonth(month, firstCellDate, filter);
-        break;
-    case Mode::Reminders:
-        MarkRemindersInMonth(month, firstCellDate, filter);
-        break;
-    case Mode::None:
-        break;
+    for (const MarkedDays marks : ViewOf(mode).marks) {
+        Mark(month, firstCellDate, marks, filter);
     }
 }
 

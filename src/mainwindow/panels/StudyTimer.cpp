@@ -23,11 +23,6 @@ void frmMain::PaintStudyTimer() {
                       Timer1->isActive() ? RunningColor : RestingColor);
 }
 
-void ClearStudyTimer(frmMain& window) {
-    window.StudyTimer = {};
-    window.PaintStudyTimer();
-}
-
 void BindStudyTimer(frmMain& window) {
     window.Timer1 = new QTimer(&window);
     window.Timer1->setInterval(TickMilliseconds);
@@ -35,28 +30,14 @@ void BindStudyTimer(frmMain& window) {
         TickTimer(window.StudyTimer, Now());
         window.PaintStudyTimer();
     });
-    QObject::connect(window.ButtonStart, &QPushButton::clicked, &window, [&window] {
-        const bool starts = !window.Timer1->isActive();
-        window.ButtonStart->setText(starts ? QStringLiteral("Pause") : QStringLiteral("Start"));
-        window.ButtonReset->setEnabled(!starts);
-        if (starts) {
-            window.StudyTimer.TimerStart = Now();
-            window.Timer1->start();
-        } else {
-            BankTimer(window.StudyTimer, Now());
-            window.Timer1->stop();
-        }
-    });
-    QObject::connect(window.ButtonReset, &QPushButton::clicked, &window,
-                     [&window] { ResetTimer(window.StudyTimer); });
-    QObject::connect(window.ButtonSeconds, &QPushButton::clicked, &window,
-                     [&window] { window.StudyTimer.ShowSeconds = !window.StudyTimer.ShowSeconds; });
-    for (QPushButton* button :
-         {window.ButtonStart, window.ButtonReset, window.ButtonSeconds}) { // behind what each does itself
-        QObject::connect(button, &QPushButton::clicked, &window, [&window] {
-            window.PaintStudyTimer();
-            window.picGrid->setFocus();
-        });
+    const std::array<std::pair<QPushButton*, ViewActionKind>, 3> buttons{{
+        {window.ButtonStart, ViewActionKind::StartOrPauseTimer},
+        {window.ButtonReset, ViewActionKind::ResetTimer},
+        {window.ButtonSeconds, ViewActionKind::TurnTimerSeconds},
+    }};
+    for (const auto& [button, kind] : buttons) {
+        QObject::connect(button, &QPushButton::clicked, &window,
+                         [&window, kind = kind] { emit window.Asked({.kind = kind}); });
     }
     QObject::connect(window.picTime, &PictureBox::Resized, &window, &frmMain::PaintStudyTimer);
 }

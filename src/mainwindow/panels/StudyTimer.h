@@ -4,6 +4,3 @@
 class frmMain;
 
 void BindStudyTimer(frmMain& window);
-
-// Sets it to nothing run and paints it.
-void ClearStudyTimer(frmMain& window);

@@ -1,6 +1,8 @@
 // The commands that menus, popup items, buttons and keys give.
 #pragma once
 
+#include <cstddef>
+
 enum class Command {
     None,
     NewAssignment,
@@ -31,3 +33,5 @@ enum class Command {
     HideWindows,
     Shutdown,
 };
+
+inline constexpr std::size_t CommandCount = static_cast<std::size_t>(Command::Shutdown); // without None

@@ -14,11 +14,15 @@
 
 enum class ViewActionKind {
     None,
-    RunCommand,       // command
-    RunPopupItem,     // words
-    ChooseMode,       // mode
-    ChooseFilter,     // the words that the filter menus show now
-    ChooseStartDay,   // words: the full name of the day
+    RunCommand,      // command
+    RunPopupItem,    // words
+    ChooseMode,      // mode
+    ChooseFilter,    // the words that the filter menus show now
+    ChooseStartDay,  // words: the full name of the day
+    ChooseAutoStart, // words: one of StartModes
+    StartOrPauseTimer,
+    ResetTimer,
+    TurnTimerSeconds,
     ExplainAlert,     // index, in the order of the buttons
     GoToDate,         // date
     OpenDayMenu,      // icon; date, which is gone to first
