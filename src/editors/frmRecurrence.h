@@ -11,7 +11,7 @@
 
 // What the controls say; the dialog remembers it as it comes up, for Cancel to put back.
 struct RecurrenceState {
-    std::string tempRecurRecurrence; // "None", "Day", "Month" or "Year"; for any other text none is chosen
+    std::string tempRecurRecurrence; // "Day", "Month" or "Year"; any other text counts as "None"
     std::string tempRecurDaily;      // a letter for each day from Monday to Sunday, "T" for a ticked one
     bool tempRecurMonthlySameDate = false;
     bool tempRecurYearlySameDate = false;

@@ -59,6 +59,11 @@ void DrawFocusOf(const QAbstractButton* button, const QStyleOption* option, QPai
     DrawRing(painter, rect, square ? ToQColor(AccentColor) : option->palette.color(QPalette::WindowText), 1);
 }
 
+// The list that opens under a combo has a frame of another kind.
+bool IsFrame(const QWidget* widget) {
+    return qobject_cast<const QFrame*>(widget) != nullptr && !widget->inherits("QComboBoxPrivateContainer");
+}
+
 struct BoxPicture {
     QStyle::StandardPixmap box;
     const char* picture;
@@ -95,7 +100,15 @@ public:
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override {
         const auto* const button = qobject_cast<const QAbstractButton*>(widget);
-        if (element == PE_FrameFocusRect && button != nullptr) {
+        if (element == PE_Frame && IsFrame(widget)) {
+            // Between the pixels of the screen where they are no whole pixels of the window: an edge would
+            // vanish.
+            painter->save();
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->translate(0.5, 0.5);
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            painter->restore();
+        } else if (element == PE_FrameFocusRect && button != nullptr) {
             DrawFocusOf(button, option, painter);
         } else if (element == PE_PanelLineEdit && widget != nullptr &&
                    widget->property(ReadOnlyLook).toBool()) {

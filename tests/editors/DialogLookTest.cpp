@@ -40,6 +40,21 @@ int RoomIn(const QComboBox* combo) {
         .width();
 }
 
+// How many edges of the place are darker than what lies inside, at their middles.
+int EdgesSeen(const QImage& seen, const QRectF& place) {
+    const auto grey = [&seen](qreal x, qreal y) { return qGray(seen.pixel(qFloor(x), qFloor(y))); };
+    const QPointF middle = place.center();
+    const int inside = grey(middle.x(), middle.y());
+    const auto isDark = [&](QPointF edge, QPointF inwards) {
+        return grey(edge.x(), edge.y()) < inside - 20 ||
+               grey(edge.x() + inwards.x(), edge.y() + inwards.y()) < inside - 20;
+    };
+    return int{isDark({place.left(), middle.y()}, {1, 0})} +
+           int{isDark({place.right() - 0.5, middle.y()}, {-1, 0})} +
+           int{isDark({middle.x(), place.top()}, {0, 1})} +
+           int{isDark({middle.x(), place.bottom() - 0.5}, {0, -1})};
+}
+
 } // namespace
 
 // --- Room --------------------------------------------------------------------------------------------------
@@ -174,6 +189,25 @@ TEST_F(WordyDialogLook, LongDatesOfWordyLanguagesFit) {
 }
 
 // --- Looks -------------------------------------------------------------------------------------------------
+
+TEST_F(DialogLook, FramesKeepTheirFourEdgesAtAnyScale) {
+    QPlainTextEdit notes;
+    QFrame panel;
+    panel.setFrameShape(QFrame::StyledPanel);
+    for (QFrame* frame : std::initializer_list<QFrame*>{&notes, &panel}) {
+        frame->resize(104, 64);
+        for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+            for (const int at : {1, 2, 3, 4}) {
+                QImage seen(QSize(240, 160), QImage::Format_RGB32);
+                seen.setDevicePixelRatio(scale);
+                seen.fill(Qt::white);
+                frame->render(&seen, QPoint(at, at));
+                const QRectF place(at * scale, at * scale, 104 * scale, 64 * scale);
+                EXPECT_EQ(EdgesSeen(seen, place), 4) << frame->metaObject()->className() << " at " << scale;
+            }
+        }
+    }
+}
 
 TEST_F(DialogLook, DisabledBoxesLookDisabled) {
     InEach([](QDialog& dialog) {

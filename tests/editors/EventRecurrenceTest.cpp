@@ -227,6 +227,17 @@ TEST_F(EventRecurrence, MovedDateOfASingleEventIsShownAndSaved) {
     EXPECT_TRUE(Script.boxes.empty());
 }
 
+TEST_F(EventRecurrence, PickerOpensOnTheDateOfTheEventAndThenOnTheOneThatWasPicked) {
+    OpenEdit({.date = "2009/11/02", .end_date = "2009/11/02"});
+    Click(dialog->picButtonEventStartDate);
+    EXPECT_EQ(dialog->Picker->CalendarDate, DateValue("2009/11/02"));
+    QTest::keyClick(dialog->Picker, Qt::Key_Escape);
+    PickDate("2009/11/23");
+    FireTimer(dialog->Picker->TimerCalendar);
+    Click(dialog->picButtonEventStartDate);
+    EXPECT_EQ(dialog->Picker->CalendarDate, DateValue("2009/11/23"));
+}
+
 TEST_F(EventRecurrence, EndDateStaysWhereItIsSet) {
     OpenEdit({.end = "True", .end_date = "2009/12/01"});
     PickDate("2009/10/31");

@@ -131,6 +131,15 @@ TEST_F(RecurrenceDialogs, BoxesAndBothPairsFollowTheRecordWhateverItsKind) {
     }
 }
 
+TEST_F(RecurrenceDialogs, RecurrenceOfAnyOtherTextShowsNone) {
+    OpenFor({.recurrence = "Month"});
+    Click(recurrence->ButtonCancel);
+    OpenFor({.recurrence = "Fortnight"});
+    EXPECT_TRUE(recurrence->RadioRepeatNone->isChecked());
+    EXPECT_TRUE(recurrence->FrameNone->isVisible());
+    EXPECT_FALSE(recurrence->RadioMonthlyUser->isEnabled());
+}
+
 TEST_F(RecurrenceDialogs, ShortPatternLeavesTheLaterDaysOut) {
     OpenFor({.recurrence = "Day", .repeat_daily = "TT"});
     EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "TTFFFFF");

@@ -68,6 +68,21 @@ TEST_F(TermFlow, ANewClassTakesNeitherTheIdNorTheHomeworkOfOneThatWasCut) {
     }
 }
 
+TEST_F(TermFlow, ANewClassDoesNotTakeTheIdOfOneThatWasCutThoughNoHomeworkHasIt) {
+    StartWithFileCutBefore("classes.xml", "</name>"); // of History, which is 7
+    EditAndOk([] { EXPECT_EQ(TermDialog->NextClassID, 8); });
+}
+
+TEST_F(TermFlow, HomeworkOfTheGreatestIdLeavesIdsForNewClasses) {
+    for (const char* greatest : {"32766", "32767"}) {
+        Store.Assignment = {};
+        AddAssignment("7", "Rome");
+        AddAssignment(greatest, "Verbs");
+        LastReads.classes.cutShort = true;
+        EditAndOk([] { EXPECT_EQ(TermDialog->NextClassID, 8); });
+    }
+}
+
 TEST_F(TermFlow, TermsThatWereNotReadKeepTheirClassesAside) {
     WriteTermsAndClasses();
     const std::string classes = ReadData("classes.xml");
@@ -215,6 +230,7 @@ TEST_F(TermFlow, AColourThatIsNoneIsToldByItsPlaceInTheFileOfClasses) {
             AddClassRecord({.id = "3", .term = "2", .name = "Latin"});
             AddClassRecord({.id = "4", .name = "Algebra"});
             AddClassRecord({.id = "7", .name = "History"});
+            (Store.ClassRecord.*row.list).Replace(1, value); // of another class, which is not asked for
             (Store.ClassRecord.*row.list).Replace(3, value);
             std::string text;
             Script.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
@@ -230,6 +246,22 @@ TEST_F(TermFlow, AColourThatIsNoneIsToldByItsPlaceInTheFileOfClasses) {
                 << text;
         }
     }
+}
+
+TEST_F(TermFlow, AColourOfTheSecondOfTwoClassesOfOneIdIsToldByItsOwnPlace) {
+    Store.ClassRecord = {};
+    AddClassRecord({.id = "7", .name = "Algebra"});
+    AddClassRecord({.id = "7", .name = "History"});
+    Store.ClassRecord.backcolor.Replace(2, "pink");
+    std::string text;
+    ChooseAndAct(TermChooser->ButtonEdit, [&text] {
+        TermDialog->ComboBoxClassList->setCurrentIndex(1);
+        text = FaultOf([] { TermDialog->ButtonEditClass->click(); });
+        TermDialog->ButtonCancelClass->click();
+        TermDialog->hide();
+    });
+    EXPECT_NE(text.find(PlaceOf("classes.xml", "2, \"History\"", "backcolor", "pink")), std::string::npos)
+        << text;
 }
 
 TEST_F(TermFlow, ADateThatIsNoneIsToldByItsPlaceInTheFileOfTerms) {
