@@ -46,6 +46,14 @@ frmColors::frmColors(QWidget* parent) : EditorDialog(parent) {
     connect(ButtonName, &QPushButton::clicked, this, &frmColors::ChangeName);
     connect(ButtonRestore, &QPushButton::clicked, this, &frmColors::Restore);
     connect(picHelp, &QToolButton::clicked, this, &frmColors::HelpAsked);
+    SetHelpTopics({{picGrid, 801},
+                   {ButtonTextColor, 802},
+                   {ButtonBGColor, 803},
+                   {ButtonName, 804},
+                   {ButtonRestore, 805},
+                   {picHelp, 806},
+                   {ButtonOK, 807},
+                   {ButtonCancel, 808}});
 }
 
 // --- The list ----------------------------------------------------------------------------------------------

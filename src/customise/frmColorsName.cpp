@@ -11,6 +11,8 @@ frmColorsName::frmColorsName(QWidget* parent) : EditorDialog(parent) {
     ShowAsReadOnly(TextBoxDefaultName);
     LimitToSet(TextBoxCustomName);
     BindAnswers(ButtonOK, ButtonCancel);
+    SetHelpTopics(
+        {{TextBoxDefaultName, 811}, {TextBoxCustomName, 812}, {ButtonOK, 813}, {ButtonCancel, 814}});
     connect(TextBoxCustomName, &QLineEdit::textEdited, this, [this] { ChangeFlag = true; });
 }
 

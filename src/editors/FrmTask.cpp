@@ -49,6 +49,7 @@ void FrmTask::SetTopics() {
                    {ButtonDelete, 602},
                    {ButtonOK, 603},
                    {CheckBoxDeadline, 604},
+                   {LabelDeadline, 604},
                    {CheckBoxDone, 605},
                    {CheckboxReminder, 606},
                    {ComboPercentComplete, 607},

@@ -56,6 +56,18 @@ frmRecurrence::frmRecurrence(QWidget* parent) : EditorDialog(parent) {
     Picker->AddField(true, TextboxRepeatEndDate, picButtonRepeatEndDate,
                      [this] { return StoreRepeatEndDate; });
     BindControls();
+    SetHelpTopics({{RadioRepeatNone, 881},
+                   {RadioRepeatDaily, 882},
+                   {RadioRepeatMonthly, 883},
+                   {RadioRepeatYearly, 884},
+                   {FrameDaily, 885},
+                   {FrameMonthly, 886},
+                   {FrameYearly, 887},
+                   {CheckboxRepeatEndDate, 888},
+                   {TextboxRepeatEndDate, 889},
+                   {picButtonRepeatEndDate, 889},
+                   {ButtonOK, 890},
+                   {ButtonCancel, 891}});
 }
 
 std::vector<frmRecurrence::Kind> frmRecurrence::Kinds() const {

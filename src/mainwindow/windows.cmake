@@ -37,6 +37,7 @@ target_sources(planovarium_windows PRIVATE
   mainwindow/frame/Load.cpp
   mainwindow/frame/RefreshView.cpp
   mainwindow/frame/Unload.cpp
+  mainwindow/frame/WindowTopics.cpp
   mainwindow/frmMain.h
   mainwindow/grid/ViewParts.cpp
   mainwindow/input/GridClicks.cpp

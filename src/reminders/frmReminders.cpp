@@ -59,6 +59,12 @@ frmReminders::frmReminders() {
     SetupTypedCombo(ComboReminderTime, SnoozeRows);
     ComboReminderTime->installEventFilter(this);
     BindButtons();
+    SetHelpTopics({{picGrid, 871},
+                   {ButtonView, 872},
+                   {ButtonRemove, 873},
+                   {ButtonRemoveAll, 874},
+                   {ComboReminderTime, 875},
+                   {ButtonReset, 876}});
     TimerReminders = new QTimer(this);
     TimerReminders->setInterval(TickMilliseconds);
     connect(TimerReminders, &QTimer::timeout, this, &frmReminders::Tick);

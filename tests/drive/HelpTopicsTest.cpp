@@ -34,8 +34,9 @@ struct TopicRange {
     int last;
 };
 
-constexpr TopicRange Ranges[] = {{112, 115}, {153, 156}, {201, 223}, {301, 318},
-                                 {401, 406}, {501, 516}, {601, 617}};
+constexpr TopicRange Ranges[] = {{112, 115}, {153, 156}, {201, 223}, {301, 318}, {401, 406}, {501, 516},
+                                 {601, 617}, {701, 721}, {801, 808}, {811, 814}, {821, 829}, {841, 844},
+                                 {851, 852}, {861, 862}, {871, 876}, {881, 891}, {895, 895}};
 
 TEST(HelpTopicsTest, EveryPartOfAWindowHasItsText) {
     const std::map<int, std::string> topics = Topics();

@@ -14,6 +14,7 @@ target_sources(window_tests PRIVATE
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp
   mainwindow/frame/RefreshViewTest.cpp
+  mainwindow/frame/WhatsThisTest.cpp
   mainwindow/frame/WindowLooksTest.cpp
   mainwindow/frame/WindowWalkTest.cpp
   mainwindow/input/GridAccessibleTest.cpp

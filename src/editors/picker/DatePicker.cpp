@@ -4,6 +4,7 @@
 #include "planner/dates/DateHelpers.h"
 #include "planner/dates/DateTitles.h"
 #include "planner/rows/Colors.h"
+#include "toolkit/HelpTopics.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
 
@@ -16,6 +17,8 @@
 namespace {
 
 using std::chrono::days;
+
+constexpr int CalendarTopic = 895;
 
 bool IsLeftPress(const QEvent* event) {
     return (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) &&
@@ -41,6 +44,7 @@ QString MonthPicture(bool up, bool pressed) {
 
 DatePicker::DatePicker(QWidget* dialog) : QFrame(dialog) {
     SetupCalendar();
+    SetHelpTopic(this, CalendarTopic);
     hide();
     setEnabled(false);
     dialog->installEventFilter(this);

@@ -2,6 +2,7 @@
 #include "mainwindow/dialogs/frmAbout.h"
 
 #include "core/ProgramFacts.h"
+#include "editors/EditorParts.h"
 #include "platform/Process.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
@@ -34,6 +35,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
                             FromStore(HomePage()));
     lblDescription->setMinimumWidth(DescriptionWidth);
     lblDescription->setCursor(Qt::PointingHandCursor);
+    SetHelpTopics({{lblDescription, 851}, {cmdOK, 852}});
     connect(lblDescription, &ClickLabel::Clicked, this, [] { ShellOpen(HomePage()); });
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::hide);
 }

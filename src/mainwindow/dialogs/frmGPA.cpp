@@ -26,6 +26,15 @@ frmGPA::frmGPA(QWidget* parent) : QDialog(parent) {
     });
     connect(ButtonOK, &QPushButton::clicked, this, &QDialog::hide);
     connect(picHelp, &QToolButton::clicked, this, &frmGPA::HelpAsked);
+    SetHelpTopics({{ComboClassNameList, 821},
+                   {TextBoxCredits, 822},
+                   {TextboxPercent, 823},
+                   {TextboxGPA, 824},
+                   {TextboxAssignments, 825},
+                   {TextboxStudyTime, 826},
+                   {CheckBoxChroma, 827},
+                   {picHelp, 828},
+                   {ButtonOK, 829}});
 }
 
 void frmGPA::Fill() {

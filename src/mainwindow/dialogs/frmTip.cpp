@@ -1,6 +1,7 @@
 // frmTip, the tip of the day.
 #include "mainwindow/dialogs/frmTip.h"
 
+#include "editors/EditorParts.h"
 #include "mainwindow/dialogs/TipTexts.h"
 #include "toolkit/Text.h"
 
@@ -24,6 +25,7 @@ frmTip::frmTip(QWidget* parent) : QDialog(parent) {
     LabelTitle->setFont(title);
     PanelTip->setBackgroundRole(QPalette::Base);
     PanelTip->setAutoFillBackground(true);
+    SetHelpTopics({{CheckBoxShowTips, 841}, {ButtonNextTip, 842}, {ButtonClose, 843}, {PanelTip, 844}});
     connect(ButtonNextTip, &QPushButton::clicked, this, &frmTip::NextTip);
     connect(ButtonClose, &QPushButton::clicked, this, &QDialog::hide);
     connect(CheckBoxShowTips, &QCheckBox::toggled, this,

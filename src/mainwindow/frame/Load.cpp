@@ -21,6 +21,7 @@
 #include "mainwindow/flows/timer/TimerFlow.h"
 #include "mainwindow/frame/BringForward.h"
 #include "mainwindow/frame/Unload.h"
+#include "mainwindow/frame/WindowTopics.h"
 #include "mainwindow/frmMain.h"
 #include "mainwindow/menus/PopupMenus.h"
 #include "mainwindow/modes/Modes.h"
@@ -86,6 +87,7 @@ void LoadDialogs(frmMain& window) {
     GPADialog = new frmGPA(&window);
     QObject::connect(GPADialog, &frmGPA::HelpAsked, &window, [&window] { OpenHelp(window); });
     LoadReminders(window);
+    SetWindowTopics(window);
 }
 
 } // namespace
