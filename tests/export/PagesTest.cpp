@@ -85,6 +85,7 @@ TEST(PageText, GivesReferencesForCharactersThatTheFilesLack) {
               "pa&#378;dziernik");
     EXPECT_EQ(PageText({"11\xE6\x9C\x88"}), "11&#26376;");
     EXPECT_EQ(PageText({"\xF0\x9F\x93\x85."}), "&#128197;.");
+    EXPECT_EQ(PageText({"\xF0\x90\x81\x81"}), "&#65601;") << "and no A, of which it has the lower half";
 }
 
 TEST(PageText, OfADateIsInTheUsersForms) {

@@ -111,6 +111,13 @@ TEST_F(ExportFlow, CalendarsFollowTheMonthAndTheStartDay) {
     EXPECT_EQ(Proposed(), "Export Tasks to HTML Calendar File: February Task Calendar.html");
 }
 
+TEST_F(ExportFlow, AMonthIsNamedForTheOneShownAndTitledForTheDateClicked) {
+    window->ClickedDate = Date{std::chrono::year{2010} / 2 / 3}; // to which the calendar has not yet come
+    EXPECT_EQ(Chosen(window->MenuExportCalendarTA),
+              "Tasks-Events Calendar Template3.html|February 2010 Task Calendar|27|");
+    EXPECT_EQ(Proposed(), "Export Tasks to HTML Calendar File: October Task Calendar.html");
+}
+
 TEST_F(ExportFlow, TheHiddenItemsExportTheListAndTheCalendarOfTheMode) {
     struct Case {
         void (*enter)(frmMain&);

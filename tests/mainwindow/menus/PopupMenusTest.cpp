@@ -126,13 +126,40 @@ TEST_F(PopupMenus, TheLinesOfAGreyDayOpenItsMenusAsTheyWerePainted) {
 }
 
 TEST_F(PopupMenus, ADayMenuSortsUpwards) {
+    AddAssignmentRecord({.desc = "Ready", .done = "True"});
+    AddAssignmentRecord({.desc = "Open"});
+    AddTaskRecord({.desc = "Ready", .done = "True"});
+    AddTaskRecord({.desc = "Open"});
     AddEventRecord({.time = "11:00 AM", .desc = "Later"});
     AddEventRecord({.time = "09:00 AM", .desc = "Sooner"});
     ShowCalendarMode(*window);
-    window->SortDirection = Descending;
-    EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Events), Qt::LeftButton).mid(0, 2),
-              (QStringList{"(09:00 AM)  Sooner ...", "(11:00 AM)  Later ..."}));
-    EXPECT_EQ(window->SortDirection, Ascending);
+    const std::array<QStringList, CalendarIcons> rows{{
+        {"(01:00 left)  Algebra - Open ...", "(Done)  Algebra - Ready ..."},
+        {"(Not Done)  Open ...", "(Done)  Ready ..."},
+        {"(09:00 AM)  Sooner ...", "(11:00 AM)  Later ..."},
+    }};
+    for (const CalendarIcon icon : {CalendarIcon::Homework, CalendarIcon::Tasks, CalendarIcon::Events}) {
+        window->SortDirection = Descending;
+        EXPECT_EQ(MenuOfClick(IconPoint(icon), Qt::LeftButton).mid(0, 2),
+                  rows[static_cast<std::size_t>(icon)]);
+        EXPECT_EQ(window->SortDirection, Ascending);
+    }
+}
+
+TEST_F(PopupMenus, ADayMenuIsOfTheDayClicked) {
+    for (const char* date : {"2009/10/14", "2009/10/20"}) { // today and another day
+        const std::string day = date;
+        AddAssignmentRecord({.date = day, .desc = day});
+        AddTaskRecord({.date = day, .desc = day});
+        AddEventRecord({.date = day, .desc = day});
+    }
+    ShowCalendarMode(*window);
+    GoToDate(*window, Date{std::chrono::year{2009} / 10 / 20});
+    for (const CalendarIcon icon : {CalendarIcon::Homework, CalendarIcon::Tasks, CalendarIcon::Events}) {
+        const QStringList captions = MenuOfClick(IconPoint(icon), Qt::LeftButton);
+        EXPECT_TRUE(captions.at(0).endsWith("2009/10/20 ...")) << captions.at(0).toStdString();
+        EXPECT_EQ(captions.at(1), "-");
+    }
 }
 
 // While the list is shown, since entering its mode sorts it anew.
@@ -205,12 +232,18 @@ TEST_F(PopupMenus, CommandsAskForNewItems) {
 }
 
 TEST_F(PopupMenus, RowsOfADayMenuOpenTheirRecords) {
+    AddAssignmentRecord({.date = "2009/10/13", .desc = "Another day's"});
+    AddTaskRecord({.date = "2009/10/13", .desc = "Another day's"});
+    AddEventRecord({.date = "2009/10/13", .desc = "Another day's"});
     AddAssignments(3);
     AddTaskRecord({.desc = "Call"});
+    AddEventRecord({.desc = "Chess"});
     ShowCalendarMode(*window);
     MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton, "(01:00 left)  Algebra - A2 ...");
     MenuOfClick(IconPoint(CalendarIcon::Tasks), Qt::LeftButton, "(Not Done)  Call ...");
-    EXPECT_EQ(Opened, (QStringList{"Planovarium - Edit Assignment: A2", "Planovarium - Edit Task: Call"}));
+    MenuOfClick(IconPoint(CalendarIcon::Events), Qt::LeftButton, "(09:00 AM)  Chess ...");
+    EXPECT_EQ(Opened, (QStringList{"Planovarium - Edit Assignment: A2", "Planovarium - Edit Task: Call",
+                                   "Planovarium - Edit Event: Chess"}));
 }
 
 TEST_F(PopupMenus, ANewEventOfAMenuBeginsAtNine) {
