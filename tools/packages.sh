@@ -7,7 +7,7 @@ LogicPackages="libgtest-dev librapidcheck-dev libical-dev pkg-config python3 loc
 StylePackages="clang-format git python3"
 # chromium and poppler-utils print the exported pages and look at their sheets.
 TestPackages="$HeadlessPackages $LogicPackages $StylePackages clang clang-tidy libclang-rt-14-dev trayer faketime
-  x11-utils qt6-base-private-dev chromium poppler-utils"
+  x11-utils dbus-daemon qt6-base-private-dev chromium poppler-utils"
 BarePackages="debootstrap git"
 BenchPackages="libgtest-dev librapidcheck-dev libbenchmark-dev libical-dev libkf5calendarcore-dev pkg-config"
 

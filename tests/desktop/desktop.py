@@ -58,7 +58,7 @@ class Desktop:
         self.runtime = Path(tempfile.mkdtemp(prefix="planovarium-runtime-"))  # of mode 700, as it has to be
         self.processes = []
         read_end, write_end = os.pipe()
-        self._start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+        self.start(["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{size}x24", "-nolisten", "tcp",
                      "-noreset", "-r"],  # no key repeats itself when the machine is slow to let it go
                     os.environ, pass_fds=[write_end])
         os.close(write_end)
@@ -68,11 +68,10 @@ class Desktop:
                                 HOME=str(self.runtime), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
         for name in ("DBUS_SESSION_BUS_ADDRESS", "WAYLAND_DISPLAY"):
             self.environment.pop(name, None)
-        self._start(["openbox", "--sm-disable"], self.environment)
+        self.start(["openbox", "--sm-disable"])
         wait_until(self._window_manager_answers, "the window manager answers")
         if tray:
-            self._start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "32"],
-                        self.environment)
+            self.start(["trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "32"])
             wait_until(lambda: self.windows_named("^panel$"), "the tray stands")
 
     def _window_manager_answers(self):
@@ -81,9 +80,10 @@ class Desktop:
         self.run("xdotool", "set_num_desktops", "1")
         return self.run("xdotool", "get_num_desktops").strip() == "1"
 
-    def _start(self, command, environment, **options):
-        self.processes.append(subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,
-                                               stderr=subprocess.DEVNULL, **options))
+    def start(self, command, environment=None, **options):
+        """Starts a program that ends with the desktop, on its display unless told otherwise."""
+        self.processes.append(subprocess.Popen(command, env=environment or self.environment, stderr=subprocess.DEVNULL,
+                                               **{"stdout": subprocess.DEVNULL, **options}))
         return self.processes[-1]
 
     def close(self):

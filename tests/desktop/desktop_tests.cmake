@@ -26,6 +26,13 @@ set_tests_properties(desktop.test_reminders.Reminders PROPERTIES
 add_desktop_tests(test_window Modes Size Steppers List Dialogs Midnight)
 add_desktop_tests(test_export Export)
 
+# A tray that asks for its icons over the session bus.
+add_executable(tray_host support/TrayHost.cpp)
+target_link_libraries(tray_host PRIVATE planovarium_flags Qt6::DBus)
+add_desktop_tests(test_commands RightClicks TypeColors Help BusTray)
+set_tests_properties(desktop.test_commands.BusTray PROPERTIES
+  ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PYTHONDONTWRITEBYTECODE=1;PLANOVARIUM_TRAY_HOST=$<TARGET_FILE:tray_host>")
+
 # The pages for printing, in a browser and before a validator.
 add_desktop_tests(test_pages Validator Months Lists)
 set_tests_properties(desktop.test_pages.Validator desktop.test_pages.Months desktop.test_pages.Lists PROPERTIES

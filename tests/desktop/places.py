@@ -83,6 +83,10 @@ class Event:
     DELETE = (472, 434)
 
 
+class Colors:
+    OK = (-140, -25)
+
+
 class Recurrence:
     DAILY = (25, 68)
     THURSDAY = (112, 111)

@@ -6,6 +6,7 @@ import unittest
 from pathlib import Path
 
 from desktop import DesktopTest, wait_until
+from opener import Opener
 
 TEMPLATES = Path(__file__).resolve().parents[2] / "drive" / "Planovarium"
 DATE = "2009-10-14 10:00:00"
@@ -20,13 +21,7 @@ class Export(DesktopTest):
         planner = self.planner(date=DATE)
         for template in TEMPLATES.glob("*.html"):
             shutil.copy(template, planner.drive / "Planovarium")
-        programs = planner.drive / "programs"
-        programs.mkdir()
-        self.opened = planner.drive / "opened"
-        opener = programs / "xdg-open"
-        opener.write_text(f'#!/bin/sh\nprintf "%s\\n" "$1" >>"{self.opened}"\n')
-        opener.chmod(0o755)
-        planner.environment["PATH"] = f"{programs}:{planner.environment['PATH']}"
+        self.opener = Opener(planner)
         return planner.start()
 
     def choose(self, planner, item, title):
@@ -43,18 +38,12 @@ class Export(DesktopTest):
         self.desktop.type(str(name))
         self.desktop.key("Return")
 
-    def wait_for_opened(self, *pages):
-        """The desktop's program is given the pages as addresses."""
-        addresses = [page.as_uri() for page in pages]
-        wait_until(lambda: self.opened.exists() and self.opened.read_text().split("\n")[:-1] == addresses,
-                   "the pages are opened")
-
     def test_a_month_is_proposed_in_the_document_folder_and_opened(self):
         planner = self.start()
         self.desktop.activate(self.choose(planner, "t", TASK_CALENDAR))
         self.desktop.key("Return")
         page = planner.documents / "Planovarium" / "October Task Calendar.html"
-        self.wait_for_opened(page)
+        self.opener.wait_for(page.as_uri())
         text = page.read_bytes()
         self.assertIn(b"<h1>October 2009 Task Calendar</h1>\r\n", text)
         self.assertTrue(text.endswith(b"</html>\r\n"))
@@ -69,7 +58,7 @@ class Export(DesktopTest):
         self.desktop.activate(wait_until(self.question, "it is asked whether the page is replaced"))
         self.assertEqual(page.read_text(), "old")
         self.desktop.key("alt+y")
-        self.wait_for_opened(page)
+        self.opener.wait_for(page.as_uri())
         self.assertIn("<h1>Tasks</h1>", page.read_text())
 
     def question(self):
@@ -83,7 +72,7 @@ class Export(DesktopTest):
         self.desktop.press_in(dialog, "Escape")
         wait_until(lambda: not self.desktop.window(TASK_CALENDAR), "the dialog is closed")
         self.assertEqual(planner.shut_down(), 0)
-        self.assertFalse(self.opened.exists())
+        self.assertEqual(self.opener.opened(), [])
         self.assertEqual([*planner.documents.rglob("*.html")], [])
 
     def test_a_missing_template_ends_the_program_with_its_error_box(self):
@@ -94,7 +83,7 @@ class Export(DesktopTest):
         self.desktop.press_in(wait_until(self.error_box, "the error is told"), "Return")
         self.assertEqual(planner.wait_for_exit(), 1)
         self.assertEqual((planner.drive / "Page.html").read_bytes(), b"")
-        self.assertFalse(self.opened.exists())
+        self.assertEqual(self.opener.opened(), [])
 
     def error_box(self):
         return self.desktop.window(BOX)

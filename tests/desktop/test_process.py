@@ -305,6 +305,12 @@ class Tray(DesktopTest):
         self.assertEqual(planner.markers(), [])
         self.assertTrue((planner.data / "Prefs.ini").exists())
 
+    def test_menu_shows_the_reminders(self):
+        self.planner().start()
+        self.open_tray_menu()
+        self.desktop.key("Down", "Return")  # the first item
+        wait_until(lambda: self.desktop.windows_named("^Planovarium - Reminder List"), "the reminders are shown")
+
     def test_menu_opens_a_hidden_window(self):
         planner = self.planner().start()
         planner.hide()

@@ -1,46 +1,16 @@
 """The main window on a real desktop: its modes, its size, its steppers, its list and the change of the day."""
 
-import shutil
-import subprocess
-import tempfile
 import unittest
-from pathlib import Path
 
-from desktop import TITLE, DesktopTest, stays_false, wait_until
-from main_window import MainWindow
+from desktop import TITLE, stays_false, wait_until
 from places import Main, small_day
+from window_test import WindowTest
 
-ROOT = Path(__file__).resolve().parents[2]
 EDIT_ASSIGNMENT = "Planovarium - Edit Assignment"
 NEW_TASK = "Planovarium - New Task"
 CHOOSER = "Planovarium - Select a Term"
 EDIT_TERM = "Planovarium - Edit Term"
 QUESTION = "Planovarium"
-
-
-class WindowTest(DesktopTest):
-    """A test with the sample drive, laid out for the date of the test."""
-
-    date = "2026-10-14 10:00:00"  # a Wednesday
-
-    def setUp(self):
-        super().setUp()
-        folder = Path(tempfile.mkdtemp(prefix="planovarium-sample-"))
-        self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
-        drive = folder / "drive"
-        subprocess.run([ROOT / "tools" / "lay-out-drive", ROOT / "drive", drive, self.date[:10]], check=True,
-                       capture_output=True)
-        self.sample = self.planner(drive=drive, date=self.date)
-        self.start_at_design_size()
-
-    def start_at_design_size(self):
-        self.sample.write_data("Prefs.ini", "ShowTipsAtStartup=No\n")
-        self.sample.start()
-        self.window = MainWindow(self.sample)
-        self.window.wait_for_mode("Calendar")
-
-    def key(self, *keys):
-        self.desktop.key(*keys)
 
 
 class Modes(WindowTest):
