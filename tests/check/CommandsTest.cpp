@@ -190,9 +190,10 @@ TEST_F(Command, ToChangeAFileIsRefusedWhileAProcessHasTheDriveInItsEnvironment) 
 
 TEST_F(Command, ToChangeAFileThatIsNoneOfThePlannersIsRefused) {
     for (const char* name :
-         {"Prefs.ini", "tasks", "../tasks.xml", "assignments_01.xml", "assignments_.xml"}) {
+         {"Prefs.ini", "homework", "../tasks.xml", "assignments_01.xml", "assignments_.xml"}) {
         const CommandResult result = Run({"--restore", name, "1"});
         EXPECT_EQ(result.status, 2) << name;
+        EXPECT_EQ(result.errors, std::string(name) + " is no record file of the planner.\n");
     }
 }
 

@@ -209,6 +209,13 @@ TEST_F(Waiting, SaveOfAFileThatIsGoneIsToldTogetherWithAllThatItHolds) {
     EXPECT_EQ(DataFile("events.xml"), NoFile);
 }
 
+TEST_F(Waiting, SaveOfAssignmentsIsToldThoughTheirFileIsGone) {
+    fs::rename(DataFolder / "assignments_1.xml", DataFolder / "assignments_1.xml.tmp");
+    const CheckResult result = Check();
+    ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+    EXPECT_EQ(result.findings[0].file, "assignments_1.xml.tmp");
+}
+
 TEST_F(CheckedDrive, WithAssignmentsOfNoTermTellsTheFile) {
     fs::rename(DataFolder / "assignments_1.xml", DataFolder / "assignments_8.xml");
     const CheckResult result = Check();
@@ -229,22 +236,6 @@ TEST_F(CheckedDrive, WithAFileThatCannotBeReadSaysThatItCouldNotLook) {
     const CheckResult result = Check();
     EXPECT_FALSE(result.lookedAtAll);
     EXPECT_TRUE(HasFinding(result.findings, "tasks.xml", 0, ""));
-}
-
-TEST_F(CheckedDrive, OfDeletedRecordsAsksNothingOfTheirValues) {
-    ASSERT_NO_FATAL_FAILURE(Edit("events.xml", "<desc>Event 1", "<desc>DELETED RECORD"));
-    ASSERT_NO_FATAL_FAILURE(Edit("events.xml", "<time>09:00 AM", "<time>noon"));
-    EXPECT_EQ(Shown(Check().findings), "");
-}
-
-TEST_F(CheckedDrive, WithDatesThatATaskDoesNotUseHasNoFinding) {
-    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml",
-                                 "<date>2009/10/11</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>True",
-                                 "<date>//</date>\r\n  <desc>Task 1</desc>\r\n  <date_exists>False"));
-    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml", "<reminder_date>2009/10/11", "<reminder_date>//"));
-    EXPECT_EQ(Check().findings.size(), 1U) << "its reminder is on";
-    ASSERT_NO_FATAL_FAILURE(Edit("tasks.xml", "<reminder>True", "<reminder>False"));
-    EXPECT_EQ(Shown(Check().findings), "");
 }
 
 TEST_F(CheckedDrive, WithAllTheRecordsThatThereCanBeIsCheckedWithoutDelay) {

@@ -38,13 +38,13 @@ bool IsColor(const std::string& text) {
     }
 }
 
-// The last line that begins with the key, from 1 on; 0 where none does.
+// The last line with the key, which may have been cut before its "=", from 1 on; 0 where none has it.
 int LineOfKey(std::string_view bytes, const std::string& key) {
     int found = 0;
     int number = 0;
     while (const std::optional<std::string_view> line = TakeLine(bytes)) {
         ++number;
-        if (line->starts_with(key)) {
+        if (line->substr(0, line->find('=')) == key) {
             found = number;
         }
     }
@@ -58,7 +58,7 @@ void CheckColor(std::string_view bytes, const ColorColumn& column, int row, Find
     }
     const std::string key = std::string(column.key) + TypeTable.key.Item(row);
     findings.push_back({.file = std::string(PreferencesFileName),
-                        .line = LineOfKey(bytes, key + "="),
+                        .line = LineOfKey(bytes, key),
                         .field = key,
                         .fault = QuotedBeginning(color) + " is no colour",
                         .meaning = "The planner ends with an error as soon as a view shows the type."});
