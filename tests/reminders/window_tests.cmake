@@ -5,4 +5,5 @@ target_sources(window_tests PRIVATE
   reminders/ReminderYearsTest.cpp
   reminders/RemindersTest.cpp
   reminders/ShowRemindersTest.cpp
+  reminders/ViewedReminderTest.cpp
 )
