@@ -16,6 +16,9 @@ add_desktop_tests(test_homework_path ByKeyboard ByMouse)
 add_desktop_tests(test_event_path ByKeyboard ByMouse)
 add_desktop_tests(test_process
   Start StartMode SecondStart TwoStarts Tray NoTray Saving Idle Failure Tips Shutdown WindowPlace)
+add_desktop_tests(test_recovery Damaged Older)
+set_tests_properties(desktop.test_recovery.Damaged desktop.test_recovery.Older PROPERTIES
+  ENVIRONMENT "PLANOVARIUM_PROGRAM=$<TARGET_FILE:planovarium>;PLANOVARIUM_PLANCHECK=$<TARGET_FILE:plancheck>;PYTHONDONTWRITEBYTECODE=1")
 add_desktop_tests(test_help_pictures HelpPictures)
 add_desktop_tests(test_locale German)
 set_tests_properties(desktop.test_locale.German PROPERTIES FIXTURES_REQUIRED german
