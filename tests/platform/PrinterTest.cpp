@@ -4,6 +4,7 @@
 #include "support/ChildProcess.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -44,6 +45,19 @@ void AcceptInto(QPrintDialog& dialog, const QString& file, int copies) {
     dialog.printer()->setOutputFileName(file);
     dialog.printer()->setCopyCount(copies);
     dialog.QDialog::accept();
+}
+
+// Closes the message box that opens next, of which it gives the title.
+void CloseNextBox(QString& title) {
+    auto* poll = new QTimer(qApp);
+    QObject::connect(poll, &QTimer::timeout, poll, [poll, &title] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            poll->stop();
+            title = box->windowTitle();
+            box->accept();
+        }
+    });
+    poll->start(1);
 }
 
 } // namespace
@@ -88,4 +102,19 @@ TEST(Printer, PrintsAPageACopyAtItsResolution) {
             EXPECT_EQ(pdf.readAll().count("/Type /Page\n"), 3);
         },
         [&file](QPrintDialog& dialog) { AcceptInto(dialog, file, 3); }));
+}
+
+TEST(Printer, ADialogThatLeavesNothingToPrintOnIsReportedUnderItsName) {
+    QString title;
+    EXPECT_TRUE(HoldsFor(
+        [&title] {
+            PrintFields fields;
+            EXPECT_FALSE(ShowPrinter(fields));
+            EXPECT_EQ(fields, PrintFields{});
+            EXPECT_EQ(title, "DLG_PrintDialog");
+        },
+        [&title](QPrintDialog& dialog) {
+            CloseNextBox(title);
+            AcceptInto(dialog, QStringLiteral("/no such folder/page.pdf"), 2);
+        }));
 }

@@ -4,6 +4,7 @@
 #include "platform/MessageBoxes.h"
 #include "toolkit/Modal.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -32,6 +33,12 @@ PrintFields FieldsOf(const QPrintDialog& dialog, const QPrinter& printer) {
             dialog.maxPage()};
 }
 
+// Whether the dialog has left something that can be printed on.
+bool IsUsable(const QPrinter& printer) {
+    const QString file = printer.outputFileName();
+    return printer.isValid() && (file.isEmpty() || QFile(file).open(QIODevice::Append));
+}
+
 PrintArea AreaOf(const QPrinter& printer) {
     const QSize size = printer.pageLayout().paintRectPixels(printer.resolution()).size();
     return {size.width(), size.height(), printer.resolution()};
@@ -48,7 +55,7 @@ bool ShowPrinter(PrintFields& fields) {
     if (RunModally(dialog) != QDialog::Accepted) {
         return false;
     }
-    if (!chosenPrinter->isValid()) {
+    if (!IsUsable(*chosenPrinter)) {
         MsgBox("The printer cannot be used.", Buttons::Ok, Icon::Exclamation, "DLG_PrintDialog");
         return false;
     }

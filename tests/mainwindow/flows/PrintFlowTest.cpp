@@ -122,25 +122,45 @@ TEST_F(PrintFlow, OnASmallPageItIsShrunkInItsProportionsAndNeverCut) {
     }
 }
 
+TEST_F(PrintFlow, ALargePageHasNoSeams) {
+    AddAssignments(60);
+    ShowHomeworkMode(*window);
+    const QSize size = Shown().size();
+    Print();
+    const QImage page = Page({size.width() * 3, size.height() * 3, Dots() * 3});
+    QImage whole(page.size(), QImage::Format_ARGB32_Premultiplied);
+    whole.fill(Qt::white);
+    QPainter painter(&whole);
+    painter.scale(3, 3);
+    window->render(&painter, {}, QRect(QPoint(0, window->menuBar()->geometry().bottom() + 1), size));
+    painter.end();
+    EXPECT_EQ(page, whole.convertToFormat(QImage::Format_RGB32));
+}
+
 TEST_F(PrintFlow, APdfOfItLooksLikeTheWindow) {
-    AddAssignments(5);
+    AddAssignments(60);
     ShowHomeworkMode(*window);
     const QImage shown = Shown();
     Print();
     const QString file = QString::fromStdString((drive / "page.pdf").string());
+    const int dots = 2 * Dots();
     {
         QPdfWriter writer(file);
-        writer.setResolution(300);
+        writer.setResolution(dots);
         writer.setPageOrientation(QPageLayout::Landscape);
-        const QSize area = writer.pageLayout().paintRectPixels(300).size();
+        const QSize area = writer.pageLayout().paintRectPixels(dots).size();
         QPainter painter(&writer);
-        Script.printed.at(0).paint(painter, {area.width(), area.height(), 300});
+        Script.printed.at(0).paint(painter, {area.width(), area.height(), dots});
     }
-    ASSERT_EQ(
-        QProcess::execute("pdftoppm", {"-r", QString::number(Dots()), "-png", "-singlefile", file, file}), 0);
-    QImage page(file + ".png");
+    ASSERT_EQ(QProcess::execute("pdftoppm", {"-r", QString::number(dots), "-png", "-singlefile", file, file}),
+              0);
+    const QImage page(file + ".png");
     ASSERT_FALSE(page.isNull());
-    const QImage printed = page.copy(QRect(PrintedPart(page).topLeft(), shown.size()));
+    const QRect part = PrintedPart(page);
+    EXPECT_NEAR(part.width(), shown.width() * 2, 2) << "and no control stands out of it";
+    EXPECT_NEAR(part.height(), shown.height() * 2, 2);
+    const QImage printed =
+        page.copy(part).scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     EXPECT_LT(Difference(printed, shown), 10);
     EXPECT_GT(Difference(printed.mirrored(), shown), 30) << "which another picture would not pass";
 }

@@ -14,16 +14,19 @@ protected:
         LoadWindow();
     }
 
-    // Each item, a submenu by its caption and what it holds in brackets; "-" is a separator.
-    static QString Captions(const QMenu* menu) {
+    // Each item, a submenu by its caption and what it holds in brackets; "-" is a separator. Hidden items are
+    // left out, or stand in parentheses.
+    static QString Captions(const QMenu* menu, bool withHidden = false) {
         QStringList captions;
         for (const QAction* item : menu->actions()) {
             if (item->isSeparator()) {
                 captions.append("-");
-            } else if (item->isVisible()) {
+            } else if (item->isVisible() || withHidden) {
                 const QString caption = WithoutMnemonics(item->text());
-                captions.append(item->menu() == nullptr ? caption
-                                                        : caption + " [" + Captions(item->menu()) + "]");
+                captions.append(item->isVisible() ? caption : "(" + caption + ")");
+                if (item->menu() != nullptr) {
+                    captions.last() += " [" + Captions(item->menu(), withHidden) + "]";
+                }
             }
         }
         return captions.join(", ");
@@ -62,6 +65,36 @@ TEST_F(Commands, HelpMenu) {
     EXPECT_EQ(Captions(window->MenuHelp),
               "Help, Online Homework Help, Show Tips at Startup..., About Planovarium..., -");
     EXPECT_EQ(WithoutMnemonics(window->MenuData->text()), "Open Planovarium Data Folder");
+}
+
+TEST_F(Commands, HiddenItemsStandInTheirPlaces) {
+    EXPECT_EQ(
+        Captions(window->mnuFile, true),
+        "Calendar, Homework, Events, Tasks, Reminders, -, GPA, (Today's Reminders), (Study Sessions), -, "
+        "Print Screen..., Export for Printing [Homework Calendar..., Event Calendar..., Task Calendar..., "
+        "(This Homework List...), (This Task List...), (Calendar...), (Current List...)], -, Exit");
+    EXPECT_EQ(Captions(window->MenuOptions, true),
+              "Colors and Names..., Start Day of Week [Saturday, Sunday, Monday], (Launch on System Startup) "
+              "[Yes - Open Full, Yes - Open Minimized, Yes - Stay in System Tray, No]");
+    EXPECT_EQ(Captions(window->MenuHelp, true),
+              "Help, Online Homework Help, Show Tips at Startup..., About Planovarium..., -, "
+              "(Open Planovarium Data Folder)");
+    QStringList menus;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        menus.append(WithoutMnemonics(menu->text()));
+    }
+    EXPECT_EQ(menus.join(", "), "File, Edit, Options, Help");
+}
+
+TEST_F(Commands, OneItemOfTheFileMenuIsCheckedInEachMode) {
+    for (QAction* item :
+         {window->MenuHomework, window->MenuEvents, window->MenuTasks, window->MenuCalendar}) {
+        item->trigger();
+        for (const QAction* other : window->mnuFile->actions()) {
+            EXPECT_EQ(other->isChecked(), other == item) << other->text().toStdString();
+            EXPECT_TRUE(other->isEnabled() || !other->isVisible()) << other->text().toStdString();
+        }
+    }
 }
 
 TEST_F(Commands, ModeItemsEnterTheirModes) {
