@@ -36,7 +36,7 @@ if(PLANOVARIUM_SANITIZE)
     target_compile_options(planovarium_flags INTERFACE -Wno-maybe-uninitialized)
   endif()
   target_compile_options(planovarium_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -fsanitize=address -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(planovarium_flags INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -41,6 +41,8 @@ add_desktop_tests(test_pages Validator Months Lists)
 set_tests_properties(desktop.test_pages.Validator desktop.test_pages.Months desktop.test_pages.Lists PROPERTIES
   ENVIRONMENT "PLANOVARIUM_SAMPLE_PAGES=$<TARGET_FILE:sample_pages>;PYTHONDONTWRITEBYTECODE=1")
 
+add_custom_target(desktop_programs DEPENDS planovarium plancheck recorded_sound sample_pages tray_host)
+
 # The tool that shows the program's modes.
 add_test(NAME tools.test_show_modes COMMAND ${Python3_EXECUTABLE} -m unittest -v test_show_modes
   WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}/tools")

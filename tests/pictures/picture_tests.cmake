@@ -15,6 +15,7 @@ target_compile_definitions(picture_tests PRIVATE
 target_link_libraries(picture_tests PRIVATE
   planovarium_windows planovarium_logic planovarium_scripted planovarium_toolkit
   Qt6::Widgets Qt6::Test GTest::gtest)
+add_dependencies(windows_programs picture_tests)
 foreach(scale 1 2)
   add_test(NAME pictures_at_scale_${scale} COMMAND picture_tests --scale=${scale})
   set_tests_properties(pictures_at_scale_${scale} PROPERTIES LABELS windows TIMEOUT 300)

@@ -23,6 +23,11 @@ constexpr seconds TickInterval{40};
 constexpr int TicksLeftOut = 540;
 constexpr int TicksPerAction = 25;
 constexpr days SimulatedTime{3653};
+#ifdef __SANITIZE_ADDRESS__
+constexpr unsigned ShortSeeds = 1;
+#else
+constexpr unsigned ShortSeeds = 4;
+#endif
 constexpr unsigned LongSeeds = 50;
 
 Texts Sorted(Texts texts) {
@@ -31,7 +36,7 @@ Texts Sorted(Texts texts) {
 }
 
 unsigned Seeds() {
-    return std::getenv("PLANOVARIUM_LONG_WALK") == nullptr ? 4 : LongSeeds;
+    return std::getenv("PLANOVARIUM_LONG_WALK") == nullptr ? ShortSeeds : LongSeeds;
 }
 
 class ReminderYearsInTheWindow : public RemindersTest, public testing::WithParamInterface<unsigned> {

@@ -14,11 +14,11 @@ function(add_german_test label program left_out)
     ENVIRONMENT "${GERMAN};RC_PARAMS=max_success=5;QT_QPA_PLATFORM=offscreen")
 endfunction()
 
-# Left out are long walks over dates held as numbers, windows that only change their mode, and the random walk through
-# the dialogs.
+# Left out are long walks over dates held as numbers, windows that only change their mode, the random walks, the
+# simulated years and the cut files.
 add_german_test(logic logic_tests
   "RecurrenceOracle.*:*ReminderYears*:ReminderSimulation.*:StudyOfDays.AgreesWith*")
 if(PLANOVARIUM_WINDOWS)
   add_german_test(windows window_tests
-    "Modes*:Reasons/*:Refresh.*:GridClicks.*:GridKeys.*:GridAccessible.*:CalendarSteps.*:ViewMenus.*:Commands.*:RandomWalk.*")
+    "Modes*:Reasons/*:Refresh.*:GridClicks.*:GridKeys.*:GridAccessible.*:CalendarSteps.*:ViewMenus.*:Commands.*:RandomWalk.*:*WindowWalk*:EventSeriesWalk.*:*ReminderYears*:*CutFiles*")
 endif()

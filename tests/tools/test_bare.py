@@ -39,8 +39,8 @@ class BareMachine(unittest.TestCase):
         path.write_text("#!/bin/bash\n" + text + "\n")
         path.chmod(0o755)
 
-    def start(self, **options):
-        return subprocess.Popen([SOURCES / "test", "bare"], env=self.environment, stdin=subprocess.DEVNULL,
+    def start(self, parts=("bare",), **options):
+        return subprocess.Popen([SOURCES / "test", *parts], env=self.environment, stdin=subprocess.DEVNULL,
                                 stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **options)
 
     def expect(self, closing_line, succeeds, **options):
@@ -53,6 +53,15 @@ class BareMachine(unittest.TestCase):
     def test_on_which_the_commands_succeed_is_passed(self):
         self.program("chroot", TAKES_PICTURES)
         self.expect("1 passed, 0 failed", True)
+
+    def test_on_which_the_rules_were_tried_is_counted_with_them_and_they_are_not_tried_again(self):
+        self.program("chroot", TAKES_PICTURES + "\ncase ${@: -1} in *'./test logic') "
+                     "echo '100% tests passed, 0 tests failed out of 7';; esac")
+        self.program("ctest", "echo '0% tests passed, 1 tests failed out of 1'; exit 8")
+        self.program("cmake", "exit 0")
+        self.expect("8 passed, 0 failed", True, parts=("bare", "logic"))
+        self.program("debootstrap", "exit 1")
+        self.expect("0 passed, 1 failed, 1 skipped (bare: debootstrap made no root)", False, parts=("bare", "logic"))
 
     def test_on_which_a_command_fails_is_failed(self):
         for command in ("./run", "./test logic", "cmake --build"):
@@ -96,7 +105,7 @@ class BareMachine(unittest.TestCase):
                 tried = self.start()
                 with alive.open("rb") as inside:  # opens as the command inside does, and ends with it
                     runner = Path(f"/proc/{tried.pid}/task/{tried.pid}/children").read_text(encoding="ascii")
-                    os.kill(int(runner), number)
+                    os.kill(int(runner.split()[0]), number)
                     self.assertEqual(inside.read(), b"")
                 tried.communicate(timeout=LIMIT)
                 self.assertNotEqual(tried.returncode, 0)
