@@ -63,8 +63,13 @@ void frmEvent::LoadRecurrence() {
 void frmEvent::GiveRecurrence(Date endDate) {
     StoreRepeatEndDate = endDate;
     const bool sameDate = IsTrue(tempEventSameDate);
-    RecurrenceDialog->ShowState(
-        {tempEventRecurrence, tempEventRepeatDaily, sameDate, sameDate, IsTrue(tempEventRepeatEnd), endDate});
+    RecurrenceState state{.tempRecurRecurrence = tempEventRecurrence,
+                          .tempRecurMonthlySameDate = sameDate,
+                          .tempRecurYearlySameDate = sameDate,
+                          .tempRecurRepeatEnd = IsTrue(tempEventRepeatEnd),
+                          .tempRecurStoreRepeatEndDate = endDate};
+    SetDailyLetters(state, tempEventRepeatDaily);
+    RecurrenceDialog->ShowState(state);
     FollowDate();
 }
 

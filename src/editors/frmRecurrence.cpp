@@ -18,6 +18,12 @@ constexpr int MondayNumber = 2;
 constexpr char Ticked = 'T';
 constexpr char NotTicked = 'F';
 
+constexpr std::array<bool RecurrenceState::*, DaysPerWeek> RecurDays{
+    &RecurrenceState::tempRecurMonday,    &RecurrenceState::tempRecurTuesday,
+    &RecurrenceState::tempRecurWednesday, &RecurrenceState::tempRecurThursday,
+    &RecurrenceState::tempRecurFriday,    &RecurrenceState::tempRecurSaturday,
+    &RecurrenceState::tempRecurSunday};
+
 // The caption of a rule with the key that the mark names in the words which all of them have.
 QString WithKey(const ScreenText& caption, const QString& marked) {
     return FromScreen(caption).replace(QStringLiteral("of every"), marked);
@@ -45,6 +51,20 @@ void Group(QObject* owner, std::initializer_list<QRadioButton*> radios) {
 } // namespace
 
 frmRecurrence* RecurrenceDialog = nullptr;
+
+std::string DailyLetters(const RecurrenceState& state) {
+    std::string letters;
+    for (bool RecurrenceState::*const day : RecurDays) {
+        letters += state.*day ? Ticked : NotTicked;
+    }
+    return letters;
+}
+
+void SetDailyLetters(RecurrenceState& state, std::string_view letters) {
+    for (std::size_t day = 0; day < RecurDays.size(); ++day) {
+        state.*RecurDays[day] = day < letters.size() && letters[day] == Ticked;
+    }
+}
 
 frmRecurrence::frmRecurrence(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
@@ -127,7 +147,7 @@ void frmRecurrence::ShowState(const RecurrenceState& state) {
     }
     const auto boxes = DayBoxes();
     for (std::size_t day = 0; day < boxes.size(); ++day) {
-        boxes[day]->setChecked(day < state.tempRecurDaily.size() && state.tempRecurDaily[day] == Ticked);
+        boxes[day]->setChecked(state.*RecurDays[day]);
     }
     (state.tempRecurMonthlySameDate ? RadioMonthlyThisDate : RadioMonthlyUser)->setChecked(true);
     (state.tempRecurYearlySameDate ? RadioYearlyThisDate : RadioYearlyUser)->setChecked(true);
@@ -145,8 +165,9 @@ RecurrenceState frmRecurrence::CurrentState() const {
             state.tempRecurRecurrence = kind.recurrence;
         }
     }
-    for (const QCheckBox* box : DayBoxes()) {
-        state.tempRecurDaily += box->isChecked() ? Ticked : NotTicked;
+    const auto boxes = DayBoxes();
+    for (std::size_t day = 0; day < boxes.size(); ++day) {
+        state.*RecurDays[day] = boxes[day]->isChecked();
     }
     state.tempRecurMonthlySameDate = RadioMonthlyThisDate->isChecked();
     state.tempRecurYearlySameDate = RadioYearlyThisDate->isChecked();

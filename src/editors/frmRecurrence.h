@@ -12,12 +12,23 @@
 // What the controls say; the dialog remembers it as it comes up, for Cancel to put back.
 struct RecurrenceState {
     std::string tempRecurRecurrence; // "Day", "Month" or "Year"; any other text counts as "None"
-    std::string tempRecurDaily;      // a letter for each day from Monday to Sunday, "T" for a ticked one
     bool tempRecurMonthlySameDate = false;
     bool tempRecurYearlySameDate = false;
     bool tempRecurRepeatEnd = false;
     Date tempRecurStoreRepeatEndDate{};
+    bool tempRecurMonday = false; // the ticked days
+    bool tempRecurTuesday = false;
+    bool tempRecurWednesday = false;
+    bool tempRecurThursday = false;
+    bool tempRecurFriday = false;
+    bool tempRecurSaturday = false;
+    bool tempRecurSunday = false;
 };
+
+// The days as `repeat_daily` has them: a letter for each from Monday to Sunday, "T" for a ticked one. A text
+// that is too short leaves the later days out.
+std::string DailyLetters(const RecurrenceState& state);
+void SetDailyLetters(RecurrenceState& state, std::string_view letters);
 
 class frmRecurrence : public EditorDialog, public RecurrenceState, public Ui::frmRecurrence {
     Q_OBJECT

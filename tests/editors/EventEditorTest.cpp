@@ -188,7 +188,7 @@ TEST_F(EventEditor, NewEventKeepsNothingOfTheSeriesEditedBefore) {
     EXPECT_FALSE(dialog->DeleteExceptions);
     const RecurrenceState state = recurrence->CurrentState();
     EXPECT_EQ(state.tempRecurRecurrence, "None");
-    EXPECT_EQ(state.tempRecurDaily, "FFFFFFF");
+    EXPECT_EQ(DailyLetters(state), "FFFFFFF");
     EXPECT_FALSE(state.tempRecurMonthlySameDate || state.tempRecurYearlySameDate);
     EXPECT_FALSE(state.tempRecurRepeatEnd);
     EXPECT_EQ(state.tempRecurStoreRepeatEndDate, DateValue("2009/10/20"));

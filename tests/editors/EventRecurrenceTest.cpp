@@ -116,7 +116,7 @@ TEST_F(EventRecurrence, CancelLeavesTheSeriesAsItWas) {
     });
     ExpectSeries("Day", "Daily");
     EXPECT_FALSE(dialog->DeleteExceptions);
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "TFTFFFF");
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "TFTFFFF");
     EXPECT_FALSE(recurrence->CurrentState().tempRecurRepeatEnd);
 }
 
@@ -263,7 +263,7 @@ TEST_F(EventRecurrence, MovedDateEndsTheSeriesAndSaysSoOnceThePickerHasClosed) {
         EXPECT_EQ(dialog->StoreEventStartDate, DateValue(shown));
         EXPECT_EQ(dialog->StoreRepeatEndDate, DateValue(shown));
         EXPECT_EQ(recurrence->CurrentState().tempRecurRecurrence, "None");
-        EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "FFFFFFF");
+        EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "FFFFFFF");
         EXPECT_EQ(dialog->tempEventExceptions, "2009/10/21") << "the button still asks";
     }
     Script.boxes.clear();
@@ -318,5 +318,5 @@ TEST_F(EventRecurrence, NewDaysForTheMovedDateAreTaken) {
         Click(recurrence->ButtonOK);
     });
     ExpectSeries("Day", "Daily");
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "FFFFTFF");
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "FFFFTFF");
 }

@@ -108,7 +108,7 @@ TEST_F(RecurrenceDialogs, SeriesShowsItsTexts) {
     OpenFor(series);
     EXPECT_TRUE(recurrence->RadioRepeatDaily->isChecked());
     EXPECT_TRUE(recurrence->FrameDaily->isVisible());
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "TFTFFFF");
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "TFTFFFF");
     EXPECT_TRUE(recurrence->CheckBoxMonday->isChecked() && recurrence->CheckBoxWednesday->isChecked());
     EXPECT_TRUE(recurrence->CheckboxRepeatEndDate->isChecked());
     EXPECT_EQ(WithoutMnemonics(recurrence->LabelRepeatEndDate->text()), "End Date");
@@ -121,7 +121,7 @@ TEST_F(RecurrenceDialogs, BoxesAndBothPairsFollowTheRecordWhateverItsKind) {
         for (const bool sameDate : {false, true}) {
             OpenFor(
                 {.recurrence = kind, .same_date = sameDate ? "True" : "False", .repeat_daily = "FTFFFFT"});
-            EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "FTFFFFT");
+            EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "FTFFFFT");
             EXPECT_EQ(recurrence->RadioMonthlyThisDate->isChecked(), sameDate);
             EXPECT_EQ(recurrence->RadioMonthlyUser->isChecked(), !sameDate);
             EXPECT_EQ(recurrence->RadioYearlyThisDate->isChecked(), sameDate);
@@ -142,7 +142,7 @@ TEST_F(RecurrenceDialogs, RecurrenceOfAnyOtherTextShowsNone) {
 
 TEST_F(RecurrenceDialogs, ShortPatternLeavesTheLaterDaysOut) {
     OpenFor({.recurrence = "Day", .repeat_daily = "TT"});
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "TTFFFFF");
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "TTFFFFF");
 }
 
 TEST_F(RecurrenceDialogs, SecondOpeningForgetsWhatWasTouched) {
@@ -246,13 +246,13 @@ TEST_F(RecurrenceDialogs, DailyWithoutADayTicksTheWeekdayOfTheStart) {
         Click(recurrence->RadioRepeatDaily);
         std::string expected(7, 'F');
         expected[day] = 'T';
-        EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, expected);
+        EXPECT_EQ(DailyLetters(recurrence->CurrentState()), expected);
     }
     EventTexts once = On("2009/10/20");
     once.repeat_daily = "TFFFFFF";
     OpenFor(once);
     Click(recurrence->RadioRepeatDaily);
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "TFFFFFF") << "a day is ticked already";
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "TFFFFFF") << "a day is ticked already";
 }
 
 TEST_F(RecurrenceDialogs, WeekdayOfTheStartCannotBeLeftOut) {
@@ -390,7 +390,7 @@ TEST_F(RecurrenceDialogs, DailySeriesWithoutADayIsAccepted) {
     OpenFor({.recurrence = "Day"});
     Click(recurrence->ButtonOK);
     EXPECT_FALSE(recurrence->isVisible());
-    EXPECT_EQ(recurrence->CurrentState().tempRecurDaily, "FFFFFFF");
+    EXPECT_EQ(DailyLetters(recurrence->CurrentState()), "FFFFFFF");
 }
 
 TEST_F(RecurrenceDialogs, CancelWithoutAChangeAsksNothing) {
@@ -428,7 +428,7 @@ TEST_F(RecurrenceDialogs, CancelAsksAndYesPutsEverythingBack) {
         EXPECT_TRUE(recurrence->CancelledFlag && recurrence->CloseOK);
         const RecurrenceState state = recurrence->CurrentState();
         EXPECT_EQ(state.tempRecurRecurrence, "Day");
-        EXPECT_EQ(state.tempRecurDaily, "TFTFFFF");
+        EXPECT_EQ(DailyLetters(state), "TFTFFFF");
         EXPECT_TRUE(state.tempRecurMonthlySameDate && state.tempRecurYearlySameDate);
         EXPECT_FALSE(state.tempRecurRepeatEnd);
         EXPECT_EQ(state.tempRecurStoreRepeatEndDate, DateValue("2009/10/19"));

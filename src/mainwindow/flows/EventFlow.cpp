@@ -38,7 +38,7 @@ auto EnteredFields(const frmEvent& dialog) {
         EnteredField<&EventLists::repeat_number>{monthly ? dialog.tempMonthlyNumber
                                                          : dialog.tempYearlyNumber},
         EnteredField<&EventLists::repeat_day>{monthly ? dialog.tempMonthlyDay : dialog.tempYearlyDay},
-        EnteredField<&EventLists::repeat_daily>{state.tempRecurDaily},
+        EnteredField<&EventLists::repeat_daily>{DailyLetters(state)},
         EnteredField<&EventLists::end>{BooleanText(state.tempRecurRepeatEnd)},
         EnteredField<&EventLists::end_date>{StoredDate(dialog.StoreRepeatEndDate)},
         EnteredField<&EventLists::reminder>{BooleanText(dialog.CheckboxReminder->isChecked())},

@@ -8,6 +8,8 @@
 #include "mainwindow/modes/Modes.h"
 #include "persistence/modIO.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr const char* SeriesQuestion =
@@ -387,6 +389,36 @@ TEST_F(EventFlow, OccurrenceThatIsMovedLivesOnAndItsDateIsGivenUp) {
     EXPECT_EQ(Events.exceptions.Item(2), "");
     EXPECT_EQ(Events.parent_id.Item(2), "1");
     EXPECT_EQ(Script.boxes.size(), 1U) << "an occurrence is no series that could end";
+    ExpectStoreIsOnDisk();
+}
+
+TEST_F(EventFlow, UntouchedOccurrenceHasAllElseOfItsSeries) {
+    EventTexts series = Weekly();
+    series.time = "08:20 PM";
+    series.duration = "45 Minutes";
+    series.type = "TermID1-ClassID7";
+    series.same_date = "True";
+    series.end = "True";
+    series.end_date = "2009/12/18";
+    series.reminder_time = "2 Days";
+    series.reminder_alarm = "2009/10/17 20:20:00";
+    series.reminder_currentday = "2009/10/19";
+    series.reminder_nextday = "2009/10/21";
+    series.reminder_nextalarm = "2009/10/19 20:20:00";
+    series.notes = "a\r\nb";
+    AddEventRecord(series);
+    EditOccurrence(1, Ok);
+    ASSERT_EQ(Events.id.Count(), 2);
+    const std::vector<TextList EventLists::*> own{
+        &EventLists::id,        &EventLists::date,          &EventLists::recurrence, &EventLists::exceptions,
+        &EventLists::parent_id, &EventLists::repeat_number, &EventLists::repeat_day};
+    for (const Field<EventLists>& field : EventFields) {
+        if (std::ranges::find(own, field.list) == own.end()) {
+            EXPECT_EQ((Events.*field.list).Item(2), (Events.*field.list).Item(1)) << field.tag;
+        }
+    }
+    EXPECT_EQ(Events.repeat_number.Item(2), "Third");
+    EXPECT_EQ(Events.repeat_day.Item(2), "Wednesday");
     ExpectStoreIsOnDisk();
 }
 
