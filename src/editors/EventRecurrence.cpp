@@ -152,7 +152,6 @@ void frmEvent::TakeDate(Date date) {
 
 void frmEvent::TellThatTheSeriesEnded() {
     if (seriesEnded) {
-        seriesEnded = false;
         MsgBox("This event is no longer recurring. Click the Change button to set recurrences for the new "
                "date.",
                Buttons::Ok, Icon::Information);

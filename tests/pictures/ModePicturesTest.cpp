@@ -3,10 +3,8 @@
 #include "core/RowLists.h"
 #include "mainwindow/list/ListColumns.h"
 #include "mainwindow/modes/Modes.h"
-#include "pictures/PictureOptions.h"
-#include "pictures/PicturePlanner.h"
+#include "pictures/PictureTest.h"
 #include "pictures/Pictures.h"
-#include "support/WindowTest.h"
 #include "toolkit/layout/GridLayout.h"
 
 #include <QFontInfo>
@@ -32,17 +30,8 @@ constexpr std::array<PicturedMode, ModeCount> PicturedModes{{
 
 const std::array<QSize, 3> PicturedSizes{QSize(780, 575), QSize(1280, 800), QSize(1920, 1080)};
 
-class Pictures : public WindowTest {
+class Pictures : public PictureTest {
 protected:
-    void SetUp() override {
-        WindowTest::SetUp(); // noon of 14 October 2009
-        WriteData("terms.xml", TermsFile({TermText{}}));
-        LoadWindow();
-        FillPicturePlanner();
-        window->picGrid->setFocus();
-        ASSERT_EQ(window->devicePixelRatio(), PictureScale);
-    }
-
     // Shows the mode at that size of the window. Calendar is unchecked, or else Study Sessions and Reminders
     // that are entered from it would show the month.
     void Show(const PicturedMode& mode, const QSize& size) {
@@ -85,10 +74,6 @@ std::string NameOfPicture(const testing::TestParamInfo<std::tuple<PicturedMode, 
     return std::get<0>(each.param).name + SizeName(std::get<1>(each.param)).toStdString();
 }
 
-QString PictureName(const PicturedMode& mode, const QSize& size) {
-    return QStringLiteral("%1-%2-x%3").arg(QLatin1String(mode.name), SizeName(size)).arg(PictureScale);
-}
-
 } // namespace
 
 TEST(PictureFonts, AreThoseOfTheStoredPictures) {
@@ -99,19 +84,7 @@ TEST(PictureFonts, AreThoseOfTheStoredPictures) {
 TEST_P(ModePictures, AreAsStored) {
     const auto& [mode, size] = GetParam();
     ASSERT_NO_FATAL_FAILURE(Show(mode, size));
-    const QImage picture = Picture();
-    const QImage reduced = Reduced(picture, PictureScale);
-    const QString name = PictureName(mode, size);
-    if (PicturesAreStored) {
-        ASSERT_TRUE(StorePicture(name, reduced));
-        return;
-    }
-    const Difference difference = GreatestDifference(reduced, StoredPicture(name));
-    if (difference.greys > GreyTolerance) {
-        ADD_FAILURE() << name.toStdString() << " differs most from its stored picture at "
-                      << difference.place.x() << ", " << difference.place.y() << ": by " << difference.greys
-                      << " greys. What was seen is in " << KeepFailedPicture(name, picture).toStdString();
-    }
+    ExpectAsStored(QStringLiteral("%1-%2").arg(QLatin1String(mode.name), SizeName(size)), Picture());
 }
 
 INSTANTIATE_TEST_SUITE_P(Pictures, ModePictures,

@@ -1,7 +1,11 @@
 // The stored pictures of the windows: how a picture is reduced, stored and compared.
 #include "pictures/Pictures.h"
 
+#include "pictures/PictureOptions.h"
+
 #include <QDir>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -72,6 +76,22 @@ QImage StoredPicture(const QString& name) {
 
 bool StorePicture(const QString& name, const QImage& reduced) {
     return reduced.save(PathOf(StoredFolder(), name), "PNG", SmallestFile);
+}
+
+void ExpectAsStored(const QString& name, const QImage& picture) {
+    const QString nameAtScale = QStringLiteral("%1-x%2").arg(name).arg(PictureScale);
+    const QImage reduced = Reduced(picture, PictureScale);
+    if (PicturesAreStored) {
+        ASSERT_TRUE(StorePicture(nameAtScale, reduced));
+        return;
+    }
+    const Difference difference = GreatestDifference(reduced, StoredPicture(nameAtScale));
+    if (difference.greys > GreyTolerance) {
+        ADD_FAILURE() << nameAtScale.toStdString() << " differs most from its stored picture at "
+                      << difference.place.x() << ", " << difference.place.y() << ": by " << difference.greys
+                      << " greys. What was seen is in "
+                      << KeepFailedPicture(nameAtScale, picture).toStdString();
+    }
 }
 
 QString KeepFailedPicture(const QString& name, const QImage& picture) {

@@ -26,6 +26,10 @@ Difference GreatestDifference(const QImage& reduced, const QImage& stored);
 QImage StoredPicture(const QString& name);
 bool StorePicture(const QString& name, const QImage& reduced);
 
+// Compares the picture, at the scale of this process, with the stored one of that name; or stores it, where
+// the tests were started for that.
+void ExpectAsStored(const QString& name, const QImage& picture);
+
 // Keeps what a failed test has seen, and gives where: in the folder that PLANOVARIUM_FAILURES names, else in
 // "failed-pictures" beside the program.
 QString KeepFailedPicture(const QString& name, const QImage& picture);

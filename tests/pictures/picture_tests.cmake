@@ -1,5 +1,6 @@
-# The pictures of the main window. The scale holds for a whole process, so each scale is a test of its own.
+# The pictures of the main window and of the event's dialogs. The scale holds for a whole process, so each scale is a test of its own.
 add_executable(picture_tests
+  pictures/DialogPicturesTest.cpp
   pictures/ModePicturesTest.cpp
   pictures/PictureMain.cpp
   pictures/PicturePlanner.cpp
