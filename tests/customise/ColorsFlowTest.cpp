@@ -96,6 +96,17 @@ TEST_F(ColorsFlow, CancelLeavesEverythingAsItWas) {
     EXPECT_FALSE(FileWrittenFlags.classes);
 }
 
+TEST_F(ColorsFlow, AClassOfThatNameInAnotherTermKeepsItsColors) {
+    AddClassRecord({.id = "8", .term = "2", .name = "Music", .backcolor = "5"});
+    AddClassRecord({.id = "9", .name = "Music", .backcolor = "6"});
+    InDialogAndOk([] {
+        ClickRow(AlgebraRow + 2);
+        Choose(ColorsDialog->ButtonBGColor, 7);
+    });
+    EXPECT_EQ(Store.ClassRecord.backcolor.Item(3), "5");
+    EXPECT_EQ(Store.ClassRecord.backcolor.Item(4), "7");
+}
+
 TEST_F(ColorsFlow, OfTwoClassesOfOneNameTheFirstTakesTheColors) {
     Store.ClassRecord.name.Replace(2, "Algebra");
     InDialogAndOk([] {

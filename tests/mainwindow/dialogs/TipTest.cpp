@@ -30,6 +30,7 @@ TEST_F(Tips, EachShowingBeginsWithTheNextTipAndTheBoxTicked) {
     EXPECT_TRUE(dialog.CheckBoxShowTips->isChecked());
     EXPECT_EQ(dialog.ShowTips, "Yes");
     EXPECT_EQ(Shown(), FromStore(TipText(5)));
+    EXPECT_EQ(dialog.focusWidget(), dialog.ButtonNextTip);
 }
 
 TEST_F(Tips, ComingBackToItShowsTheSameTip) {

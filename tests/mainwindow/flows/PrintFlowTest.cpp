@@ -86,6 +86,14 @@ TEST_F(PrintFlow, ACancelPrintsNothingAndShowsNothing) {
     EXPECT_TRUE(Script.boxes.empty());
 }
 
+TEST_F(PrintFlow, ADialogThatTheShutdownClosesPrintsNothing) {
+    ShuttingDown = true;
+    Print();
+    ShuttingDown = false;
+    EXPECT_EQ(Script.printDialogs.size(), 1U);
+    EXPECT_TRUE(Script.printed.empty());
+}
+
 TEST_F(PrintFlow, ThePageIsTheWindowFromUnderItsMenuBarToItsStatusBar) {
     const QImage shown = Shown();
     Print();

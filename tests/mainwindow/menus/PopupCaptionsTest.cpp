@@ -196,6 +196,13 @@ TEST_F(DayMenus, CaptionsAreCutToSeventyFiveCharactersBeforeTheDots) {
     }
 }
 
+TEST_F(DayMenus, ACaptionOfSeventyFiveCharactersIsWholeAndOneOfSeventySixLosesTheLast) {
+    const std::string head = "(Not Done)  ";
+    const std::string whole = std::string(75 - head.size() - 3, 'x') + "\"&\"";
+    EXPECT_EQ(TaskCaption({.desc = whole}), head + whole + " ...");
+    EXPECT_EQ(TaskCaption({.desc = whole + "y"}), head + whole + " ...");
+}
+
 TEST_F(DayMenus, AFlagThatIsNoneIsAnError) {
     HomeworkRows.Add(AddAssignmentRecord({.done = "perhaps"}));
     RowClass.Add("Algebra");
