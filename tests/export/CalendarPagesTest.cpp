@@ -118,6 +118,11 @@ TEST_F(CalendarPageOf, ARowOfHomeworkHasTotalAndNumber) {
         << "the total comes first, and a mark of the number ends the column";
 }
 
+TEST_F(CalendarPageOf, ATotalOfAMinuteIsTold) {
+    AddAssignmentRecord({.date = "2009/10/12", .time_left = "00 : 01"});
+    EXPECT_EQ(Homework("`row 2`\n~` xredbg"), "&nbsp;0:01&nbsp;Study Left xredbg\n");
+}
+
 TEST_F(CalendarPageOf, HeadsOfHomeworkTurnBlackWithoutTimeLeftAtEveryPlace) {
     AddAssignmentRecord({.date = "2009/10/12"});
     AddAssignmentRecord({.date = "2009/10/13", .done = "True"});
