@@ -7,7 +7,6 @@
 #include "toolkit/Modal.h"
 #include "toolkit/Text.h"
 #include "toolkit/grid/ListInput.h"
-#include "toolkit/grid/ListPainting.h"
 
 #include <QSignalBlocker>
 

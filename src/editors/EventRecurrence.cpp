@@ -9,6 +9,7 @@
 #include "planner/recurrence/SeriesRule.h"
 #include "toolkit/FirstOpen.h"
 #include "toolkit/Modal.h"
+#include "toolkit/WindowColors.h"
 
 #include <algorithm>
 
@@ -16,10 +17,6 @@ namespace {
 
 constexpr QPoint RecurrenceOffset{25, 125}; // pixels from the editor's corner at the first opening
 constexpr std::string_view NoDays = "FFFFFFF";
-
-// 0xBBGGRR
-constexpr int ColorSingleEvent = 0xF0E8E2;
-constexpr int ColorSeries = 0xDCF5F5;
 
 struct Status {
     std::string_view recurrence, text;
@@ -83,7 +80,7 @@ void frmEvent::FollowDate() {
 
 void frmEvent::ShowRecurrence(std::string_view dateCaption) {
     LabelRecurStatus->setText(FromStore(StatusOf(tempEventRecurrence)));
-    SetBackColor(PicRecurring, tempEventRecurrence == NoRecurrence ? ColorSingleEvent : ColorSeries);
+    SetBackColor(PicRecurring, tempEventRecurrence == NoRecurrence ? SingleEventColor : SeriesColor);
     QString caption = FromStore(dateCaption);
     TextboxEventStartDate->setAccessibleName(caption);
     LabelDate->setText(caption.insert(caption.indexOf(QChar('a')), QChar('&')));

@@ -9,12 +9,11 @@
 #include "planner/entries/ComboRows.h"
 #include "planner/entries/TypeEntry.h"
 #include "planner/rows/Colors.h"
+#include "toolkit/WindowColors.h"
 
 namespace {
 
 constexpr std::string_view ItemName = "Task";
-constexpr int ColorNoDeadline = 0x808080;     // 0xBBGGRR
-constexpr int ColorNoDeadlineText = 0xC0C0C0; // 0xBBGGRR
 
 // The date in the text; where the task does not use it, a text that is none gives the other date.
 Date DateOrOther(bool used, const std::string& text, Date other) {
@@ -141,7 +140,7 @@ void FrmTask::FillEdit() {
 
 void FrmTask::PaintDeadline() {
     const bool on = CheckBoxDeadline->isChecked();
-    SetLabelColors(LabelDeadline, on ? ColorWhite : ColorNoDeadlineText, on ? ColorBlack : ColorNoDeadline);
+    SetLabelColors(LabelDeadline, on ? ColorWhite : StripOffColor, on ? ColorBlack : UnusedTextColor);
 }
 
 bool FrmTask::ValidateField(const QObject* field, bool /*quiet*/) {

@@ -11,16 +11,6 @@
 
 #include <QCloseEvent>
 
-namespace {
-
-// 0xBBGGRR
-constexpr int ColorBoxNotDone = 0x2D52A0;
-constexpr int ColorBoxDone = 0x008000;
-constexpr int ColorReminderOff = 0xC0C0C0;
-constexpr int ColorReminderOn = 0xFFFFFF;
-
-} // namespace
-
 bool IsComplete(const DoneControls& controls) {
     return TextOf(controls.percent) == PercentRows.back();
 }
@@ -28,7 +18,7 @@ bool IsComplete(const DoneControls& controls) {
 void SetDone(const DoneControls& controls, bool done) {
     controls.box->setChecked(done);
     for (QWidget* colored : {static_cast<QWidget*>(controls.box), controls.ground}) {
-        SetBackColor(colored, done ? ColorBoxDone : ColorBoxNotDone);
+        SetBackColor(colored, done ? DoneStripColor : NotDoneStripColor);
     }
     SetColor(controls.box, QPalette::WindowText, ColorWhite);
 }
@@ -51,7 +41,7 @@ void SetupReminder(const ReminderStrip& reminder) {
 
 void PaintReminder(const ReminderStrip& reminder) {
     const bool on = reminder.box->isChecked();
-    const int color = on ? ColorReminderOn : ColorReminderOff;
+    const int color = on ? ColorWhite : StripOffColor;
     for (QLabel* label : reminder.labels) {
         SetColor(label, QPalette::WindowText, color);
     }

@@ -12,6 +12,7 @@
 #include "planner/rows/Colors.h"
 #include "platform/MessageBoxes.h"
 #include "toolkit/ProgramStyle.h"
+#include "toolkit/WindowColors.h"
 
 namespace {
 
@@ -19,11 +20,6 @@ constexpr std::string_view ItemName = "assignment";
 constexpr std::string_view NewEstimate = "00 : 30";
 constexpr std::string_view ScoreWanted = "Enter the number score that you received on this ";
 constexpr std::string_view TotalWanted = "Enter the total number of points possible for this ";
-
-// 0xBBGGRR
-constexpr int ColorWorkLeft = 0xE1E4FF;
-constexpr int ColorFinished = 0xF0FFF0;
-constexpr int ColorNoGrade = 0x808080;
 
 } // namespace
 
@@ -156,7 +152,7 @@ void frmAssignment::FillEdit() {
 // Work is finished by the done box or the percent, also where the time left says otherwise.
 void frmAssignment::ShowTimeLeft(std::string_view text) {
     const bool finished = CheckBoxDone->isChecked() || IsComplete(DoneOf(*this));
-    SetColor(TextBoxTimeLeft, QPalette::Base, finished ? ColorFinished : ColorWorkLeft);
+    SetColor(TextBoxTimeLeft, QPalette::Base, finished ? FinishedColor : WorkLeftColor);
     ShowText(TextBoxTimeLeft, text);
 }
 
@@ -169,7 +165,7 @@ void frmAssignment::UpdateGrade() {
     const AssignmentGrade grade = ::UpdateGrade(TextOf(TextBoxScore), TextOf(TextBoxTotal));
     ShowText(TextBoxPercentage, grade.percentage);
     ShowText(TextBoxGrade, grade.letter);
-    const int color = grade.letter.empty() ? ColorNoGrade : ColorBlack;
+    const int color = grade.letter.empty() ? UnusedTextColor : ColorBlack;
     SetColor(LabelPercent, QPalette::WindowText, color);
     SetColor(LabelGrade, QPalette::WindowText, color);
 }

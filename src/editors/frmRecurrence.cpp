@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int ColorNoEndDate = 0x808080; // 0xBBGGRR
 constexpr int MondayNumber = 2;
 constexpr char Ticked = 'T';
 constexpr char NotTicked = 'F';
@@ -244,7 +243,7 @@ void frmRecurrence::ShowKind() {
 void frmRecurrence::ShowEnd() {
     const bool end = CheckboxRepeatEndDate->isChecked();
     LabelRepeatEndDate->setText(end ? QStringLiteral("End Da&te") : QStringLiteral("No End Da&te"));
-    SetColor(TextboxRepeatEndDate, QPalette::Text, end ? ColorBlack : ColorNoEndDate);
+    SetColor(TextboxRepeatEndDate, QPalette::Text, end ? ColorBlack : UnusedTextColor);
 }
 
 void frmRecurrence::ShowEndDate(Date date) {

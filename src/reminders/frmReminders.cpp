@@ -9,7 +9,6 @@
 #include "planner/reminders/ReminderPhrases.h"
 #include "toolkit/Text.h"
 #include "toolkit/grid/ListInput.h"
-#include "toolkit/grid/ListPainting.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>

@@ -12,7 +12,6 @@ namespace {
 constexpr int DaysInRow = 7;
 constexpr int HeadHeight = 16;
 constexpr int DayHeight = 18;
-constexpr int MarkedDayColor = 0x0000C0;
 
 void SetLabelBold(QLabel* label, bool bold) {
     QFont font = label->font();

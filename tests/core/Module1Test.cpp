@@ -3,6 +3,7 @@
 
 #include "core/RunTimeError.h"
 #include "support/ScriptedPlatform.h"
+#include "support/StoreRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -31,8 +32,7 @@ class ActiveTerm : public testing::Test {
 protected:
     void SetUp() override {
         ResetScript();
-        Store = {};
-        ActiveClasses = {};
+        ResetStore();
     }
 };
 

@@ -3,6 +3,7 @@ target_sources(window_tests PRIVATE
   mainwindow/dialogs/AboutTest.cpp
   mainwindow/dialogs/GPATest.cpp
   mainwindow/dialogs/TipTest.cpp
+  mainwindow/flows/ActionsTest.cpp
   mainwindow/flows/EventFlowTest.cpp
   mainwindow/flows/EventSeriesWalkTest.cpp
   mainwindow/flows/ExportFlowTest.cpp

@@ -1,6 +1,7 @@
 // The reminder window as it is loaded, its list and the snooze time: what is drawn, clicked, sorted and
 // typed.
 #include "reminders/RemindersTest.h"
+#include "toolkit/WindowColors.h"
 #include "toolkit/grid/ListScroll.h"
 
 #include <QAccessible>

@@ -18,8 +18,6 @@ constexpr QSize SplashSize{420, 220};
 constexpr QRect IconPlace{40, 60, 96, 96};
 constexpr QRect NamePlace{160, 70, 240, 44};
 constexpr QRect TitlePlace{160, 116, 240, 30};
-constexpr int NameColor = 0xFFFFFF;  // 0xBBGGRR
-constexpr int TitleColor = 0xE4D2C6; // 0xBBGGRR
 constexpr SurfaceFont NameFont{Face::Title, 20, true};
 constexpr SurfaceFont TitleFont{Face::Title, 11, false};
 
@@ -52,10 +50,10 @@ void frmSplash::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(BarColor));
     QIcon(QStringLiteral(":/icons/planovarium.svg")).paint(&painter, IconPlace);
-    painter.setPen(ToQColor(NameColor));
+    painter.setPen(ToQColor(SplashNameColor));
     painter.setFont(ToQFont(NameFont));
     painter.drawText(NamePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Planovarium"));
-    painter.setPen(ToQColor(TitleColor));
+    painter.setPen(ToQColor(SplashTitleColor));
     painter.setFont(ToQFont(TitleFont));
     painter.drawText(TitlePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Homework System"));
 }

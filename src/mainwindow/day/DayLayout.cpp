@@ -7,6 +7,7 @@
 #include "planner/dates/DateHelpers.h"
 #include "planner/rows/Colors.h"
 #include "planner/rows/RowTexts.h"
+#include "toolkit/WindowColors.h"
 
 #include <algorithm>
 #include <array>
@@ -18,9 +19,6 @@ namespace {
 constexpr int MinutesPerSlot = 5;
 constexpr int LeastLength = 5; // slots behind the first one
 constexpr int ClickMargin = 30;
-constexpr int HourLineColor = 0xC6C6C6;
-constexpr int HalfHourLine = 0xECECEC;
-constexpr int NightColor = 0xF2F2F2;
 
 constexpr std::array<std::string_view, 24> HourLabels{
     "12 AM", "1 AM", "2 AM", "3 AM", "4 AM", "5 AM", "6 AM", "7 AM", "8 AM", "9 AM", "10 AM", "11 AM",
@@ -169,7 +167,7 @@ int HalfHourColor(int halfHour) {
 }
 
 int HalfHourLineColor(int halfHour) {
-    return halfHour % 2 == 0 ? HourLineColor : HalfHourLine;
+    return halfHour % 2 == 0 ? HourLineColor : ThinLineColor;
 }
 
 std::string_view StartTimeOfHalfHour(int halfHour) {

@@ -12,13 +12,13 @@
 #include "planner/recurrence/EventOccursOn.h"
 #include "planner/rows/Colors.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowColors.h"
 #include "toolkit/grid/ListPainting.h"
 #include "toolkit/grid/ListScroll.h"
 
 namespace {
 
 constexpr SurfaceFont LabelFont{Face::List, 9, true};
-constexpr int LabelColor = 0x808080;
 constexpr int LabelRight = TimeColumnWidth - 60;
 constexpr int LabelBelowLine = 60;
 constexpr int RowsLeft = 720;
@@ -32,7 +32,7 @@ void DrawHalfHours(PictureBox& grid, int firstRow) {
         const QString label = FromStore(HalfHourLabel(halfHour));
         if (!label.isEmpty()) {
             grid.DrawText(LabelRight - TextWidth(label, LabelFont), top + LabelBelowLine, label, LabelFont,
-                          LabelColor);
+                          HourLabelColor);
         }
         grid.FillRectangle(RowsLeft, top, right - RowsLeft, SlotUnits, HalfHourColor(halfHour));
         grid.DrawLine(RowsLeft, top, right, top, HalfHourLineColor(halfHour));

@@ -8,10 +8,6 @@
 
 namespace {
 
-constexpr int HeadBackColor = 0xDCF5F5;
-constexpr int HeadForeColor = 0x5C5C5C;
-constexpr int GridLineColor = 0x808080;
-constexpr int OutOfMonthColor = 0xF5F5F5;
 constexpr int TextLeft = 270; // of a line's text behind the left of its picture
 
 constexpr SurfaceFont HeadFont{Face::List, 9, true};
@@ -32,10 +28,10 @@ void DrawCentred(PictureBox& surface, const UnitRect& box, const QString& text, 
 }
 
 void PaintHeads(PictureBox& surface, const CalendarLayout& layout, std::string_view startDayOfWeek) {
-    surface.FillRectangle(0, 0, surface.WidthInUnits(), CalendarHeadHeight, HeadBackColor);
+    surface.FillRectangle(0, 0, surface.WidthInUnits(), CalendarHeadHeight, HeadGroundColor);
     const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);
     for (std::size_t column = 0; column < heads.size(); ++column) {
-        DrawCentred(surface, layout.head[column], FromStore(heads[column]), HeadFont, HeadForeColor);
+        DrawCentred(surface, layout.head[column], FromStore(heads[column]), HeadFont, HeadTextColor);
     }
 }
 
@@ -52,22 +48,22 @@ void PaintGrounds(PictureBox& surface, const CalendarLayout& layout, const Calen
 void PaintGridLines(PictureBox& surface, const CalendarLayout& layout) {
     const int right = surface.WidthInUnits();
     const int bottom = surface.HeightInUnits();
-    surface.DrawLine(0, 0, right, 0, GridLineColor);
+    surface.DrawLine(0, 0, right, 0, EdgeLineColor);
     for (int index = 0; index < MonthCells; index += DaysPerWeek) {
         const int top = layout.cell[static_cast<std::size_t>(index)].area.top;
-        surface.DrawLine(0, top, right, top, GridLineColor);
+        surface.DrawLine(0, top, right, top, EdgeLineColor);
     }
-    surface.DrawLine(0, bottom - UnitsPerPixel, right, bottom - UnitsPerPixel, GridLineColor);
-    surface.DrawLine(0, 0, 0, bottom, GridLineColor);
+    surface.DrawLine(0, bottom - UnitsPerPixel, right, bottom - UnitsPerPixel, EdgeLineColor);
+    surface.DrawLine(0, 0, 0, bottom, EdgeLineColor);
     for (const UnitRect& head : layout.head) {
         const int edge = head.left + head.width - UnitsPerPixel;
-        surface.DrawLine(edge, 0, edge, bottom, GridLineColor);
+        surface.DrawLine(edge, 0, edge, bottom, EdgeLineColor);
     }
 }
 
 void PaintTab(PictureBox& surface, const UnitRect& tab, const CalendarMonth& month, std::size_t index) {
     surface.FillRectangle(tab.left, tab.top, tab.width, tab.height, month.CellBackColor[index]);
-    surface.DrawFrame(tab.left, tab.top, tab.width, tab.height, GridLineColor);
+    surface.DrawFrame(tab.left, tab.top, tab.width, tab.height, EdgeLineColor);
     DrawCentred(surface, tab, FromStore(month.CellText[index]),
                 {Face::Title, DayPoints, month.CellSelected[index]}, month.CellForeColor[index]);
 }

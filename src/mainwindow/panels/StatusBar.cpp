@@ -6,15 +6,13 @@
 #include "platform/Formats.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowColors.h"
 
 namespace {
 
 constexpr int TickMilliseconds = 10000;
 constexpr int TextInset = 150; // units from either edge
 constexpr int TextTop = 90;
-constexpr int DarkEdge = 0xA0A0A0;
-constexpr int LightEdge = 0xFFFFFF;
-constexpr int TextColor = 0x000000;
 constexpr SurfaceFont TextFont{Face::Status, 8, false};
 
 QString ClockText() {
@@ -32,13 +30,13 @@ void frmMain::PaintStatusBar() {
     const QString clock = ClockText();
     DescribeName(picStatusBar, FromStore(ModeCaption) + QStringLiteral(", ") + clock.simplified());
     picStatusBar->Clear(NoColor);
-    picStatusBar->DrawLine(0, 0, right, 0, DarkEdge);
-    picStatusBar->DrawLine(0, 0, 0, bottom, DarkEdge);
-    picStatusBar->DrawLine(0, bottom, right, bottom, LightEdge);
-    picStatusBar->DrawLine(right, 0, right, bottom, LightEdge);
-    picStatusBar->DrawText(TextInset, TextTop, FromStore(ModeCaption), TextFont, TextColor);
+    picStatusBar->DrawLine(0, 0, right, 0, DarkEdgeColor);
+    picStatusBar->DrawLine(0, 0, 0, bottom, DarkEdgeColor);
+    picStatusBar->DrawLine(0, bottom, right, bottom, LightEdgeColor);
+    picStatusBar->DrawLine(right, 0, right, bottom, LightEdgeColor);
+    picStatusBar->DrawText(TextInset, TextTop, FromStore(ModeCaption), TextFont, InkColor);
     picStatusBar->DrawText(picStatusBar->WidthInUnits() - TextInset - TextWidth(clock, TextFont), TextTop,
-                           clock, TextFont, TextColor);
+                           clock, TextFont, InkColor);
 }
 
 void BindStatusBar(frmMain& window) {

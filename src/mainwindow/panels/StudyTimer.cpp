@@ -4,13 +4,12 @@
 #include "mainwindow/frmMain.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowColors.h"
 
 namespace {
 
 constexpr int TickMilliseconds = 1000;
 constexpr int TimeTop = 15; // units
-constexpr int RunningColor = 0x000000;
-constexpr int RestingColor = 0xA0A0A0;
 constexpr SurfaceFont TimeFont{Face::Clock, 10, false};
 
 } // namespace
@@ -20,7 +19,7 @@ void frmMain::PaintStudyTimer() {
     DescribeValue(picTime, text);
     picTime->Clear();
     picTime->DrawText((picTime->WidthInUnits() - TextWidth(text, TimeFont)) / 2, TimeTop, text, TimeFont,
-                      Timer1->isActive() ? RunningColor : RestingColor);
+                      Timer1->isActive() ? InkColor : RestingTimeColor);
 }
 
 void BindStudyTimer(frmMain& window) {

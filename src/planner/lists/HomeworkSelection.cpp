@@ -37,12 +37,12 @@ std::vector<int> ClassOfRows() {
     const ClassPositions classes = ClassPositionsById();
     std::vector<int> positions;
     positions.reserve(HomeworkRows.values.size());
-    for (const int row : HomeworkRows) {
-        positions.push_back(ClassPositionOf(classes, Store.Assignment.class_.Item(row)));
+    for (const int position : HomeworkRows) {
+        positions.push_back(ClassPositionOf(classes, Store.Assignment.class_.Item(position)));
     }
-    for (std::size_t row = positions.size(); row-- > 1;) {
-        if (positions[row - 1] == 0) {
-            positions[row - 1] = positions[row];
+    for (std::size_t i = positions.size(); i-- > 1;) {
+        if (positions[i - 1] == 0) {
+            positions[i - 1] = positions[i];
         }
     }
     return positions;
@@ -55,12 +55,12 @@ void AddClassLooks() {
     // Of the classes met so far, by their positions.
     std::vector<std::optional<RowLook>> looks(static_cast<std::size_t>(Store.ClassRecord.id.Count()) + 1);
     RowClass.values.resize(positions.size());
-    for (std::size_t row = 0; row < positions.size(); ++row) {
-        std::optional<RowLook>& look = looks[static_cast<std::size_t>(positions[row])];
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        std::optional<RowLook>& look = looks[static_cast<std::size_t>(positions[i])];
         if (!look) {
-            look = ClassLook(positions[row]);
+            look = ClassLook(positions[i]);
         }
-        RowClass.values[row] = look->name;
+        RowClass.values[i] = look->name;
         RowForeColor.Add(look->forecolor);
         RowBackColor.Add(look->backcolor);
     }

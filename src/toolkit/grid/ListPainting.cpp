@@ -2,20 +2,15 @@
 #include "toolkit/grid/ListPainting.h"
 
 #include "toolkit/Text.h"
+#include "toolkit/WindowColors.h"
 #include "toolkit/WindowStyle.h"
-#include "toolkit/grid/ListPointer.h"
 #include "toolkit/grid/ListScroll.h"
-#include "toolkit/grid/PaintedTable.h"
-#include "toolkit/grid/SurfaceEvents.h"
 
 #include <algorithm>
 
 namespace {
 
 constexpr SurfaceFont TitleFont{Face::Title, 8, true};
-constexpr int InkColor = 0x000000;
-constexpr int PaperColor = 0xFFFFFF;
-constexpr int LineColor = 0xE0E0E0;
 constexpr int TextIndent = 75;    // of a text behind the left edge of its column
 constexpr int TextBelowLine = 60; // of a text under the line of its row
 constexpr int TextLoss = 105;     // by which a text must be narrower than its column
@@ -87,10 +82,10 @@ void DrawLines(PictureBox& surface, const std::vector<ColumnPlace>& places) {
     surface.DrawPicture(0, 0, right, TitleUnits, QLatin1String(TitlePicture)); // beside the last title
     for (const ColumnPlace& place : places) {
         const int edge = place.left + place.width - UnitsPerPixel;
-        surface.DrawLine(edge, TitleUnits, edge, bottom, LineColor);
+        surface.DrawLine(edge, TitleUnits, edge, bottom, ListLineColor);
     }
     for (int place = 2; RowTop(place) < bottom; ++place) {
-        surface.DrawLine(0, RowTop(place), right, RowTop(place), LineColor);
+        surface.DrawLine(0, RowTop(place), right, RowTop(place), ListLineColor);
     }
     surface.DrawLine(0, TitleUnits, right, TitleUnits, EdgeLineColor);
     surface.DrawLine(0, TitleUnits, 0, bottom, EdgeLineColor);
@@ -178,13 +173,6 @@ void ShowRows(PaintedList& grid, int rowCount) {
     grid.CurrentRow = std::min(grid.CurrentRow, grid.RowCount);
     DrawTitles(grid);
     DrawRows(grid);
-}
-
-void PaintList(PaintedList& grid, std::span<const ListColumn> columns, int rowCount) {
-    LayOutList(grid, columns);
-    ShowRows(grid, rowCount);
-    LookAgainUnderPointer(*grid.picGrid, [&grid](int x, int y) { return RowRectAt(grid, x, y); });
-    NotifyTableChanged(grid.picGrid);
 }
 
 void HighlightRow(const PaintedList& grid, int place, bool on) {

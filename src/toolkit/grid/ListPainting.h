@@ -1,13 +1,10 @@
 // The layout and the painting of a list.
 #pragma once
 
-#include "toolkit/WindowColors.h"
 #include "toolkit/grid/PaintedList.h"
 
 // The font of the rows.
 inline constexpr SurfaceFont ListFont{Face::List, 9, false};
-inline constexpr int EdgeLineColor = 0x808080;   // over and left of the data area
-inline constexpr int CurrentColor = AccentColor; // the frame of what the keys stand on
 
 // Puts the scroll bar at the right edge of the surface and shows it.
 void PlaceScrollBar(const PaintedList& grid);
@@ -17,9 +14,6 @@ void LayOutList(PaintedList& grid, std::span<const ListColumn> columns);
 
 // Shows so many rows under their titles on a surface that is laid out.
 void ShowRows(PaintedList& grid, int rowCount);
-
-// Both, for a surface that shows nothing else, with what the pointer and a screen reader are shown of it.
-void PaintList(PaintedList& grid, std::span<const ListColumn> columns, int rowCount);
 
 // Paints the number of the row at a place white on black while it is opened, and black on white again.
 void HighlightRow(const PaintedList& grid, int place, bool on);

@@ -2,6 +2,7 @@
 #include "toolkit/grid/PaintedList.h"
 
 #include "toolkit/grid/ListInput.h"
+#include "toolkit/grid/ListPainting.h"
 #include "toolkit/grid/ListPointer.h"
 #include "toolkit/grid/ListScroll.h"
 #include "toolkit/grid/ListTable.h"
@@ -40,6 +41,13 @@ void BindGrid(PaintedList& grid, QWidget* owner) {
     QObject::connect(grid.picGrid, &PictureBox::Released, owner,
                      [&grid](int x, int y, Qt::MouseButton button) { ReleaseList(grid, x, y, button); });
     QObject::connect(grid.picGrid, &PictureBox::Resized, owner, [&grid] { grid.RepaintGrid(); });
+}
+
+void PaintList(PaintedList& grid, std::span<const ListColumn> columns, int rowCount) {
+    LayOutList(grid, columns);
+    ShowRows(grid, rowCount);
+    LookAgainUnderPointer(*grid.picGrid, [&grid](int x, int y) { return RowRectAt(grid, x, y); });
+    NotifyTableChanged(grid.picGrid);
 }
 
 void LeaveList(PaintedList& grid) {

@@ -78,5 +78,9 @@ void BuildGrid(PaintedList& grid, std::size_t titles, QWidget* owner);
 // list anew when the surface changes its size.
 void BindGrid(PaintedList& grid, QWidget* owner);
 
+// Lays the surface out for the columns and shows so many rows, for a surface that shows nothing else, with
+// what the pointer and a screen reader are shown of it.
+void PaintList(PaintedList& grid, std::span<const ListColumn> columns, int rowCount);
+
 // Leaves the list for something else that the surface is to show: no titles, no columns.
 void LeaveList(PaintedList& grid);

@@ -4,6 +4,7 @@
 #include "mainwindow/modes/Modes.h"
 
 #include "core/RowLists.h"
+#include "toolkit/WindowColors.h"
 #include "toolkit/grid/ListPainting.h"
 
 using namespace std::chrono_literals;

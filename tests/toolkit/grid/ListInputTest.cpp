@@ -21,6 +21,11 @@ TEST_F(ListInput, AClickIsToldWithItsRow) {
     EXPECT_EQ(FramesPainted(), std::vector<int>{RowTop(3)});
 }
 
+TEST_F(ListInput, AClickOnTheLastRowIsToldWithItsRow) {
+    ClickPlace(5);
+    EXPECT_EQ(TakeAsked().row, 5);
+}
+
 TEST_F(ListInput, AClickPastTheRowsHasNoRow) {
     ClickPlace(6);
     const ListAction action = TakeAsked();
@@ -212,6 +217,14 @@ TEST_F(ListInput, ADigitSortsByTheColumnOfThatNumber) {
     EXPECT_EQ(window->SortDirection, Ascending);
     Press(Qt::Key_2, Qt::ControlModifier);
     EXPECT_EQ(window->SortColumn, KindColumn);
+}
+
+TEST_F(ListInput, TheKeysOfTheNumberPadMeanTheSame) {
+    EXPECT_TRUE(PressListKey(*window, Qt::Key_Down, Qt::KeypadModifier));
+    EXPECT_EQ(window->CurrentRow, 1);
+    EXPECT_TRUE(PressListKey(*window, Qt::Key_Enter, Qt::KeypadModifier));
+    EXPECT_EQ(TakeAsked().ask, ListAsk::Enter);
+    EXPECT_FALSE(PressListKey(*window, Qt::Key_Down, Qt::KeypadModifier | Qt::ShiftModifier));
 }
 
 TEST_F(ListInput, KeysThatMeanNothingGoOn) {

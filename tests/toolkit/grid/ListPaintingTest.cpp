@@ -119,6 +119,9 @@ TEST_F(ListPainting, ARowThatIsOpenedHasItsNumberWhiteOnBlack) {
     EXPECT_EQ(NumbersHighlighted(), QStringList{"13"});
     HighlightRow(*window, 3, false);
     EXPECT_EQ(NumbersPainted().last(), "13");
+    window->VSGridScroll->setValue(29);
+    HighlightRow(*window, 12, true);
+    EXPECT_EQ(NumbersHighlighted(), QStringList{"40"});
 }
 
 TEST_F(ListPainting, NothingIsHighlightedPastTheRowsOrWithoutAList) {

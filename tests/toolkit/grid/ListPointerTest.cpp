@@ -34,6 +34,22 @@ TEST_F(ListPointer, TheRowUnderThePointerIsShown) {
     EXPECT_EQ(window->picGrid->Hover(), std::nullopt);
 }
 
+TEST_F(ListPointer, NoRowLiesUnderTheStripOfTheScrollBarHoweverLongTheList) {
+    ShowNames(NoRow + 1);
+    PointAt({window->picGrid->width() - 5, PlacePoint(2).y()});
+    EXPECT_EQ(window->picGrid->Hover(), std::nullopt);
+    EXPECT_EQ(HoveredRow(*window), 0);
+}
+
+TEST_F(ListPointer, ARowThatTheSurfaceCutsOffHasItsTip) {
+    window->resize(window->width(), window->height() + RowHeight - 2);
+    ShowNames(40);
+    ASSERT_EQ(window->RowsVisible, 12);
+    window->rows[12].marked = true;
+    window->RepaintGrid();
+    EXPECT_EQ(Tip(CellPoint(13, MarkColumn)), "Reminder");
+}
+
 TEST_F(ListPointer, ScrollingPutsAnotherRowUnderThePointer) {
     ShowNames(40);
     PointAt(PlacePoint(2));

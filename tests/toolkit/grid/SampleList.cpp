@@ -1,5 +1,6 @@
 // A window with nothing but a painted list.
 #include "toolkit/grid/SampleList.h"
+#include "toolkit/WindowColors.h"
 
 #include <QApplication>
 #include <QVBoxLayout>
@@ -8,8 +9,8 @@
 namespace {
 
 constexpr QSize SampleSize{400, 21 + 12 * 22};
-constexpr int InkColor = 0x000000;
-constexpr int PaperColor = 0xFFFFFF;
+constexpr int Black = 0x000000;
+constexpr int White = 0xFFFFFF;
 
 GridRow RowOf(const SampleRow& row) {
     return {0x0000FF,
@@ -106,7 +107,7 @@ ListAction SampleList::TakeAsked() {
 QStringList SampleList::NumbersPainted() const {
     QStringList numbers;
     for (const DrawnItem& item : window->picGrid->Drawn()) {
-        if (item.kind == DrawnKind::Text && item.left < RowNumberRight && item.color == InkColor) {
+        if (item.kind == DrawnKind::Text && item.left < RowNumberRight && item.color == Black) {
             numbers.append(item.text);
         }
     }
@@ -116,7 +117,7 @@ QStringList SampleList::NumbersPainted() const {
 QStringList SampleList::NumbersHighlighted() const {
     QStringList numbers;
     for (const DrawnItem& item : window->picGrid->Drawn()) {
-        if (item.kind == DrawnKind::Text && item.left < RowNumberRight && item.color == PaperColor) {
+        if (item.kind == DrawnKind::Text && item.left < RowNumberRight && item.color == White) {
             numbers.append(item.text);
         }
     }
