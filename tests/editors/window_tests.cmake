@@ -1,25 +1,18 @@
 target_sources(window_tests PRIVATE
   editors/AssignmentEntriesTest.cpp
-  editors/AssignmentFlowTest.cpp
   editors/AssignmentOpeningTest.cpp
   editors/ClassPanelTest.cpp
-  editors/CutFilesWindowTest.cpp
-  editors/DeletedRecordTest.cpp
   editors/DialogKeysTest.cpp
   editors/DialogLookTest.cpp
   editors/EditorPartsTest.cpp
   editors/EditorTest.cpp
   editors/EventEditorTest.cpp
   editors/EventRecurrenceTest.cpp
-  editors/FlowRefreshTest.cpp
   editors/NotesTest.cpp
   editors/RandomWalkTest.cpp
   editors/RecurrenceDialogTest.cpp
   editors/TaskEditorTest.cpp
-  editors/TaskFlowTest.cpp
   editors/TermEditorTest.cpp
-  editors/TermFilesFlowTest.cpp
-  editors/TermFlowTest.cpp
   editors/UndoTest.cpp
   editors/picker/DatePickerStepsTest.cpp
   editors/picker/DatePickerTest.cpp

@@ -4,14 +4,22 @@ target_sources(window_tests PRIVATE
   mainwindow/dialogs/GPATest.cpp
   mainwindow/dialogs/TipTest.cpp
   mainwindow/flows/ActionsTest.cpp
+  mainwindow/flows/AssignmentFlowTest.cpp
+  mainwindow/flows/CutFilesWindowTest.cpp
+  mainwindow/flows/DeletedRecordTest.cpp
   mainwindow/flows/EventFlowTest.cpp
   mainwindow/flows/EventSeriesWalkTest.cpp
   mainwindow/flows/ExportFlowTest.cpp
-  mainwindow/flows/help/HelpFlowTest.cpp
+  mainwindow/flows/FlowRefreshTest.cpp
   mainwindow/flows/GPAFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
-  mainwindow/flows/PrintFlowTest.cpp
+  mainwindow/flows/TaskFlowTest.cpp
+  mainwindow/flows/TermFilesFlowTest.cpp
+  mainwindow/flows/TermFlowTest.cpp
+  mainwindow/flows/help/HelpFlowTest.cpp
   mainwindow/flows/help/TipFlowTest.cpp
+  mainwindow/flows/options/ColorsFlowTest.cpp
+  mainwindow/flows/paper/PrintFlowTest.cpp
   mainwindow/frame/BringForwardTest.cpp
   mainwindow/frame/ProcessTest.cpp
   mainwindow/frame/RefreshViewTest.cpp

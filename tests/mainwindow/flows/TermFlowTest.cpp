@@ -1,5 +1,5 @@
 // The flow of a term: what choosing, entering and deleting leaves in the store and on the drive.
-#include "editors/TermFlowFixture.h"
+#include "mainwindow/flows/TermFlowFixture.h"
 #include "mainwindow/frame/Unload.h"
 
 TEST_F(TermFlow, ChooserListsTheNewestTermFirst) {

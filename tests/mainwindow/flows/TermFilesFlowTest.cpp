@@ -1,6 +1,6 @@
 // The flow of a term over files that were cut short or lack a field: what is whole is all that it sees, and
 // no homework goes because a class is missing.
-#include "editors/TermFlowFixture.h"
+#include "mainwindow/flows/TermFlowFixture.h"
 
 namespace {
 
