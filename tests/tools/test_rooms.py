@@ -49,6 +49,14 @@ class Rooms(unittest.TestCase):
                     self.plant(f"mainwindow/{view}", f'"{name}"')
                     self.assert_told(f"mainwindow/{view} includes {name}")
 
+    def test_tell_of_a_view_that_refreshes_the_window(self):
+        path = self.tree / "src" / "mainwindow" / "panels" / "StudyTimer.cpp"
+        text = path.read_text(encoding="utf-8")
+        path.write_text(text + "\n// RefreshView comes later\n", encoding="utf-8")
+        self.assertEqual(self.check().returncode, 0)
+        path.write_text(text + "\nvoid Refresh(frmMain& window) { window.RefreshFor(ReasonResize); }\n", encoding="utf-8")
+        self.assert_told("src/mainwindow/panels/StudyTimer.cpp is a view and calls RefreshFor")
+
     def test_tell_of_a_rule_that_includes_a_file_procedure(self):
         self.plant("planner/study/StudyLog.cpp", '"persistence/modIO.h"')
         self.assert_told("planner/study/StudyLog.cpp includes persistence/modIO.h")

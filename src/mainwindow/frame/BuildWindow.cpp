@@ -80,11 +80,21 @@ QWidget* BuildStatusBar(frmMain& window) {
     return window.picStatusBar;
 }
 
+void BindRefresh(frmMain& window) {
+    window.RepaintGrid = [&window] {
+        window.LayoutGrid();
+        window.FillGrid();
+    };
+    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
+    QObject::connect(window.picGrid, &PictureBox::Resized, &window, &frmMain::RefreshAfterResize);
+}
+
 // Each subject binds its controls.
 void BindParts(frmMain& window) {
     BindViewMenus(window);
     BindCalendar(window);
     BindGrid(window);
+    BindRefresh(window);
     BindStatusBar(window);
     BindAlerts(window);
     BindStudyTimer(window);

@@ -105,10 +105,6 @@ int RowUnder(const frmMain& window, int x, int y) {
 
 void BindGrid(frmMain& window) {
     DescribeAsTable(window.picGrid, &window, [&window] { return TableOfView(window); });
-    window.RepaintGrid = [&window] {
-        window.LayoutGrid();
-        window.FillGrid();
-    };
     window.ActOnList = [&window](const ListAction& action) { return AskOfList(window, action); };
     TakeKeys(window.picGrid, &window, [&window](int key, Qt::KeyboardModifiers modifiers) {
         return PressGridKey(window, key, modifiers);
@@ -119,6 +115,4 @@ void BindGrid(frmMain& window) {
     QObject::connect(
         window.picGrid, &PictureBox::Released, &window,
         [&window](int x, int y, Qt::MouseButton button) { ReleaseOnGrid(window, x, y, button); });
-    // The window's own resize comes before its surfaces have their new sizes, so this hangs on the surface.
-    QObject::connect(window.picGrid, &PictureBox::Resized, &window, &frmMain::RefreshAfterResize);
 }
