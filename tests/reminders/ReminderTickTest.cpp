@@ -208,6 +208,24 @@ TEST_F(ReminderTicks, WhoseSaveFailsShowTheBoxAndKeepTheRowWithItsChangeInMemory
     EXPECT_EQ(ReadData("tasks.xml").find("<reminder_list>False"), std::string::npos);
 }
 
+TEST_F(ReminderTicks, DropTheRecordInWhichItsFileWasCutBeforeTheyWrite) {
+    AddDueTask("one");
+    AddDueTask("two");
+    WriteTasks();
+    WriteData("tasks.xml", ReadData("tasks.xml").substr(0, ReadData("tasks.xml").rfind("</desc>")));
+    Store.TaskRecord = {};
+    FileWrittenFlags = {};
+    ReadTasks();
+    ASSERT_EQ(Store.TaskRecord.id.Count(), 2) << "the beginning of the second one";
+    Tick();
+    EXPECT_EQ(Standing(), Texts{"Task 1"});
+    EXPECT_TRUE(FileWrittenFlags.tasks);
+    for (const Field<TaskLists>& field : TaskFields) {
+        EXPECT_EQ((Store.TaskRecord.*field.list).Count(), 1) << field.tag;
+    }
+    EXPECT_NE(ReadData("tasks.xml").find("<reminder_list>True"), std::string::npos);
+}
+
 TEST_F(ReminderTicks, WhoseSaveFailsAsTheShutdownComesShowNoWindow) {
     AddDueTask();
     const FailingFile failing = LetFail("tasks.xml");

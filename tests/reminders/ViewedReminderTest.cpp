@@ -3,6 +3,7 @@
 #include "mainwindow/frame/Unload.h"
 #include "planner/recurrence/SeriesEdits.h"
 #include "reminders/RemindersTest.h"
+#include "toolkit/Modal.h"
 
 using namespace std::chrono_literals;
 
@@ -205,6 +206,16 @@ TEST_F(ViewedReminder, ThatHasGoneAsItOpensOpensNothing) {
     Select("Task 1");
     Click(list->ButtonView);
     RemoveRecord(Store.TaskRecord, TaskFields, 1);
+    EXPECT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
+    EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
+
+TEST_F(ViewedReminder, OpensNothingUnderADialogThatHasComeInBetween) {
+    AddDueTask();
+    QuietTick();
+    Select("Task 1");
+    Click(list->ButtonView);
+    const ModalScope dialog;
     EXPECT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
 }
