@@ -25,6 +25,20 @@ protected:
         QCoreApplication::processEvents(); // an opening too many would come now
         return title;
     }
+
+    // Closes each editor that opens from now on, and counts them.
+    void CloseEditors() {
+        QObject::connect(&watch, &QTimer::timeout, &watch, [this] {
+            if (QWidget* editor = QApplication::activeModalWidget()) {
+                ++editorsOpened;
+                editor->close();
+            }
+        });
+        watch.start(1);
+    }
+
+    QTimer watch;
+    int editorsOpened = 0;
 };
 
 } // namespace
@@ -167,21 +181,13 @@ TEST_F(ViewedReminder, OpensOnceWhereAnActivationComesToo) {
     AddDueTask();
     QuietTick();
     Select("Task 1");
-    int opened = 0;
-    QTimer watch;
-    QObject::connect(&watch, &QTimer::timeout, &watch, [&opened] {
-        if (QWidget* editor = QApplication::activeModalWidget()) {
-            ++opened;
-            editor->close();
-        }
-    });
-    watch.start(1);
+    CloseEditors();
     Click(list->ButtonView);
     QEvent activation(QEvent::WindowActivate);
     QCoreApplication::sendEvent(window.get(), &activation);
-    EXPECT_TRUE(WaitUntil([&] { return opened > 0; }));
+    EXPECT_TRUE(WaitUntil([this] { return editorsOpened > 0; }));
     QCoreApplication::processEvents();
-    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(editorsOpened, 1);
 }
 
 TEST_F(ViewedReminder, IsLookedUpAgainAsItOpens) {
@@ -214,9 +220,11 @@ TEST_F(ViewedReminder, OpensNothingUnderADialogThatHasComeInBetween) {
     AddDueTask();
     QuietTick();
     Select("Task 1");
+    CloseEditors();
     Click(list->ButtonView);
     const ModalScope dialog;
     EXPECT_TRUE(WaitUntil([] { return !CalledFromReminders; }));
+    EXPECT_EQ(editorsOpened, 0);
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
 }
 
