@@ -2,11 +2,17 @@
 // and from OK in it to the refreshed view. The drive stands in memory, so no save waits for a device.
 #include "DialogBench.h"
 
+#include "core/FieldTables.h"
+#include "core/Module1.h"
+#include "core/Values.h"
 #include "editors/FrmTask.h"
 #include "editors/frmAssignment.h"
 #include "editors/frmCourseSchedule.h"
+#include "editors/frmEvent.h"
+#include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/frmMain.h"
@@ -64,12 +70,17 @@ void Opening(benchmark::State& state, QDialog& dialog, const Step& wish) {
     }
 }
 
-// Measures from OK until the flow has saved, refreshed and painted.
-void OkToView(benchmark::State& state, QDialog& dialog, QPushButton& ok, const Step& wish) {
+void ShowWholeTerm(frmMain& window) {
+    ShowHomeworkMode(window);
+    window.ComboDateRange->setCurrentText(QStringLiteral("Term"));
+}
+
+// Measures from OK until the flow has saved, refreshed and painted the view that is shown before.
+void OkToView(benchmark::State& state, void (*show)(frmMain&), QDialog& dialog, QPushButton& ok,
+              const Step& wish) {
+    show(*MainWindow);
     FirstPicture picture(&dialog);
     QElapsedTimer clock;
-    ShowHomeworkMode(*MainWindow);
-    MainWindow->ComboDateRange->setCurrentText(QStringLiteral("Term"));
     for (auto _ : state) {
         picture.Then([&] {
             clock.start();
@@ -113,6 +124,42 @@ void TermOpening(benchmark::State& state) {
     }
 }
 
+// A single event; a series would be asked for.
+void EditSingleEvent() {
+    int position = 1;
+    while (Store.EventRecord.recurrence.Item(position) != "None") {
+        ++position;
+    }
+    EditEvent(*MainWindow, position);
+}
+
+// In the place of the last event of all that there can be, which goes before.
+void NewLastEvent() {
+    NextEventID = ToInt16(Store.EventRecord.id.Item(Store.EventRecord.id.Count()));
+    RemoveRecord(Store.EventRecord, EventFields, Store.EventRecord.id.Count());
+    NewMorningEvent(*MainWindow);
+}
+
+void RecurrenceOpening(benchmark::State& state) {
+    FirstPicture editor(EventDialog);
+    FirstPicture picture(RecurrenceDialog);
+    QElapsedTimer clock;
+    for (auto _ : state) {
+        double seconds = 0;
+        picture.Then([&] {
+            seconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
+            RecurrenceDialog->close();
+        });
+        editor.Then([&clock] {
+            clock.start();
+            EventDialog->ButtonOpenRecur->click();
+            EventDialog->close();
+        });
+        NewMorningEvent(*MainWindow);
+        state.SetIterationTime(seconds);
+    }
+}
+
 } // namespace
 
 void RegisterDialogBenchmarks() {
@@ -126,19 +173,32 @@ void RegisterDialogBenchmarks() {
              [](benchmark::State& state) { Opening(state, *TaskDialog, [] { NewTask(*MainWindow); }); });
     Register("Open/EditTask",
              [](benchmark::State& state) { Opening(state, *TaskDialog, [] { EditTask(*MainWindow, 1); }); });
+    Register("Open/NewEvent", [](benchmark::State& state) {
+        Opening(state, *EventDialog, [] { NewMorningEvent(*MainWindow); });
+    });
+    Register("Open/EditEvent",
+             [](benchmark::State& state) { Opening(state, *EventDialog, &EditSingleEvent); });
+    Register("Open/Recurrence", RecurrenceOpening);
     Register("Open/ClassSchedule", [](benchmark::State& state) {
         Opening(state, *TermChooser, [] { ClassSchedule(*MainWindow); });
     });
     Register("Open/Term", TermOpening);
     Register("Ok/EditAssignment", [](benchmark::State& state) {
-        OkToView(state, *AssignmentDialog, *AssignmentDialog->ButtonOK,
+        OkToView(state, &ShowWholeTerm, *AssignmentDialog, *AssignmentDialog->ButtonOK,
                  [] { EditAssignment(*MainWindow, 1); });
     });
     Register("Ok/EditTask", [](benchmark::State& state) {
-        OkToView(state, *TaskDialog, *TaskDialog->ButtonOK, [] { EditTask(*MainWindow, 1); });
+        OkToView(state, &ShowWholeTerm, *TaskDialog, *TaskDialog->ButtonOK, [] { EditTask(*MainWindow, 1); });
+    });
+    Register("Ok/EditEvent", [](benchmark::State& state) {
+        OkToView(state, &ShowEventMode, *EventDialog, *EventDialog->ButtonOK, &EditSingleEvent);
+    });
+    Register("Ok/NewEvent", [](benchmark::State& state) {
+        OkToView(state, &ShowEventMode, *EventDialog, *EventDialog->ButtonOK, &NewLastEvent);
     });
     Register("Ok/Term", [](benchmark::State& state) {
         FirstPicture chooser(TermChooser);
-        OkToView(state, *TermDialog, *TermDialog->ButtonOK, [&chooser] { EditTerm(chooser); });
+        OkToView(state, &ShowWholeTerm, *TermDialog, *TermDialog->ButtonOK,
+                 [&chooser] { EditTerm(chooser); });
     });
 }

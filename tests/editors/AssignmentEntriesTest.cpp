@@ -220,6 +220,16 @@ TEST_F(AssignmentEntries, FocusThatGoesToAnotherWindowValidatesNothing) {
     EXPECT_EQ(dialog->TextBoxScore->text(), "abc");
 }
 
+TEST_F(AssignmentEntries, FocusThatGoesToAMenuOrAListOfRowsValidatesNothing) {
+    Type(dialog->TextBoxScore, "abc");
+    for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+        QFocusEvent leaving(QEvent::FocusOut, reason);
+        QCoreApplication::sendEvent(dialog->TextBoxScore, &leaving);
+        EXPECT_TRUE(Script.boxes.empty());
+        EXPECT_EQ(dialog->TextBoxScore->text(), "abc");
+    }
+}
+
 // --- Reminder and dates ------------------------------------------------------------------------------------
 
 TEST_F(AssignmentEntries, ReminderClickEnablesColoursAndSetsTheAlarm) {

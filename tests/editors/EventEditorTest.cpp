@@ -449,6 +449,8 @@ TEST_F(EventEditor, NoteOfTheDayLimitComesOnceHoweverTheFieldIsLeft) {
     QTest::keyClick(dialog->ComboDuration, Qt::Key_Tab);
     EXPECT_EQ(Script.boxes, std::vector{note});
     EXPECT_EQ(dialog->focusWidget(), dialog->CheckboxReminder);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(dialog->CheckboxReminder->isChecked()) << "which was reached and not pressed";
     typeLong();
     QTest::keyClick(dialog->ComboDuration, Qt::Key_Return);
     EXPECT_EQ(Script.boxes, std::vector{note});
