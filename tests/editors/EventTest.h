@@ -25,8 +25,19 @@ protected:
 
     // Acts in the recurrence dialog, which the button opens, until it closes.
     void InRecurrence(const std::function<void()>& act) {
-        WhenDialogOpens([act](QWidget*) { act(); });
+        WhenDialogOpens([this, act](QWidget*) {
+            act();
+            ExpectClosed(*recurrence);
+        });
         Click(dialog->ButtonOpenRecur);
+    }
+
+    // A dialog that has stayed open would hold what waits for it for ever.
+    static void ExpectClosed(QDialog& left) {
+        if (left.isVisible()) {
+            ADD_FAILURE() << left.objectName().toStdString() << " has stayed open";
+            left.close();
+        }
     }
 
     // A weekly series of study on Mondays and Wednesdays from Monday 19 October 2009 on.

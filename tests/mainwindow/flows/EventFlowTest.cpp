@@ -26,12 +26,18 @@ protected:
 
     // Runs the flow while the student acts in the dialog.
     void New(const std::function<void()>& act) {
-        WhenDialogOpens([act](QWidget*) { act(); });
+        WhenDialogOpens([this, act](QWidget*) {
+            act();
+            ExpectClosed(*dialog);
+        });
         NewEvent(*window);
     }
 
     void Edit(int position, const std::function<void()>& act, Date day = Clicked) {
-        WhenDialogOpens([act](QWidget*) { act(); });
+        WhenDialogOpens([this, act](QWidget*) {
+            act();
+            ExpectClosed(*dialog);
+        });
         EditEvent(*window, position, day);
     }
 
