@@ -136,6 +136,7 @@ int main(int argc, char** argv) {
     if (!LoadPlanner(window)) {
         return 1;
     }
+    window.TimerTip->stop(); // a tip would wait for the student between the dialogs
     FillPlanner(window);
     window.resize(WindowSize);
     window.show();
