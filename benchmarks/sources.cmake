@@ -6,4 +6,5 @@ target_sources(planovarium_bench PRIVATE
   RecurrenceBench.cpp
   RemindersBench.cpp
   StudyBench.cpp
+  Yardsticks.cpp
 )

@@ -11,5 +11,5 @@ function(add_tool_tests label)
   endforeach()
 endfunction()
 
-add_tool_tests(desktop bare check_tidy rooms)
+add_tool_tests(desktop bare check_budgets check_tidy rooms)
 add_tool_tests(drive help_book sound)
