@@ -2,6 +2,7 @@
 #include "ReminderBench.h"
 
 #include "core/DateText.h"
+#include "core/Module1.h"
 #include "planner/dates/DateHelpers.h"
 #include "reminders/frmReminders.h"
 #include "support/Reminders.h"
@@ -36,6 +37,7 @@ void FillStore(int due) {
     Store.TaskRecord = {};
     Store.Assignment = {};
     Store.EventRecord = {};
+    NextTaskID = NextAssignmentID = NextEventID = 1;
     for (int i = 1; i <= GreatestRecords; ++i) {
         const std::string day = StoredDate(Today() + std::chrono::days{1 + i % 365});
         AddTaskRecord(ArmedTask({.date = day}, i <= due ? yesterday : day, "09:00 AM"));
