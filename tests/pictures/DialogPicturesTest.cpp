@@ -7,6 +7,8 @@
 #include "pictures/Pictures.h"
 #include "support/EventRecords.h"
 
+#include <QLineEdit>
+
 namespace {
 
 class DialogPictures : public PictureTest {
@@ -25,6 +27,10 @@ protected:
     static void ExpectPicture(QWidget& dialog, const char* name) {
         dialog.activateWindow();
         ASSERT_TRUE(WaitUntil([&dialog] { return dialog.isActiveWindow(); }));
+        // Whether the toolkit moves the caret depends on when the window system activates the dialog.
+        if (auto* const field = qobject_cast<QLineEdit*>(dialog.focusWidget())) {
+            field->end(false);
+        }
         ExpectAsStored(QLatin1String(name), dialog.grab().toImage());
     }
 };
