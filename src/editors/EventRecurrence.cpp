@@ -64,6 +64,7 @@ void frmEvent::GiveRecurrence(Date endDate) {
                           .tempRecurMonthlySameDate = sameDate,
                           .tempRecurYearlySameDate = sameDate,
                           .tempRecurRepeatEnd = IsTrue(tempEventRepeatEnd),
+                          .tempRecurRepeatEndDate = FormatDate(endDate, "Long Date"),
                           .tempRecurStoreRepeatEndDate = endDate};
     SetDailyLetters(state, tempEventRepeatDaily);
     RecurrenceDialog->ShowState(state);

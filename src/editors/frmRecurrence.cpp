@@ -151,7 +151,8 @@ void frmRecurrence::ShowState(const RecurrenceState& state) {
     (state.tempRecurMonthlySameDate ? RadioMonthlyThisDate : RadioMonthlyUser)->setChecked(true);
     (state.tempRecurYearlySameDate ? RadioYearlyThisDate : RadioYearlyUser)->setChecked(true);
     CheckboxRepeatEndDate->setChecked(state.tempRecurRepeatEnd);
-    ShowEndDate(state.tempRecurStoreRepeatEndDate);
+    StoreRepeatEndDate = state.tempRecurStoreRepeatEndDate;
+    ShowText(TextboxRepeatEndDate, FromScreen(state.tempRecurRepeatEndDate));
     ShowKind();
     ShowEnd();
     filling = false;
@@ -171,6 +172,7 @@ RecurrenceState frmRecurrence::CurrentState() const {
     state.tempRecurMonthlySameDate = RadioMonthlyThisDate->isChecked();
     state.tempRecurYearlySameDate = RadioYearlyThisDate->isChecked();
     state.tempRecurRepeatEnd = CheckboxRepeatEndDate->isChecked();
+    state.tempRecurRepeatEndDate = {TextboxRepeatEndDate->text().toStdString()};
     state.tempRecurStoreRepeatEndDate = StoreRepeatEndDate;
     return state;
 }

@@ -15,6 +15,7 @@ struct RecurrenceState {
     bool tempRecurMonthlySameDate = false;
     bool tempRecurYearlySameDate = false;
     bool tempRecurRepeatEnd = false;
+    ScreenText tempRecurRepeatEndDate; // as its box shows it
     Date tempRecurStoreRepeatEndDate{};
     bool tempRecurMonday = false; // the ticked days
     bool tempRecurTuesday = false;

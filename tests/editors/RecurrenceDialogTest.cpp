@@ -441,6 +441,19 @@ TEST_F(RecurrenceDialogs, CancelAsksAndYesPutsEverythingBack) {
     }
 }
 
+TEST_F(RecurrenceDialogs, CancelPutsBackTheEndDateAsItWasShown) {
+    OpenFor(Weekly());
+    EXPECT_EQ(recurrence->tempRecurRepeatEndDate.utf8, "Monday, October 19, 2009");
+    recurrence->tempRecurRepeatEndDate = {"Montag, 19. März"};
+    PickEndDate("2009/11/05");
+    Script.answers = {Answer::Yes};
+    Click(recurrence->ButtonCancel);
+    EXPECT_EQ(recurrence->TextboxRepeatEndDate->text(), "Montag, 19. März");
+    EXPECT_EQ(recurrence->StoreRepeatEndDate, DateValue("2009/10/19"));
+    Reopen();
+    EXPECT_EQ(recurrence->tempRecurRepeatEndDate.utf8, "Montag, 19. März") << "remembered as it is shown";
+}
+
 TEST_F(RecurrenceDialogs, CloseThatIsNotTheStudentsPasses) {
     OpenFor(Weekly());
     Click(recurrence->CheckBoxFriday);
