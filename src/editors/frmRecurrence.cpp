@@ -14,14 +14,6 @@
 namespace {
 
 constexpr int MondayNumber = 2;
-constexpr char Ticked = 'T';
-constexpr char NotTicked = 'F';
-
-constexpr std::array<bool RecurrenceState::*, DaysPerWeek> RecurDays{
-    &RecurrenceState::tempRecurMonday,    &RecurrenceState::tempRecurTuesday,
-    &RecurrenceState::tempRecurWednesday, &RecurrenceState::tempRecurThursday,
-    &RecurrenceState::tempRecurFriday,    &RecurrenceState::tempRecurSaturday,
-    &RecurrenceState::tempRecurSunday};
 
 // The caption of a rule with the key that the mark names in the words which all of them have.
 QString WithKey(const ScreenText& caption, const QString& marked) {
@@ -50,20 +42,6 @@ void Group(QObject* owner, std::initializer_list<QRadioButton*> radios) {
 } // namespace
 
 frmRecurrence* RecurrenceDialog = nullptr;
-
-std::string DailyLetters(const RecurrenceState& state) {
-    std::string letters;
-    for (bool RecurrenceState::*const day : RecurDays) {
-        letters += state.*day ? Ticked : NotTicked;
-    }
-    return letters;
-}
-
-void SetDailyLetters(RecurrenceState& state, std::string_view letters) {
-    for (std::size_t day = 0; day < RecurDays.size(); ++day) {
-        state.*RecurDays[day] = day < letters.size() && letters[day] == Ticked;
-    }
-}
 
 frmRecurrence::frmRecurrence(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
@@ -135,47 +113,6 @@ void frmRecurrence::BindControls() {
 }
 
 // --- Opening -----------------------------------------------------------------------------------------------
-
-void frmRecurrence::ShowState(const RecurrenceState& state) {
-    filling = true;
-    RadioRepeatNone->setChecked(true);
-    for (const Kind& kind : Kinds()) {
-        if (kind.recurrence == state.tempRecurRecurrence) {
-            kind.radio->setChecked(true);
-        }
-    }
-    const auto boxes = DayBoxes();
-    for (std::size_t day = 0; day < boxes.size(); ++day) {
-        boxes[day]->setChecked(state.*RecurDays[day]);
-    }
-    (state.tempRecurMonthlySameDate ? RadioMonthlyThisDate : RadioMonthlyUser)->setChecked(true);
-    (state.tempRecurYearlySameDate ? RadioYearlyThisDate : RadioYearlyUser)->setChecked(true);
-    CheckboxRepeatEndDate->setChecked(state.tempRecurRepeatEnd);
-    StoreRepeatEndDate = state.tempRecurStoreRepeatEndDate;
-    ShowText(TextboxRepeatEndDate, FromScreen(state.tempRecurRepeatEndDate));
-    ShowKind();
-    ShowEnd();
-    filling = false;
-}
-
-RecurrenceState frmRecurrence::CurrentState() const {
-    RecurrenceState state;
-    for (const Kind& kind : Kinds()) {
-        if (kind.radio->isChecked()) {
-            state.tempRecurRecurrence = kind.recurrence;
-        }
-    }
-    const auto boxes = DayBoxes();
-    for (std::size_t day = 0; day < boxes.size(); ++day) {
-        state.*RecurDays[day] = boxes[day]->isChecked();
-    }
-    state.tempRecurMonthlySameDate = RadioMonthlyThisDate->isChecked();
-    state.tempRecurYearlySameDate = RadioYearlyThisDate->isChecked();
-    state.tempRecurRepeatEnd = CheckboxRepeatEndDate->isChecked();
-    state.tempRecurRepeatEndDate = {TextboxRepeatEndDate->text().toStdString()};
-    state.tempRecurStoreRepeatEndDate = StoreRepeatEndDate;
-    return state;
-}
 
 // Each caption has a key of its own in the dialog.
 void frmRecurrence::SetEventDate(Date date) {

@@ -9,7 +9,8 @@
 
 #include <array>
 
-// What the controls say; the dialog remembers it as it comes up, for Cancel to put back.
+// What the controls say; the dialog remembers it as it comes up, for Cancel to put back. RecurrenceState.cpp
+// sets the controls by it and reads it from them.
 struct RecurrenceState {
     std::string tempRecurRecurrence; // "Day", "Month" or "Year"; any other text counts as "None"
     bool tempRecurMonthlySameDate = false;

@@ -15,6 +15,7 @@ target_sources(planovarium_windows PRIVATE
   editors/ItemEditor.cpp
   editors/ItemEditor.h
   editors/ItemParts.cpp
+  editors/RecurrenceState.cpp
   editors/frmAssignment.cpp
   editors/frmAssignment.h
   editors/frmAssignment.ui
