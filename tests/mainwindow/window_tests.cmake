@@ -13,6 +13,7 @@ target_sources(window_tests PRIVATE
   mainwindow/flows/FlowRefreshTest.cpp
   mainwindow/flows/GPAFlowTest.cpp
   mainwindow/flows/PreferencesFlowTest.cpp
+  mainwindow/flows/SeriesModel.cpp
   mainwindow/flows/TaskFlowTest.cpp
   mainwindow/flows/TermFilesFlowTest.cpp
   mainwindow/flows/TermFlowTest.cpp

@@ -1,234 +1,247 @@
-// A student who enters, changes, moves and gives up events and series at random, through the real dialogs,
-// beside a model in plain values that knows nothing of the program's own rules.
+// A student who enters series one after the other and edits, moves, gives up and deletes them and their
+// occurrences at random, through the real dialogs, beside a model in plain values. After each action the
+// lists of the store are equally long and hold what the model says, the drive reads back the same, the days
+// of three months have as many events as in the model, and no child is left without its series. With
+// PLANOVARIUM_LONG_WALK set there are ten times as many series.
 #include "mainwindow/flows/EventFlow.h"
 
 #include "core/DateText.h"
 #include "editors/EventTest.h"
+#include "mainwindow/flows/SeriesModel.h"
 #include "persistence/modIO.h"
 #include "planner/lists/EventMarks.h"
 
 #include <algorithm>
+#include <map>
+#include <optional>
 #include <random>
-#include <set>
 
 namespace {
 
 using std::chrono::days;
+using std::chrono::months;
 
-constexpr int Steps = 400;
-constexpr int LongSteps = 4000;
-constexpr int Months = 3;
+#ifdef __SANITIZE_ADDRESS__
+constexpr int SeriesOfAShare = 50;
+#else
+constexpr int SeriesOfAShare = 500;
+#endif
+constexpr unsigned Shares = 4;
+constexpr int LongFactor = 10;
 constexpr std::size_t MostEvents = 12; // so that each is edited again and again
+constexpr std::chrono::year_month FirstMonth{std::chrono::year(2007), std::chrono::January};
+constexpr int MonthsToBeginIn = 72;
+constexpr std::array ShownMonths{months{0}, months{1}, months{12}}; // from that in which the series begins
 
-const Date FirstDay = DateValue("2009/09/27");
+constexpr std::array<const char*, 4> KindNames{"None", "Day", "Month", "Year"};
 
-// What an event is to the model.
-struct ModelEvent {
-    int id = 0;
-    Date date{};
-    std::string kind = "None";
-    std::string daily = "FFFFFFF";
-    bool sameDate = false;
-    bool end = false;
-    Date endDate{};
-    std::set<Date> givenUp{};
-    int parent = 0;
+enum class Close { Ok, Cancel, Delete };
+
+// An event while its editor is open. What is not chosen now keeps its rule until the event is saved.
+struct Edited {
+    ModelEvent event;
+    bool monthlySameDate = event.sameDate;
+    bool yearlySameDate = event.sameDate;
+    bool exceptionsVoid = false;
 };
 
-int DayNumber(Date date) {
-    return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day(date).day()));
+ModelEvent Saved(const Edited& edited) {
+    ModelEvent event = edited.event;
+    event.sameDate = event.kind == "Month" ? edited.monthlySameDate : edited.yearlySameDate;
+    if (edited.exceptionsVoid) {
+        event.givenUp.clear();
+    }
+    return event;
 }
 
-int MonthNumber(Date date) {
-    return static_cast<int>(static_cast<unsigned>(std::chrono::year_month_day(date).month()));
-}
-
-// From Monday 0 to Sunday 6.
-std::size_t DayOfWeek(Date date) {
-    return std::chrono::weekday(date).iso_encoding() - 1;
-}
-
-bool IsLastOfMonth(Date date) {
-    return DayNumber(date + days{1}) == 1;
-}
-
-// The rule of a monthly or yearly series without its month.
-bool FallsOnDay(const ModelEvent& event, Date day) {
-    const int start = DayNumber(event.date);
-    if (event.sameDate) {
-        return DayNumber(day) == start || (start > 28 && IsLastOfMonth(day) && DayNumber(day) < start);
-    }
-    if (IsLastOfMonth(event.date)) {
-        return IsLastOfMonth(day);
-    }
-    if (DayOfWeek(day) != DayOfWeek(event.date)) {
-        return false;
-    }
-    return start > 28 ? DayNumber(day + days{7}) <= 7 : (DayNumber(day) - 1) / 7 == (start - 1) / 7;
-}
-
-bool Occurs(const ModelEvent& event, Date day) {
-    if (event.givenUp.contains(day)) {
-        return false;
-    }
-    if (day <= event.date || event.kind == "None") {
-        return day == event.date;
-    }
-    if (event.end && day > event.endDate) {
-        return false;
-    }
-    if (event.kind == "Day") {
-        return event.daily[DayOfWeek(day)] == 'T';
-    }
-    return FallsOnDay(event, day) && (event.kind == "Month" || MonthNumber(day) == MonthNumber(event.date));
-}
-
-class EventSeriesWalk : public EventTest {
+class EventSeriesWalk : public EventTest, public testing::WithParamInterface<unsigned> {
 protected:
+    void SetUp() override {
+        EventTest::SetUp();
+        window->EventClickedStartTime = "9:00 AM";
+        dice.seed(GetParam());
+        for (QWidget* painted : std::initializer_list<QWidget*>{window.get(), dialog, recurrence}) {
+            painted->setUpdatesEnabled(false); // nobody looks at their pixels
+        }
+    }
+
     int Roll(int sides) { return static_cast<int>(dice() % static_cast<unsigned>(sides)); }
 
-    Date AnyDay() { return FirstDay + days{Roll(120)}; }
+    std::size_t RollIndex(std::size_t count) {
+        return static_cast<std::size_t>(Roll(static_cast<int>(count)));
+    }
 
-    void Step();
-    void StepNew();
-    void StepWhole(std::size_t index);
-    void StepOccurrence(std::size_t index, Date day);
+    // The actions, each with what the model makes of it.
+    void EnterSeries();
+    void EditSome();
+    void EnterSome();
+    void EditWhole(std::size_t index, Close close);
+    void EditOccurrence(std::size_t index, Date day);
+    std::vector<Date> ShownDaysOf(const ModelEvent& event) const;
 
-    void InFlow(const std::function<void()>& flow, const std::function<void()>& act) {
+    // What is done within an editor.
+    void InEditor(const std::function<void()>& flow, const std::function<void()>& act) {
         WhenDialogOpens([act](QWidget*) { act(); });
         flow();
     }
 
-    // Each does something at random in the dialog, and the same to the event and to what is void with it.
-    void Change(ModelEvent& event, bool& exceptionsVoid);
-    void MoveDate(ModelEvent& event, bool& exceptionsVoid);
-    void ChangeRecurrence(ModelEvent& event, bool& exceptionsVoid);
-    bool ActInRecurrence(ModelEvent& event, bool& monthly, bool& yearly);
+    void CloseBy(Close close);
+    void Change(Edited& edited);
+    void MoveDate(Edited& edited);
+    void ChangeRecurrence(Edited& edited, std::optional<std::size_t> kind);
+    void ChangeRules(Edited& edited, bool& touched);
     Date PickIn(DatePicker& picker, QWidget* button);
-
-    void Cancel() {
-        Script.answers = {Answer::Yes};
-        Click(dialog->ButtonCancel);
-        Script.answers.clear();
-    }
-
-    void Delete() {
-        Script.answers = {Answer::Yes};
-        Click(dialog->ButtonDelete);
-        Script.answers.clear();
-    }
 
     void RemoveChildren(int id) {
         std::erase_if(model, [id](const ModelEvent& event) { return event.parent == id; });
     }
 
+    // Does it, and expects the four things to hold behind it.
+    void Do(const std::function<void()>& action);
     void ExpectAsModelled();
     void ExpectMarks();
 
-    std::mt19937 dice{20091014};
+    std::mt19937 dice;
     std::vector<ModelEvent> model;
+    std::chrono::year_month month = FirstMonth; // in which the last series begins
     int nextId = 1;
-    int occurrences = 0, deletedSeries = 0, movedSeries = 0, voided = 0;
+    int lastSeries = 0; // its id
+    // How often each came about.
+    std::map<std::string, int> done{{"kind", 0},          {"days", 0},           {"rank", 0},
+                                    {"end", 0},           {"date moved", 0},     {"occurrence moved", 0},
+                                    {"given up", 0},      {"series deleted", 0}, {"cancelled", 0},
+                                    {"children void", 0}, {"end refused", 0}};
 };
 
-void EventSeriesWalk::Step() {
-    window->ClickedDate = AnyDay();
-    window->EventClickedStartTime = "9:00 AM";
-    if (model.empty() || (model.size() < MostEvents && Roll(3) == 0)) {
-        return StepNew();
-    }
-    const auto index = static_cast<std::size_t>(Roll(static_cast<int>(model.size())));
-    std::vector<Date> on;
-    for (int day = 0; day < 42 * Months; ++day) {
-        if (Occurs(model[index], FirstDay + days{day})) {
-            on.push_back(FirstDay + days{day});
-        }
-    }
-    if (model[index].kind != "None" && !on.empty() && Roll(2) == 0) {
-        return StepOccurrence(index, on[static_cast<std::size_t>(Roll(static_cast<int>(on.size())))]);
-    }
-    StepWhole(index);
+// --- The actions -------------------------------------------------------------------------------------------
+
+void EventSeriesWalk::EnterSeries() {
+    month = FirstMonth + months{Roll(MonthsToBeginIn)};
+    window->ClickedDate = std::chrono::local_days(month / 1) + days{Roll(31)};
+    Edited edited{{.id = nextId, .date = window->ClickedDate, .endDate = window->ClickedDate}};
+    InEditor([this] { NewEvent(*window); },
+             [&] {
+                 ChangeRecurrence(edited, 1 + RollIndex(KindNames.size() - 1));
+                 CloseBy(Close::Ok);
+             });
+    model.push_back(Saved(edited));
+    lastSeries = nextId++;
 }
 
-void EventSeriesWalk::StepNew() {
-    ModelEvent event{.date = window->ClickedDate, .endDate = window->ClickedDate};
-    const bool cancelled = Roll(6) == 0;
-    bool exceptionsVoid = false;
-    InFlow([this] { NewEvent(*window); },
-           [&] {
-               Change(event, exceptionsVoid);
-               cancelled ? Cancel() : Click(dialog->ButtonOK);
-           });
-    if (!cancelled) {
-        event.id = nextId++;
-        model.push_back(event);
+void EventSeriesWalk::EditSome() {
+    const auto last = std::ranges::find(model, lastSeries, &ModelEvent::id);
+    if (model.empty() || Roll(10) == 0) {
+        return EnterSome();
+    }
+    const std::size_t index = last == model.end() || Roll(3) == 0
+                                  ? RollIndex(model.size())
+                                  : static_cast<std::size_t>(last - model.begin());
+    const std::vector<Date> shown = ShownDaysOf(model[index]);
+    if (model[index].kind != "None" && !shown.empty() && Roll(2) == 0) {
+        return EditOccurrence(index, shown[RollIndex(shown.size())]);
+    }
+    const int close = Roll(8);
+    EditWhole(index, close == 0 ? Close::Cancel : close == 1 ? Close::Delete : Close::Ok);
+}
+
+void EventSeriesWalk::EnterSome() {
+    Edited edited{{.id = nextId, .date = window->ClickedDate, .endDate = window->ClickedDate}};
+    const Close close = Roll(2) == 0 ? Close::Cancel : Close::Ok;
+    InEditor([this] { NewEvent(*window); },
+             [&] {
+                 Change(edited);
+                 CloseBy(close);
+             });
+    if (close == Close::Ok) {
+        model.push_back(Saved(edited));
+        ++nextId;
     }
 }
 
-void EventSeriesWalk::StepWhole(std::size_t index) {
-    ModelEvent event = model[index];
-    const int answer = Roll(8);
-    bool exceptionsVoid = false;
+void EventSeriesWalk::EditWhole(std::size_t index, Close close) {
+    Edited edited{model[index]};
+    const bool wasSeries = edited.event.kind != "None";
     Script.answers.clear();
-    if (event.kind != "None") {
+    if (wasSeries) {
         Script.answers = {Answer::Yes};
     }
-    InFlow([&] { EditEvent(*window, static_cast<int>(index) + 1, window->ClickedDate); },
-           [&] {
-               Change(event, exceptionsVoid);
-               answer == 0 ? Cancel() : answer == 1 ? Delete() : Click(dialog->ButtonOK);
-           });
-    if (answer == 1) {
+    InEditor([&] { EditEvent(*window, static_cast<int>(index) + 1, window->ClickedDate); },
+             [&] {
+                 Change(edited);
+                 CloseBy(close);
+             });
+    if (close == Close::Delete) {
         model.erase(model.begin() + static_cast<std::ptrdiff_t>(index));
-        RemoveChildren(event.id);
-        ++deletedSeries;
-    } else if (answer > 1) {
-        if (exceptionsVoid) {
-            event.givenUp.clear();
-            ++voided;
-        }
-        model[index] = event;
-        if (exceptionsVoid) {
-            RemoveChildren(event.id);
-        }
+        done["series deleted"] += wasSeries ? 1 : 0;
+    } else if (close == Close::Ok) {
+        model[index] = Saved(edited);
+    }
+    if (close == Close::Delete || (close == Close::Ok && edited.exceptionsVoid)) {
+        const std::size_t before = model.size();
+        RemoveChildren(edited.event.id);
+        done["children void"] += before > model.size() ? 1 : 0;
     }
 }
 
-void EventSeriesWalk::StepOccurrence(std::size_t index, Date day) {
-    ModelEvent child = model[index];
-    child.date = day;
-    child.kind = "None";
-    child.givenUp.clear();
-    child.parent = model[index].id;
-    const int answer = Roll(5);
-    bool exceptionsVoid = false;
+void EventSeriesWalk::EditOccurrence(std::size_t index, Date day) {
+    Edited child{model[index]};
+    child.event.date = day;
+    child.event.kind = "None";
+    child.event.givenUp.clear();
+    child.event.parent = model[index].id;
+    const Close close = std::array{Close::Cancel, Close::Delete, Close::Ok, Close::Ok}[RollIndex(4)];
     Script.answers = {Answer::No};
-    InFlow([&] { EditEvent(*window, static_cast<int>(index) + 1, day); },
-           [&] {
-               Change(child, exceptionsVoid);
-               answer == 0 ? Cancel() : answer == 1 ? Delete() : Click(dialog->ButtonOK);
-           });
-    if (answer == 0) {
+    InEditor([&] { EditEvent(*window, static_cast<int>(index) + 1, day); },
+             [&] {
+                 Change(child);
+                 CloseBy(close);
+             });
+    if (close == Close::Cancel) {
         return;
     }
-    ++occurrences;
-    model[index].givenUp.insert(day);
-    if (answer > 1) {
-        child.id = nextId++;
-        model.push_back(child);
+    model[index].givenUp.push_back(day);
+    done["given up"] += close == Close::Delete ? 1 : 0;
+    if (close == Close::Ok) {
+        done["occurrence moved"] += child.event.date != day ? 1 : 0;
+        child.event.id = nextId++;
+        model.push_back(Saved(child));
     }
+}
+
+// The days of the months that are looked at on which the event is, so that one can be clicked there.
+std::vector<Date> EventSeriesWalk::ShownDaysOf(const ModelEvent& event) const {
+    std::vector<Date> on;
+    for (const months ahead : ShownMonths) {
+        const auto cells = CellsOf(month + ahead);
+        std::ranges::copy_if(cells, std::back_inserter(on), [&](Date day) { return Occurs(event, day); });
+    }
+    return on;
 }
 
 // --- In the dialogs ----------------------------------------------------------------------------------------
 
-void EventSeriesWalk::Change(ModelEvent& event, bool& exceptionsVoid) {
+void EventSeriesWalk::CloseBy(Close close) {
+    Script.answers.clear();
+    if (close != Close::Ok) {
+        Script.answers = {Answer::Yes};
+    }
+    done["cancelled"] += close == Close::Cancel ? 1 : 0;
+    Click(close == Close::Ok       ? dialog->ButtonOK
+          : close == Close::Cancel ? dialog->ButtonCancel
+                                   : dialog->ButtonDelete);
+    ExpectClosed(*dialog);
+}
+
+void EventSeriesWalk::Change(Edited& edited) {
     for (int change = Roll(3); change > 0; --change) {
-        if (Roll(4) == 0) {
-            MoveDate(event, exceptionsVoid);
-        } else if (event.parent == 0) {
-            ChangeRecurrence(event, exceptionsVoid);
+        if (Roll(edited.event.parent == 0 ? 4 : 2) == 0) {
+            MoveDate(edited);
+        } else if (edited.event.parent == 0) {
+            ChangeRecurrence(edited,
+                             Roll(3) == 0 ? std::nullopt : std::optional(RollIndex(KindNames.size())));
         } else {
-            Type(dialog->TextBoxEvent, "Moved");
+            edited.event.desc = "Moved " + std::to_string(Roll(100));
+            Type(dialog->TextBoxEvent, QString::fromStdString(edited.event.desc));
         }
     }
 }
@@ -237,36 +250,45 @@ Date EventSeriesWalk::PickIn(DatePicker& picker, QWidget* button) {
     FireTimer(picker.TimerCalendar);
     Click(button);
     EXPECT_TRUE(picker.isVisible());
-    const auto cell = static_cast<std::size_t>(Roll(MonthCells));
+    const std::size_t cell = RollIndex(picker.Cells.size());
     const Date picked = picker.Cells[cell].date;
     Click(picker.LabelCalDate[cell]);
     return picked;
 }
 
-void EventSeriesWalk::MoveDate(ModelEvent& event, bool& exceptionsVoid) {
+void EventSeriesWalk::MoveDate(Edited& edited) {
+    ModelEvent& event = edited.event;
     event.date = PickIn(*dialog->Picker, dialog->picButtonEventStartDate);
     if (event.kind != "None") {
-        event = {.id = event.id, .date = event.date, .endDate = event.date, .givenUp = event.givenUp};
-        exceptionsVoid = true;
-        ++movedSeries;
-    } else if (!event.end) {
+        event.kind = "None";
+        event.daily = "FFFFFFF";
+        event.end = edited.monthlySameDate = edited.yearlySameDate = false;
+        edited.exceptionsVoid = true;
+        ++done["date moved"];
+    }
+    if (!event.end) {
         event.endDate = event.date;
     }
 }
 
-// What is not chosen now keeps its rule until the event is saved.
-void EventSeriesWalk::ChangeRecurrence(ModelEvent& event, bool& exceptionsVoid) {
-    const ModelEvent before = event;
-    const bool cancelled = Roll(5) == 0;
-    bool monthly = recurrence->RadioMonthlyThisDate->isChecked();
-    bool yearly = recurrence->RadioYearlyThisDate->isChecked();
+void EventSeriesWalk::ChangeRecurrence(Edited& edited, std::optional<std::size_t> kind) {
+    const std::array radios{recurrence->RadioRepeatNone, recurrence->RadioRepeatDaily,
+                            recurrence->RadioRepeatMonthly, recurrence->RadioRepeatYearly};
+    const bool cancelled = edited.event.id != nextId && Roll(5) == 0;
+    const Edited before = edited;
     bool touched = false;
     Script.answers.clear();
-    if (!event.givenUp.empty()) {
+    if (!edited.event.givenUp.empty()) {
         Script.answers = {Answer::Yes};
     }
     InRecurrence([&] {
-        touched = ActInRecurrence(event, monthly, yearly);
+        if (kind) {
+            Click(radios[*kind]);
+            edited.event.kind = KindNames[*kind];
+            touched = true;
+            ++done["kind"];
+        }
+        ChangeRules(edited, touched);
         if (cancelled) {
             Script.answers = {Answer::Yes};
             Click(recurrence->ButtonCancel);
@@ -274,126 +296,119 @@ void EventSeriesWalk::ChangeRecurrence(ModelEvent& event, bool& exceptionsVoid) 
             return;
         }
         Click(recurrence->ButtonOK);
-        if (event.end && event.kind != "None" && event.endDate < event.date) {
+        if (edited.event.end && edited.event.kind != "None" && edited.event.endDate < edited.event.date) {
             EXPECT_TRUE(recurrence->isVisible());
             Click(recurrence->CheckboxRepeatEndDate);
-            event.end = false;
+            edited.event.end = false;
+            ++done["end refused"];
             Click(recurrence->ButtonOK);
         }
     });
     if (cancelled) {
-        event = before;
-        return;
+        edited = before;
+    } else {
+        edited.exceptionsVoid |= touched && !edited.event.givenUp.empty();
     }
-    event.sameDate = event.kind == "Month" ? monthly : yearly;
-    exceptionsVoid = exceptionsVoid || (touched && !event.givenUp.empty());
 }
 
-bool EventSeriesWalk::ActInRecurrence(ModelEvent& event, bool& monthly, bool& yearly) {
-    const std::vector<std::pair<const char*, QRadioButton*>> kinds{{"None", recurrence->RadioRepeatNone},
-                                                                   {"Day", recurrence->RadioRepeatDaily},
-                                                                   {"Month", recurrence->RadioRepeatMonthly},
-                                                                   {"Year", recurrence->RadioRepeatYearly}};
-    const std::vector<QCheckBox*> boxes{recurrence->CheckBoxMonday,    recurrence->CheckBoxTuesday,
-                                        recurrence->CheckBoxWednesday, recurrence->CheckBoxThursday,
-                                        recurrence->CheckBoxFriday,    recurrence->CheckBoxSaturday,
-                                        recurrence->CheckBoxSunday};
-    const std::size_t start = DayOfWeek(event.date);
-    bool touched = false;
-    if (Roll(3) > 0) {
-        const auto& [kind, radio] = kinds[static_cast<std::size_t>(Roll(4))];
-        Click(radio);
-        event.kind = kind;
-        if (event.kind == "Day" && event.daily == "FFFFFFF") {
+void EventSeriesWalk::ChangeRules(Edited& edited, bool& touched) {
+    const std::array boxes{recurrence->CheckBoxMonday,    recurrence->CheckBoxTuesday,
+                           recurrence->CheckBoxWednesday, recurrence->CheckBoxThursday,
+                           recurrence->CheckBoxFriday,    recurrence->CheckBoxSaturday,
+                           recurrence->CheckBoxSunday};
+    ModelEvent& event = edited.event;
+    if (event.kind == "Day") {
+        const std::size_t start = DayOfWeek(event.date);
+        if (touched && event.daily == "FFFFFFF") {
             event.daily[start] = 'T';
         }
-        touched = true;
-    }
-    if (event.kind == "Day") {
         for (int click = Roll(4); click > 0; --click) {
-            const auto day = static_cast<std::size_t>(Roll(7));
+            const std::size_t day = RollIndex(boxes.size());
             Click(boxes[day]);
             event.daily[day] = event.daily[day] == 'F' || day == start ? 'T' : 'F';
             touched = true;
+            ++done["days"];
         }
     } else if (event.kind == "Month" && Roll(2) == 0) {
-        monthly = Roll(2) == 0;
-        Click(monthly ? recurrence->RadioMonthlyThisDate : recurrence->RadioMonthlyUser);
+        edited.monthlySameDate = Roll(2) == 0;
+        Click(edited.monthlySameDate ? recurrence->RadioMonthlyThisDate : recurrence->RadioMonthlyUser);
         touched = true;
+        ++done["rank"];
     } else if (event.kind == "Year" && Roll(2) == 0) {
-        yearly = Roll(2) == 0;
-        Click(yearly ? recurrence->RadioYearlyThisDate : recurrence->RadioYearlyUser);
+        edited.yearlySameDate = Roll(2) == 0;
+        Click(edited.yearlySameDate ? recurrence->RadioYearlyThisDate : recurrence->RadioYearlyUser);
+        ++done["rank"];
     }
     if (Roll(3) == 0) {
         event.endDate = PickIn(*recurrence->Picker, recurrence->picButtonRepeatEndDate);
         event.end = true;
+        ++done["end"];
     }
-    return touched;
 }
 
 // --- What is expected --------------------------------------------------------------------------------------
 
+void EventSeriesWalk::Do(const std::function<void()>& action) {
+    window->activateWindow();
+    QCoreApplication::processEvents();
+    action();
+    ASSERT_NO_FATAL_FAILURE(ExpectAsModelled());
+    ASSERT_NO_FATAL_FAILURE(ExpectMarks());
+    ASSERT_FALSE(HasFailure());
+}
+
 void EventSeriesWalk::ExpectAsModelled() {
-    const EventLists& events = Store.EventRecord;
+    const EventLists kept = Store.EventRecord;
     for (const Field<EventLists>& field : EventFields) {
-        ASSERT_EQ((events.*field.list).Count(), static_cast<int>(model.size())) << field.tag;
+        ASSERT_EQ((kept.*field.list).Count(), static_cast<int>(model.size())) << field.tag;
     }
     for (std::size_t i = 0; i < model.size(); ++i) {
-        const int position = static_cast<int>(i) + 1;
-        const ModelEvent& event = model[i];
-        ASSERT_EQ(events.id.Item(position), std::to_string(event.id));
-        ASSERT_EQ(events.date.Item(position), StoredDate(event.date));
-        ASSERT_EQ(events.recurrence.Item(position), event.kind);
-        ASSERT_EQ(events.repeat_daily.Item(position), event.daily);
-        ASSERT_EQ(events.same_date.Item(position), event.sameDate ? "True" : "False");
-        ASSERT_EQ(events.end.Item(position), event.end ? "True" : "False");
-        ASSERT_EQ(events.end_date.Item(position), StoredDate(event.endDate));
-        ASSERT_EQ(events.parent_id.Item(position), event.parent == 0 ? "" : std::to_string(event.parent));
-        ASSERT_TRUE(event.parent == 0 || std::ranges::count(model, event.parent, &ModelEvent::id) == 1)
+        for (const auto& [list, text] : TextsOf(model[i])) {
+            ASSERT_EQ((kept.*list).Item(static_cast<int>(i) + 1), text) << "event " << model[i].id;
+        }
+        ASSERT_TRUE(model[i].parent == 0 || std::ranges::count(kept.id.values, kept.parent_id.values[i]) == 1)
             << "a child is left without its series";
     }
-    const EventLists kept = events;
+    ASSERT_EQ(NextEventID, nextId);
     Store.EventRecord = {};
     ReadEvents();
+    NextEventID = nextId;
     for (const Field<EventLists>& field : EventFields) {
         ASSERT_EQ(Store.EventRecord.*field.list, kept.*field.list) << "on the drive: " << field.tag;
     }
-    ASSERT_EQ(NextEventID <= nextId, true);
-    NextEventID = nextId;
-    ExpectMarks();
 }
 
 void EventSeriesWalk::ExpectMarks() {
-    for (int month = 0; month < Months; ++month) {
-        const Date first = FirstDay + days{month * MonthCells};
-        const EventMarks marks = MarkEventDays(first, window->CurrentFilter());
-        for (int cell = 0; cell < MonthCells; ++cell) {
-            const Date day = first + days{cell};
-            ASSERT_EQ(
-                marks.count[static_cast<std::size_t>(cell)],
-                std::ranges::count_if(model, [day](const ModelEvent& event) { return Occurs(event, day); }))
-                << StoredDate(day);
+    for (const months ahead : ShownMonths) {
+        const auto cells = CellsOf(month + ahead);
+        const EventMarks marks = MarkEventDays(cells.front(), window->CurrentFilter());
+        for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+            const auto on = std::ranges::count_if(
+                model, [&](const ModelEvent& event) { return Occurs(event, cells[cell]); });
+            ASSERT_EQ(marks.count[cell], on) << StoredDate(cells[cell]);
+            ASSERT_EQ(marks.marked[cell], on > 0) << StoredDate(cells[cell]);
         }
     }
 }
 
+INSTANTIATE_TEST_SUITE_P(Share, EventSeriesWalk, testing::Range(1U, Shares + 1));
+
 } // namespace
 
-TEST_F(EventSeriesWalk, StoreDriveAndMonthAgreeWithANaiveModel) {
-    const int steps = qEnvironmentVariableIsSet("PLANOVARIUM_LONG_WALK") ? LongSteps : Steps;
-    for (int step = 0; step < steps && !HasFailure(); ++step) {
-        SCOPED_TRACE(step);
-        window->activateWindow();
-        QCoreApplication::processEvents();
-        Step();
-        if (!FileWrittenFlags.events) {
-            continue; // nothing was saved yet
+TEST_P(EventSeriesWalk, StoreDriveAndMonthsAgreeWithANaiveModelAfterEachAction) {
+    const int count = SeriesOfAShare * (qEnvironmentVariableIsSet("PLANOVARIUM_LONG_WALK") ? LongFactor : 1);
+    for (int series = 1; series <= count; ++series) {
+        SCOPED_TRACE("series " + std::to_string(series));
+        ASSERT_NO_FATAL_FAILURE(Do([this] { EnterSeries(); }));
+        for (int action = 2 + Roll(4); action > 0; --action) {
+            ASSERT_NO_FATAL_FAILURE(Do([this] { EditSome(); }));
         }
-        ASSERT_NO_FATAL_FAILURE(ExpectAsModelled());
+        while (model.size() > MostEvents) {
+            ASSERT_NO_FATAL_FAILURE(Do([this] { EditWhole(0, Close::Delete); }));
+        }
     }
-    EXPECT_GT(occurrences, steps / 20);
-    EXPECT_GT(deletedSeries, steps / 40);
-    EXPECT_GT(movedSeries, steps / 40);
-    EXPECT_GT(voided, steps / 40);
+    for (const auto& [what, times] : done) {
+        EXPECT_GT(times, count / 10) << what;
+    }
     EXPECT_TRUE(Script.fatalErrors.empty());
 }
