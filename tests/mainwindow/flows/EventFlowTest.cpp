@@ -91,6 +91,19 @@ protected:
         }
     }
 
+    // Gives the file, which ends within the description of the second event.
+    std::string ReadTwoEventsOfWhichOneWasCut() {
+        AddEventRecord({.desc = "one"});
+        AddEventRecord({.desc = "two"});
+        WriteEvents();
+        const std::string whole = ReadData("events.xml");
+        const std::string cut = whole.substr(0, whole.rfind("</desc>"));
+        WriteData("events.xml", cut);
+        Events = {};
+        ReadEvents();
+        return cut;
+    }
+
     static ShownBox AskedForSeries() {
         return {"Planovarium", SeriesQuestion, Buttons::YesNoCancel, Icon::Information};
     }
@@ -613,13 +626,7 @@ TEST_F(EventFlow, AValueThatTheDialogCannotUseIsToldByItsPlaceInTheFile) {
 }
 
 TEST_F(EventFlow, EventBehindOneThatWasCutDoesNotMergeWithIt) {
-    AddEventRecord({.desc = "one"});
-    AddEventRecord({.desc = "two"});
-    WriteEvents();
-    const std::string cut = ReadData("events.xml").substr(0, ReadData("events.xml").rfind("</desc>"));
-    WriteData("events.xml", cut);
-    Events = {};
-    ReadEvents();
+    const std::string cut = ReadTwoEventsOfWhichOneWasCut();
     New([this] {
         Type(dialog->TextBoxEvent, "three");
         Ok();
@@ -634,13 +641,7 @@ TEST_F(EventFlow, EventBehindOneThatWasCutDoesNotMergeWithIt) {
 }
 
 TEST_F(EventFlow, EditBesideAnEventThatWasCutDropsIt) {
-    AddEventRecord({.desc = "one"});
-    AddEventRecord({.desc = "two"});
-    WriteEvents();
-    const std::string cut = ReadData("events.xml").substr(0, ReadData("events.xml").rfind("</desc>"));
-    WriteData("events.xml", cut);
-    Events = {};
-    ReadEvents();
+    const std::string cut = ReadTwoEventsOfWhichOneWasCut();
     Edit(1, [this] {
         Type(dialog->TextBoxEvent, "changed");
         Ok();
