@@ -19,6 +19,10 @@ using std::chrono::year_month_day;
 
 constexpr int GreatestMonth = 12;
 constexpr int GreatestDay = 31;
+constexpr int DaysOfEveryMonth = 28;
+constexpr int GreatestYear = 9999;
+constexpr unsigned NoTwoDigits = 100;
+constexpr Date NoDate = Date::min();
 constexpr int FirstTwoDigitYearOf1900 = 30;
 constexpr std::string_view DateSeparators = "/-.";
 
@@ -32,33 +36,50 @@ std::optional<int> Digits(std::string_view text) {
     return value;
 }
 
-std::optional<Date> CalendarDate(int y, int m, int d) {
-    if (m > GreatestMonth || d > GreatestDay) { // of which the calendar would keep eight bits alone
-        return std::nullopt;
+bool IsInCalendar(int y, int m, int d) {
+    // Every month has 28 days; the calendar is asked about the others alone.
+    const bool everyMonthHas = m >= 1 && m <= GreatestMonth && d >= 1 && d <= DaysOfEveryMonth;
+    // Of greater numbers the calendar would keep eight bits alone.
+    return everyMonthHas ||
+           (m <= GreatestMonth && d <= GreatestDay &&
+            year_month_day{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}}.ok());
+}
+
+// NoDate where the calendar or the store has no such day.
+Date CalendarDate(int y, int m, int d) {
+    if (!IsInCalendar(y, m, d)) {
+        return NoDate;
     }
-    const year_month_day parts{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}};
-    if (!parts.ok()) {
-        return std::nullopt;
-    }
-    const Date date{parts};
-    return date >= FirstStoredDate && date <= LastStoredDate ? std::optional(date) : std::nullopt;
+    const Date date{year_month_day{year{y}, month{static_cast<unsigned>(m)}, day{static_cast<unsigned>(d)}}};
+    return date >= FirstStoredDate && date <= LastStoredDate ? date : NoDate;
+}
+
+// The number in the two characters at the place, or one beyond all numbers of two digits.
+unsigned TwoDigitsAt(std::string_view text, std::size_t place) {
+    const auto tens = static_cast<unsigned char>(text[place] - '0');
+    const auto ones = static_cast<unsigned char>(text[place + 1] - '0');
+    return tens <= 9 && ones <= 9 ? tens * 10U + ones : NoTwoDigits;
+}
+
+void PutTwoDigits(std::string& text, std::size_t place, unsigned number) {
+    text[place] = static_cast<char>('0' + number / 10);
+    text[place + 1] = static_cast<char>('0' + number % 10);
 }
 
 // The form in which the store keeps nearly every date, read without a search for its parts.
-std::optional<Date> StoredFormDate(std::string_view text) {
-    const bool fits = text.size() == 10 && text[4] == '/' && text[7] == '/';
-    if (!fits) {
-        return std::nullopt;
+Date StoredFormDate(std::string_view text) {
+    if (text.size() != 10 || text[4] != '/' || text[7] != '/') {
+        return NoDate;
     }
-    std::array<int, 10> digits{};
-    for (const std::size_t i : {0U, 1U, 2U, 3U, 5U, 6U, 8U, 9U}) {
-        if (!IsDigit(text[i])) {
-            return std::nullopt;
-        }
-        digits[i] = text[i] - '0';
+    const unsigned century = TwoDigitsAt(text, 0);
+    const unsigned yearOfCentury = TwoDigitsAt(text, 2);
+    const unsigned m = TwoDigitsAt(text, 5);
+    const unsigned d = TwoDigitsAt(text, 8);
+    if (std::max({century, yearOfCentury, m, d}) == NoTwoDigits) {
+        return NoDate;
     }
-    return CalendarDate(digits[0] * 1000 + digits[1] * 100 + digits[2] * 10 + digits[3],
-                        digits[5] * 10 + digits[6], digits[8] * 10 + digits[9]);
+    return CalendarDate(static_cast<int>(century * 100 + yearOfCentury), static_cast<int>(m),
+                        static_cast<int>(d));
 }
 
 int FullYear(int number, std::size_t digits) {
@@ -90,6 +111,27 @@ std::optional<DatePieces> SplitDate(std::string_view text) {
         text.remove_prefix(last ? end : end + 1);
     }
     return pieces;
+}
+
+// The forms that a student or an old file may have written.
+Date FreeFormDate(std::string_view text) {
+    const std::optional<DatePieces> pieces = SplitDate(Trim(text));
+    if (!pieces) {
+        return NoDate;
+    }
+    const auto& [a, b, c] = pieces->numbers;
+    if (pieces->texts[0].size() == 4) {
+        return CalendarDate(a, b, c);
+    }
+    switch (LocaleDateOrder()) {
+    case DateOrder::MonthDayYear:
+        return CalendarDate(FullYear(c, pieces->texts[2].size()), a, b);
+    case DateOrder::DayMonthYear:
+        return CalendarDate(FullYear(c, pieces->texts[2].size()), b, a);
+    case DateOrder::YearMonthDay:
+        return CalendarDate(FullYear(a, pieces->texts[0].size()), b, c);
+    }
+    return NoDate;
 }
 
 // Takes the number in front of the text off it; nothing when there is none of one or two digits.
@@ -127,26 +169,14 @@ Value Required(std::optional<Value> value, std::string_view wanted, std::string_
 } // namespace
 
 std::optional<Date> DateIn(std::string_view text) {
-    if (const std::optional<Date> date = StoredFormDate(text)) {
-        return date;
+    Date date = StoredFormDate(text);
+    if (date == NoDate) {
+        date = FreeFormDate(text);
     }
-    const std::optional<DatePieces> pieces = SplitDate(Trim(text));
-    if (!pieces) {
+    if (date == NoDate) {
         return std::nullopt;
     }
-    const auto& [a, b, c] = pieces->numbers;
-    if (pieces->texts[0].size() == 4) {
-        return CalendarDate(a, b, c);
-    }
-    switch (LocaleDateOrder()) {
-    case DateOrder::MonthDayYear:
-        return CalendarDate(FullYear(c, pieces->texts[2].size()), a, b);
-    case DateOrder::DayMonthYear:
-        return CalendarDate(FullYear(c, pieces->texts[2].size()), b, a);
-    case DateOrder::YearMonthDay:
-        return CalendarDate(FullYear(a, pieces->texts[0].size()), b, c);
-    }
-    return std::nullopt;
+    return date;
 }
 
 std::optional<TimeOfDay> TimeIn(std::string_view text) {
@@ -209,10 +239,19 @@ Moment MomentValue(std::string_view text) {
 
 std::string StoredDate(Date date) {
     const year_month_day parts{date};
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%04d/%02u/%02u", static_cast<int>(parts.year()),
-                  static_cast<unsigned>(parts.month()), static_cast<unsigned>(parts.day()));
-    return text.data();
+    const int y = static_cast<int>(parts.year());
+    if (y < 0 || y > GreatestYear) {
+        std::array<char, 32> text{};
+        std::snprintf(text.data(), text.size(), "%04d/%02u/%02u", y, static_cast<unsigned>(parts.month()),
+                      static_cast<unsigned>(parts.day()));
+        return text.data();
+    }
+    std::string text = "0000/00/00";
+    PutTwoDigits(text, 0, static_cast<unsigned>(y / 100));
+    PutTwoDigits(text, 2, static_cast<unsigned>(y % 100));
+    PutTwoDigits(text, 5, static_cast<unsigned>(parts.month()));
+    PutTwoDigits(text, 8, static_cast<unsigned>(parts.day()));
+    return text;
 }
 
 std::string StoredTime(TimeOfDay time) {

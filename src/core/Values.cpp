@@ -132,6 +132,9 @@ int Int32Of(double number) {
 }
 
 int ToInt16(std::string_view text) {
+    if (const std::optional<int> bare = BareNumberIn(text); bare && *bare <= GreatestInt16) {
+        return *bare;
+    }
     const double rounded = std::nearbyint(ToNumber(text)); // as Int16Of rounds
     if (rounded < LeastInt16 || rounded > GreatestInt16) {
         throw RunTimeError("Overflow", text);
@@ -140,6 +143,9 @@ int ToInt16(std::string_view text) {
 }
 
 std::optional<int> IdIn(std::string_view text) {
+    if (const std::optional<int> bare = BareNumberIn(text); bare && *bare <= GreatestInt16) {
+        return *bare;
+    }
     const std::optional<double> number = NumberIn(text);
     const bool fits = number && *number >= LeastInt16 && *number <= GreatestInt16;
     if (!fits || static_cast<int>(*number) != *number) {

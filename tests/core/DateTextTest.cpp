@@ -81,6 +81,43 @@ TEST_F(DateTexts, BeginWithTheYear100AndEndWith9999) {
     EXPECT_FALSE(IsDate("10000/01/01"));
 }
 
+TEST_F(DateTexts, InTheStoredFormAreTheDaysOfTheCalendarAlone) {
+    for (int year = 1899; year <= 2101; ++year) {
+        for (int month = 0; month <= 13; ++month) {
+            const std::chrono::year_month present{std::chrono::year{year},
+                                                  std::chrono::month{static_cast<unsigned>(month)}};
+            const unsigned last =
+                present.ok() ? static_cast<unsigned>((present / std::chrono::last).day()) : 0;
+            for (unsigned day = 0; day <= 32; ++day) {
+                const std::string text = std::to_string(year) + "/" + std::to_string(100 + month).substr(1) +
+                                         "/" + std::to_string(100 + day).substr(1);
+                ASSERT_EQ(IsDate(text), day >= 1 && day <= last) << text;
+            }
+        }
+    }
+}
+
+TEST_F(DateTexts, AStrangeCharacterAnywhereInTheStoredFormMakesItNoDate) {
+    const std::string date = "2009/10/14";
+    for (std::size_t place = 0; place < date.size(); ++place) {
+        for (const char strange : {'a', ':', '\'', ' ', '\xB2'}) {
+            std::string text = date;
+            text[place] = strange;
+            if (strange != ' ' || (place != 0 && place != date.size() - 1)) { // blanks are trimmed
+                EXPECT_FALSE(IsDate(text)) << text;
+            }
+        }
+    }
+}
+
+TEST_F(DateTexts, AreStoredWithFourDigitsOfTheYearAndTwoOfMonthAndDay) {
+    EXPECT_EQ(StoredDate(Date{987y / 6 / 5}), "0987/06/05");
+    EXPECT_EQ(StoredDate(Date{2019y / 11 / 30}), "2019/11/30");
+    EXPECT_EQ(StoredDate(Date{9999y / 12 / 31}), "9999/12/31");
+    EXPECT_EQ(StoredDate(Date{10000y / 1 / 2}), "10000/01/02");
+    EXPECT_EQ(StoredDate(Date{-1y / 1 / 2}), "-001/01/02");
+}
+
 TEST_F(DateTexts, EveryDayOfSixCenturiesReadsBackAsItself) {
     for (Date date{1600y / 1 / 1}; date < Date{2200y / 1 / 1}; date += std::chrono::days{1}) {
         ASSERT_EQ(DateIn(StoredDate(date)), date) << StoredDate(date);

@@ -63,6 +63,9 @@ int WeekdayNumber(Date date) {
 }
 
 std::string TwoDigits(std::int64_t number) {
+    if (number >= 0 && number < 100) {
+        return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+    }
     const std::string digits = "0" + std::to_string(number);
     return digits.substr(digits.size() - 2);
 }
