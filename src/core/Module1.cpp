@@ -79,7 +79,9 @@ void SetFirstOpenFlags() {
 }
 
 void ResetAssignmentLists() {
-    Store.Assignment = {};
+    for (const auto& field : AssignmentFields) {
+        (Store.Assignment.*field.list).Clear(); // its room stays, for the records that are read next
+    }
 }
 
 void ChooseActiveTerm(std::string_view name) {

@@ -2,6 +2,7 @@
 #include "persistence/RecordFileText.h"
 
 #include "core/DateText.h"
+#include "core/FetchAhead.h"
 
 #include <algorithm>
 
@@ -66,7 +67,9 @@ void WriteRecords(OutputFile& output, const RecordFile& file, int records) {
     for (int position = 1; position <= records; ++position) {
         block.append(recordStart);
         for (std::size_t i = 0; i < frames.size(); ++i) {
-            const std::string& value = file.fields[i].list->Item(position);
+            const TextList& values = *file.fields[i].list;
+            const std::string& value = values.Item(position);
+            FetchAhead(values, position);
             block.append(frames[i].opening);
             if (file.fields[i].rule == FieldRule::DateText) {
                 block.append(FormattedDate(value));

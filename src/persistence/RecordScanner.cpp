@@ -67,7 +67,11 @@ void RaiseCounter(int& nextId, std::string_view id) {
 }
 
 void AddValue(const RecordFile& file, const RecordField& field, std::string_view value) {
-    field.list->Add(field.rule == FieldRule::DateText ? WithSlashes(Trim(value)) : std::string(value));
+    if (field.rule == FieldRule::DateText) {
+        field.list->Add(WithSlashes(Trim(value)));
+        return;
+    }
+    field.list->values.emplace_back(value); // made in its place, without a text that is moved there
     if (field.rule == FieldRule::Id) {
         RaiseCounter(*file.nextId, value);
     }
@@ -78,20 +82,61 @@ bool IsRecordTag(const RecordFile& file, std::string_view line) {
     return trimmed == OpeningTag(file.record) || trimmed == ClosingTag(file.record);
 }
 
+struct FieldFrame {
+    std::string opening;
+    std::string closing;
+};
+
+// What the fields of a file have in common as they are read.
+struct FieldReading {
+    std::vector<FieldFrame> frames; // of the fields in the order of the table
+    std::size_t expected = 0;       // the place in the table of the field that should come next
+    std::string text;               // of a field over several lines, kept from field to field for its memory
+};
+
+std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
+    std::vector<FieldFrame> frames;
+    for (const RecordField& field : fields) {
+        frames.push_back({OpeningTag(field.tag), ClosingTag(field.tag)});
+    }
+    return frames;
+}
+
+// Reads a field that is what nearly all are: the next of the table, whole on its line. Gives false for any
+// other line, and takes nothing of it.
+bool ReadExpectedField(const RecordFile& file, std::string_view line, FieldReading& reading) {
+    if (reading.expected == reading.frames.size()) {
+        return false;
+    }
+    const auto& [opening, closing] = reading.frames[reading.expected];
+    if (line.size() < opening.size() + closing.size() || !line.starts_with(opening) ||
+        !line.ends_with(closing)) {
+        return false;
+    }
+    line.remove_prefix(opening.size());
+    line.remove_suffix(closing.size());
+    AddValue(file, file.fields[reading.expected], line);
+    ++reading.expected;
+    return true;
+}
+
 // A field runs on over the lines behind its first until one ends with its closing tag. An unknown one is
 // dropped.
-void ReadField(const RecordFile& file, std::string_view firstLine, LinesLeft& lines, std::string& text,
+void ReadField(const RecordFile& file, std::string_view firstLine, LinesLeft& lines, FieldReading& reading,
                ScanTrace* trace) {
     const int first = lines.taken;
     Note(trace, ScanStep::Tag, first);
     const std::string_view tag = TagOf(firstLine);
     Note(trace, ScanStep::Field, first, tag);
-    text = firstLine;
+    std::string_view text = firstLine;
     bool overRecordTag = false;
     while (!EndsWithClosingTag(text, tag)) {
         const std::string_view line = NextLine(lines);
         overRecordTag = overRecordTag || (trace != nullptr && IsRecordTag(file, line));
-        text.append(LineEnd).append(line);
+        if (text.data() == firstLine.data()) {
+            reading.text = firstLine;
+        }
+        text = reading.text.append(LineEnd).append(line);
     }
     Note(trace, ScanStep::Value, first, tag);
     const auto field = std::ranges::find(file.fields, tag, &RecordField::tag);
@@ -101,16 +146,17 @@ void ReadField(const RecordFile& file, std::string_view firstLine, LinesLeft& li
         }
         return;
     }
+    const auto place = static_cast<std::size_t>(field - file.fields.begin());
+    reading.expected = place + 1;
     if (trace != nullptr) {
-        const auto index = static_cast<std::size_t>(field - file.fields.begin());
-        trace->values[index].push_back({first, lines.taken});
+        trace->values[place].push_back({first, lines.taken});
         if (overRecordTag) {
             trace->swallowing.push_back({std::string(tag), {first, lines.taken}});
         }
     }
     const std::size_t opening = tag.size() + 2;
     const std::size_t closing = tag.size() + 3;
-    AddValue(file, *field, std::string_view(text).substr(opening, text.size() - opening - closing));
+    AddValue(file, *field, text.substr(opening, text.size() - opening - closing));
 }
 
 void NoteCounts(const RecordFile& file, std::vector<int>& counts) {
@@ -152,25 +198,27 @@ bool ScanRecords(const RecordFile& file, std::string_view bytes, std::vector<int
     const std::string rootEnd = ClosingTag(file.root);
     const std::string recordStart = OpeningTag(file.record);
     const std::string recordEnd = ClosingTag(file.record);
-    std::string text; // of the field, kept from field to field for its memory
+    FieldReading reading;
+    reading.frames = FramesOf(file.fields);
     bool betweenRecords = true;
     int rootClosed = 0;
     while (const std::optional<std::string_view> line = Take(lines)) {
         const std::string_view trimmed = Trim(*line);
-        if (trimmed.empty()) {
+        if (trimmed.empty() || (trace == nullptr && ReadExpectedField(file, LeftTrim(*line), reading))) {
             continue;
         }
         if (trimmed == rootEnd) {
             rootClosed = lines.taken; // it ends nothing: lines behind it are read on
         } else if (trimmed == (betweenRecords ? recordStart : recordEnd)) {
             NoteRecordTag(trace, betweenRecords, lines.taken);
+            reading.expected = 0;
             betweenRecords = !betweenRecords;
             finished.clear();
             if (!betweenRecords) {
                 NoteCounts(file, finished);
             }
         } else {
-            ReadField(file, LeftTrim(*line), lines, text, trace);
+            ReadField(file, LeftTrim(*line), lines, reading, trace);
         }
         if (trace != nullptr) {
             trace->lastLine = lines.taken;
