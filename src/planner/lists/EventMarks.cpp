@@ -2,6 +2,7 @@
 #include "planner/lists/EventMarks.h"
 
 #include "core/DateText.h"
+#include "core/FetchAhead.h"
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/recurrence/EventOccursOn.h"
@@ -29,6 +30,7 @@ EventMarks MarkEventDays(Date firstCell, const ListFilter& filter) {
     const std::vector<int> activeClassIds = ActiveClassIds();
     EventMarks marks;
     for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        FetchAhead(Store.EventRecord.exceptions, position);
         DayBits days = CellsOfEvent(cells, position);
         const std::string& type = Store.EventRecord.type.Item(position);
         if (days == 0 || !BelongsToActiveTerm(type, activeClassIds)) {

@@ -2,6 +2,7 @@
 #include "planner/recurrence/EventOccursOn.h"
 
 #include "core/DateText.h"
+#include "core/FetchAhead.h"
 #include "core/Module1.h"
 #include "core/Values.h"
 #include "planner/dates/DateHelpers.h"
@@ -141,6 +142,7 @@ std::vector<int> EventsOn(Date day) {
     const DayFacts facts = FactsOf(day);
     std::vector<int> positions;
     for (int position = 1, records = WholeRecords(Store.EventRecord); position <= records; ++position) {
+        FetchAhead(Store.EventRecord.exceptions, position);
         if (OccurringDays({&facts, 1}, position) != 0) {
             positions.push_back(position);
         }

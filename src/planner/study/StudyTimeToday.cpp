@@ -13,39 +13,33 @@
 
 namespace {
 
-struct OpenWork {
-    int daysLeft;  // 1 for all that is due by the day after
-    int remaining; // minutes
-};
-
-// The assignments that are neither done nor deleted, those due first in front.
-std::vector<OpenWork> OpenWorkFrom(Date day) {
+// The minutes that remain of what is due on each day, by the days left to it: 1 for all that is due by the
+// day after. Assignments that are done or deleted have none.
+std::vector<int> RemainingByDaysLeft(Date day) {
     const AssignmentLists& assignments = Store.Assignment;
     const LoggedMinutes logged = LoggedMinutesById();
-    std::vector<OpenWork> work;
+    std::vector<int> remaining;
     for (int position = 1, records = WholeRecords(assignments); position <= records; ++position) {
         if (assignments.desc.Item(position) != DeletedRecord && !IsTrue(assignments.done.Item(position))) {
             const int daysLeft = DayDiff(day, DateValue(assignments.date.Item(position)));
-            work.push_back({std::max(1, daysLeft), RemainingMinutes(position, logged)});
+            const auto index = static_cast<std::size_t>(std::max(1, daysLeft));
+            remaining.resize(std::max(remaining.size(), index + 1));
+            remaining[index] += RemainingMinutes(position, logged);
         }
     }
-    std::ranges::sort(work, {}, &OpenWork::daysLeft);
-    return work;
+    return remaining;
 }
 
 } // namespace
 
 StudyTimeBoxes StudyTimeToday(Date day) {
-    int minimum = 0;
+    const std::vector<int> remaining = RemainingByDaysLeft(day);
+    const int minimum = remaining.size() > 1 ? remaining[1] : 0;
     int suggested = 0;
     int sum = 0;
-    // Between two due dates the rate only falls, so it is asked on the due dates alone.
-    for (const OpenWork& work : OpenWorkFrom(day)) {
-        sum += work.remaining;
-        suggested = std::max(suggested, sum / work.daysLeft);
-        if (work.daysLeft == 1) {
-            minimum = sum;
-        }
+    for (std::size_t daysLeft = 1; daysLeft < remaining.size(); ++daysLeft) {
+        sum += remaining[daysLeft];
+        suggested = std::max(suggested, sum / static_cast<int>(daysLeft));
     }
     // The minimum is the rate of the first day, so the suggestion is never below it.
     const bool minimumFirst = minimum > 0 && minimum >= suggested;

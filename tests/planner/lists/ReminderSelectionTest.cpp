@@ -2,6 +2,7 @@
 #include "planner/lists/ReminderSelection.h"
 #include "core/RowLists.h"
 #include "core/RunTimeError.h"
+#include "core/TypeTable.h"
 #include "support/EventRecords.h"
 #include "support/StoreRecords.h"
 
@@ -175,6 +176,41 @@ TEST_F(ReminderRowsOf, OneSelectionReplaceThoseOfTheLast) {
     for (const int count : {ReminderTaskCount, ReminderHomeworkCount, ReminderEventCount}) {
         EXPECT_EQ(count, 1);
     }
+}
+
+TEST_F(ReminderRowsOf, AShorterSelectionLeaveNothingOfALongerOne) {
+    AddTaskRecord({.desc = "Call home, and ask about the books that were left there", .type = "Home"});
+    AddAssignmentRecord({.class_ = "10", .desc = "Pages 1-9", .type = "Reading"});
+    AddEventRecord({.desc = "Party", .type = "Birthday"});
+    Select();
+    Select("Homework");
+    EXPECT_EQ(ReminderRows.values, (Numbers{1}));
+    EXPECT_EQ(ReminderRowKind.values, (Texts{"Homework"}));
+    EXPECT_EQ(ReminderRowClass.values, (Texts{"Algebra"}));
+    EXPECT_EQ(ReminderRowType.values, (Texts{"Reading"}));
+    EXPECT_EQ(ReminderRowText.values, (Texts{"Pages 1-9"}));
+    EXPECT_EQ(ReminderRowDays.Count(), 1);
+    EXPECT_EQ(ReminderRowDate.Count(), 1);
+    EXPECT_EQ(ReminderRowForeColor.values, (Numbers{1}));
+    EXPECT_EQ(ReminderRowBackColor.values, (Numbers{100}));
+}
+
+TEST_F(ReminderRowsOf, EachKindHasTheLookOfItsOwnTypes) {
+    TypeTable.backcolor.Replace(TypeRow("Task", "School"), "7");
+    TypeTable.backcolor.Replace(TypeRow("Event", "School"), "8");
+    AddTaskRecord({.type = "School"});
+    AddTaskRecord({.type = "Home"});
+    AddEventRecord({.type = "School"});
+    Select();
+    EXPECT_EQ(ReminderRowBackColor.values, (Numbers{7, 0xC6E7FF, 8}));
+}
+
+TEST_F(ReminderRowsOf, NewColorsOfAClassShowInTheNextSelection) {
+    AddAssignmentRecord({.class_ = "10"});
+    Select();
+    Store.ClassRecord.backcolor.Replace(1, "200");
+    Select();
+    EXPECT_EQ(ReminderRowBackColor.values, (Numbers{200}));
 }
 
 TEST_F(ReminderRowsOf, ABadDateEndInTheRunTimeError) {
