@@ -32,7 +32,7 @@ void MakeBackupFolder() {
 // when they are not on the device then.
 std::string KeepBytes(const RecordFile& file, std::string_view suffix, std::string_view firstNumber,
                       const std::string& bytes) {
-    const std::string name = FreeBackupName(file.name, suffix, firstNumber);
+    std::string name = FreeBackupName(file.name, suffix, firstNumber);
     MakeFile((BackupFolder / name).string(), [&bytes](OutputFile& output) { WriteBytes(output, bytes); });
     return name;
 }

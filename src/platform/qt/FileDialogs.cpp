@@ -38,7 +38,7 @@ std::optional<std::filesystem::path> Ask(const SaveQuestion& question) {
 } // namespace
 
 std::optional<std::filesystem::path> GetSaveFileName(const SaveQuestion& question) {
-    const std::optional<std::filesystem::path> place = Ask(question);
+    std::optional<std::filesystem::path> place = Ask(question);
     // As it goes the dialog notes in the toolkit's settings where it was.
     QSettings(QSettings::UserScope, QStringLiteral("QtProject")).remove(QStringLiteral("FileDialog"));
     return place;

@@ -39,7 +39,7 @@ QString ListTipAt(PaintedList& grid, QPoint point) {
     }
     const auto column = static_cast<std::size_t>(at.column);
     const GridCell cell = grid.ListRow(at.row + 1).cells[column - 1];
-    const QString whole = SpokenCellOf(grid, at.row, at.column).text;
+    QString whole = SpokenCellOf(grid, at.row, at.column).text;
     switch (cell.kind) {
     case CellKind::Checked:
     case CellKind::Unchecked:
