@@ -4,6 +4,7 @@
 #include "mainwindow/flows/TermFlow.h"
 
 #include <QAccessible>
+#include <QMetaProperty>
 #include <QWhatsThis>
 
 #include <set>
@@ -44,6 +45,15 @@ QLabel* LabelOf(const QDialog& dialog, const QWidget* input) {
         }
     }
     return nullptr;
+}
+
+// What is typed into: the box itself, or that of a combo. Nothing where no text is taken.
+QWidget* TypedBoxOf(QWidget* input) {
+    const auto* combo = qobject_cast<QComboBox*>(input);
+    QWidget* const box = combo != nullptr ? combo->lineEdit() : input;
+    const auto* line = qobject_cast<QLineEdit*>(box);
+    const bool isOnlyRead = line != nullptr && line->isReadOnly();
+    return input->isEnabled() && !isOnlyRead ? box : nullptr;
 }
 
 } // namespace
@@ -211,6 +221,20 @@ TEST_F(DialogKeys, EnterOnTheHelpButtonPressesItAndNotOk) {
         QWhatsThis::leaveWhatsThisMode();
     });
     EXPECT_TRUE(Script.boxes.empty());
+}
+
+TEST_F(DialogKeys, BoxesTakeOnlyWhatTheFilesCanHold) {
+    InEach([](QDialog& dialog) {
+        for (QWidget* input : Inputs(dialog)) {
+            if (QWidget* const box = TypedBoxOf(input)) {
+                QMetaObject::invokeMethod(box, "clear");
+                QKeyEvent typed(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\u4E2D"));
+                QCoreApplication::sendEvent(box, &typed);
+                EXPECT_EQ(box->property(box->metaObject()->userProperty().name()).toString(), "?")
+                    << input->objectName().toStdString();
+            }
+        }
+    });
 }
 
 // --- Screen readers ----------------------------------------------------------------------------------------

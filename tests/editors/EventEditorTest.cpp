@@ -68,6 +68,7 @@ TEST_F(EventEditor, NewEventOpensAtTheClickedDayAndTime) {
     EXPECT_EQ(WithoutMnemonics(dialog->LabelDate->text()), "Date");
     EXPECT_EQ(dialog->TextboxEventStartDate->text(), "Tuesday, October 20, 2009");
     EXPECT_EQ(dialog->StoreEventStartDate, DateValue("2009/10/20"));
+    EXPECT_EQ(dialog->StoreEventEndDate, DateValue("2009/10/20"));
     EXPECT_EQ(dialog->StoreRepeatEndDate, DateValue("2009/10/20"));
     EXPECT_FALSE(dialog->CheckboxReminder->isChecked());
     EXPECT_EQ(dialog->tempEventReminderList, "False");
@@ -129,6 +130,7 @@ TEST_F(EventEditor, EditShowsTheFields) {
     EXPECT_EQ(WithoutMnemonics(dialog->LabelDate->text()), "Date");
     EXPECT_EQ(dialog->TextboxEventStartDate->text(), "Monday, November 2, 2009");
     EXPECT_EQ(dialog->StoreEventStartDate, DateValue("2009/11/02"));
+    EXPECT_EQ(dialog->StoreEventEndDate, DateValue("2009/11/02"));
     ExpectReminder(true);
     EXPECT_TRUE(dialog->ButtonDelete->isEnabled());
     EXPECT_EQ(dialog->focusWidget(), dialog->TextBoxEvent);
@@ -615,6 +617,22 @@ TEST_F(EventEditor, OkAcceptsAnEventWithoutAnything) {
     Click(dialog->ButtonOK);
     ExpectClosedByOk();
     EXPECT_EQ(dialog->tempEventType, "None");
+    EXPECT_TRUE(Script.boxes.empty());
+}
+
+TEST_F(EventEditor, OkTestsNothingOfTheRecurrence) {
+    EventTexts endsBeforeItBegins = Weekly(); // on a Monday
+    endsBeforeItBegins.end = "True";
+    endsBeforeItBegins.end_date = "2009/10/18";
+    EventTexts withoutDays = Weekly();
+    withoutDays.repeat_daily = "FFFFFFF";
+    EventTexts onOtherDays = Weekly();
+    onOtherDays.repeat_daily = "FTFFFFF";
+    for (const EventTexts& series : {endsBeforeItBegins, withoutDays, onOtherDays}) {
+        OpenEdit(series, SeriesDateCaption);
+        Click(dialog->ButtonOK);
+        ExpectClosedByOk();
+    }
     EXPECT_TRUE(Script.boxes.empty());
 }
 

@@ -121,20 +121,23 @@ TEST_F(EventRecurrence, CancelLeavesTheSeriesAsItWas) {
 }
 
 TEST_F(EventRecurrence, ExceptionChildIsRefused) {
+    CancelDialogsAsTheyOpen(recurrence);
     OpenEdit({.parent_id = "4"});
     Click(dialog->ButtonOpenRecur);
     EXPECT_EQ(Script.boxes, std::vector{Message(IsAnException)});
-    EXPECT_FALSE(recurrence->isVisible());
-    EXPECT_FALSE(dialog->ChangeFlag);
+    EXPECT_FALSE(dialog->ChangeFlag) << "the dialog has opened";
 }
 
 TEST_F(EventRecurrence, ExceptionsAreAskedForAndOnlyYesOpens) {
     OpenWithExceptions();
     Script.answers = {Answer::No, Answer::Cancel, Answer::Yes};
-    Click(dialog->ButtonOpenRecur);
-    Click(dialog->ButtonOpenRecur);
-    EXPECT_FALSE(recurrence->isVisible());
-    EXPECT_FALSE(dialog->ChangeFlag);
+    {
+        QObject whileNothingOpens;
+        CancelDialogsAsTheyOpen(&whileNothingOpens);
+        Click(dialog->ButtonOpenRecur);
+        Click(dialog->ButtonOpenRecur);
+    }
+    EXPECT_FALSE(dialog->ChangeFlag) << "the dialog has opened";
     InRecurrence([&] { Click(recurrence->ButtonCancel); });
     EXPECT_EQ(Script.boxes, (std::vector{WillLose(), WillLose(), WillLose()}));
     EXPECT_FALSE(dialog->DeleteExceptions);

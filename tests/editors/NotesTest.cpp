@@ -5,6 +5,7 @@
 #include "editors/frmCourseSchedule.h"
 #include "editors/frmSelectCourseSchedule.h"
 #include "mainwindow/flows/AssignmentFlow.h"
+#include "mainwindow/flows/EventFlow.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "persistence/modIO.h"
@@ -211,7 +212,7 @@ TEST_F(NotesInFiles, OfAnyTagsBracketsBreaksAndBlanksReadBackByteForByte) {
     EXPECT_EQ(kept, written.end()) << "record " << kept - written.begin() << ": " << *kept;
 }
 
-TEST_F(NotesInFiles, OfATaskAnAssignmentAndAClassGoThroughTheirDialogs) {
+TEST_F(NotesInFiles, OfEveryKindGoThroughTheirDialogs) {
     const std::string kept = "close with </notes> \r\ngo on";
     const auto typeInto = [](QPlainTextEdit* box) {
         QTest::keyClicks(box, "close with </notes>");
@@ -230,6 +231,11 @@ TEST_F(NotesInFiles, OfATaskAnAssignmentAndAClassGoThroughTheirDialogs) {
     });
     NewAssignment(*window);
     WhenDialogOpens([&](QWidget*) {
+        typeInto(EventDialog->TextBoxNotes);
+        Click(EventDialog->ButtonOK);
+    });
+    NewMorningEvent(*window);
+    WhenDialogOpens([&](QWidget*) {
         WhenDialogOpens([&](QWidget*) {
             Click(TermDialog->ButtonAddClass);
             Type(TermDialog->TextBoxClassName, "Physics");
@@ -245,8 +251,10 @@ TEST_F(NotesInFiles, OfATaskAnAssignmentAndAClassGoThroughTheirDialogs) {
     ReadTermsAndClasses();
     ReadTasks();
     ReadAssignments();
+    ReadEvents();
     EXPECT_TRUE(Script.boxes.empty());
     EXPECT_EQ(Store.TaskRecord.notes.Item(1), kept);
+    EXPECT_EQ(Store.EventRecord.notes.Item(1), kept);
     EXPECT_EQ(Store.Assignment.notes.Item(1), kept);
     EXPECT_EQ(Store.ClassRecord.notes.Item(Store.ClassRecord.notes.Count()), kept);
 }
