@@ -31,14 +31,6 @@ void OnChoice(const QRadioButton* radio, const QObject* owner, Procedure procedu
     });
 }
 
-// Without a group of their own the toolkit takes the radios of the panels for further kinds.
-void Group(QObject* owner, std::initializer_list<QRadioButton*> radios) {
-    auto* const group = new QButtonGroup(owner);
-    for (QRadioButton* radio : radios) {
-        group->addButton(radio);
-    }
-}
-
 } // namespace
 
 frmRecurrence* RecurrenceDialog = nullptr;
@@ -46,9 +38,7 @@ frmRecurrence* RecurrenceDialog = nullptr;
 frmRecurrence::frmRecurrence(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
     SetupDateBoxes({{TextboxRepeatEndDate, picButtonRepeatEndDate}});
-    Group(this, {RadioRepeatNone, RadioRepeatDaily, RadioRepeatMonthly, RadioRepeatYearly});
-    Group(this, {RadioMonthlyThisDate, RadioMonthlyUser});
-    Group(this, {RadioYearlyThisDate, RadioYearlyUser});
+    GroupKinds();
     Picker = new DatePicker(this);
     Picker->AddField(true, TextboxRepeatEndDate, picButtonRepeatEndDate,
                      [this] { return StoreRepeatEndDate; });
@@ -78,6 +68,14 @@ std::vector<frmRecurrence::Kind> frmRecurrence::Kinds() const {
 std::array<QCheckBox*, DaysPerWeek> frmRecurrence::DayBoxes() const {
     return {CheckBoxMonday, CheckBoxTuesday,  CheckBoxWednesday, CheckBoxThursday,
             CheckBoxFriday, CheckBoxSaturday, CheckBoxSunday};
+}
+
+// Without a group of their own the toolkit takes the radios of the panels for further kinds.
+void frmRecurrence::GroupKinds() {
+    auto* const group = new QButtonGroup(this);
+    for (const Kind& kind : Kinds()) {
+        group->addButton(kind.radio);
+    }
 }
 
 QCheckBox* frmRecurrence::StartDayBox() const {
@@ -155,7 +153,7 @@ void frmRecurrence::ToggleDay(QCheckBox* box) {
     if (filling) {
         return;
     }
-    if (!box->isChecked() && box == StartDayBox()) {
+    if (box == StartDayBox()) {
         box->setChecked(true);
     }
     TouchDays();

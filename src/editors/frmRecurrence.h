@@ -78,6 +78,7 @@ private:
 
     QCheckBox* StartDayBox() const;
 
+    void GroupKinds();
     void BindControls();
     void ChooseKind();
     void ToggleDay(QCheckBox* box);

@@ -105,13 +105,34 @@ TEST_F(DialogLook, LongNameEndsInDotsAndIsTheTip) {
     EXPECT_TRUE(WaitUntil([] { return !QToolTip::isVisible(); })) << "it is seen whole";
 }
 
-TEST_F(DialogLook, ListOfLongNamesIsAsWideAsItsCombo) {
+TEST_F(DialogLook, ListsOfLongNamesAreAsWideAsTheirCombosAndTipsTellThemWhole) {
     ClassName = LongName;
-    OpenTerm();
-    QComboBox* const list = TermDialog->ComboBoxClassList;
-    list->showPopup();
-    EXPECT_LE(list->view()->window()->width(), list->width());
-    list->hidePopup();
+    Store.Term.name.Replace(1, LongName);
+    Store.ClassRecord.name.Replace(1, LongName);
+    SetActiveTerm(*window, LongName);
+    TypeTable.customname.Replace(1, LongName);
+    QStringList found;
+    InEach([&found](QDialog& dialog) {
+        for (QComboBox* list : dialog.findChildren<QComboBox*>()) {
+            const int row = list->findText(FromStore(LongName));
+            if (row < 0) {
+                continue;
+            }
+            found.append(dialog.objectName() + QLatin1Char('.') + list->objectName());
+            list->showPopup();
+            EXPECT_LE(list->view()->window()->width(), list->width()) << found.last().toStdString();
+            list->hidePopup();
+            list->setCurrentIndex(row);
+            QToolTip::hideText();
+            QHelpEvent ask(QEvent::ToolTip, list->rect().center(), list->mapToGlobal(list->rect().center()));
+            QCoreApplication::sendEvent(list, &ask);
+            EXPECT_TRUE(QToolTip::text().remove(QChar(0x200B)).contains(FromStore(LongName)))
+                << found.last().toStdString();
+        }
+    });
+    EXPECT_EQ(found.join(QLatin1Char(' ')).toStdString(),
+              "frmAssignment.ComboClassNameList FrmTask.ComboType frmCourseSchedule.ComboBoxClassList "
+              "frmEvent.ComboType frmSelectCourseSchedule.ComboTermList");
 }
 
 TEST_F(DialogLook, DialogsFitASmallScreenAndAFullOneAtTwoHundredPercent) {

@@ -19,6 +19,8 @@ class EventEditor : public EventTest {
 protected:
     // Expects the reminder strip of one that is on, or off.
     void ExpectReminder(bool on) const {
+        EXPECT_EQ(BackColorOf(dialog->LabelRemBG), 0x39425A);
+        EXPECT_EQ(TextColorOf(dialog->CheckboxReminder), 0xFFFFFF);
         EXPECT_EQ(dialog->ComboReminderTime->isEnabled(), on);
         EXPECT_EQ(TextColorOf(dialog->LabelRemTime), on ? 0xFFFFFF : 0xC0C0C0);
         EXPECT_EQ(BackColorOf(dialog->LabelRemBG2), on ? 0xFFFFFF : 0xC0C0C0);

@@ -314,13 +314,18 @@ TEST_F(RecurrenceDialogs, PickedEndDateIsShownStoredAndTicksItsBox) {
     EXPECT_EQ(EndColorOf(*recurrence), 0x000000);
     ExpectTouched(true, false);
     EXPECT_FALSE(recurrence->Picker->isVisible());
+    Forget();
+    PickEndDate("2009/11/06");
+    ExpectTouched(true, false);
 }
 
 TEST_F(RecurrenceDialogs, PickerOpensFromTheBoxOnTheEndDateAndAKeyClosesIt) {
-    OpenFor(Weekly());
+    EventTexts series = Weekly();
+    series.end_date = "2009/12/18";
+    OpenFor(series);
     Click(recurrence->TextboxRepeatEndDate);
     EXPECT_TRUE(recurrence->Picker->isVisible());
-    EXPECT_EQ(recurrence->Picker->CalendarDate, DateValue("2009/10/19"));
+    EXPECT_EQ(recurrence->Picker->CalendarDate, DateValue("2009/12/18"));
     EXPECT_TRUE(recurrence->rect().contains(recurrence->Picker->geometry()));
     QTest::keyClick(recurrence->Picker, Qt::Key_Escape);
     EXPECT_FALSE(recurrence->Picker->isVisible());
@@ -452,6 +457,21 @@ TEST_F(RecurrenceDialogs, CancelPutsBackTheEndDateAsItWasShown) {
     EXPECT_EQ(recurrence->StoreRepeatEndDate, DateValue("2009/10/19"));
     Reopen();
     EXPECT_EQ(recurrence->tempRecurRepeatEndDate.utf8, "Montag, 19. März") << "remembered as it is shown";
+}
+
+TEST_F(RecurrenceDialogs, EachDayIsRememberedUnderItsName) {
+    const std::array remembered{&RecurrenceState::tempRecurMonday,    &RecurrenceState::tempRecurTuesday,
+                                &RecurrenceState::tempRecurWednesday, &RecurrenceState::tempRecurThursday,
+                                &RecurrenceState::tempRecurFriday,    &RecurrenceState::tempRecurSaturday,
+                                &RecurrenceState::tempRecurSunday};
+    for (std::size_t day = 0; day < remembered.size(); ++day) {
+        std::string letters(remembered.size(), 'F');
+        letters[day] = 'T';
+        OpenFor({.recurrence = "Day", .repeat_daily = letters});
+        for (std::size_t other = 0; other < remembered.size(); ++other) {
+            EXPECT_EQ(recurrence->*remembered[other], other == day) << letters;
+        }
+    }
 }
 
 TEST_F(RecurrenceDialogs, CloseThatIsNotTheStudentsPasses) {

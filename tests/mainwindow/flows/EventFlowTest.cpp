@@ -591,9 +591,11 @@ TEST_F(EventFlow, ShutdownInBetweenWritesNothing) {
     ShuttingDown = false;
     Script.answers = {Answer::No};
     Script.whileBoxIsOpen = [](const ShownBox&) { ShuttingDown = true; };
+    dialog->CancelledFlag = false;
+    CancelDialogsAsTheyOpen(window.get());
     EditEvent(*window, 1, Clicked);
     Script.whileBoxIsOpen = {};
-    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_FALSE(dialog->CancelledFlag) << "the editor has opened";
     EXPECT_EQ(Events.id.Count(), 1);
     EXPECT_EQ(Events.desc.Item(1), "Lecture");
     EXPECT_EQ(Events.exceptions.Item(1), "");
