@@ -259,10 +259,11 @@ TEST_F(DialogKeys, EveryControlThatTakesTheFocusHasANameAndARole) {
     });
 }
 
-TEST_F(DialogKeys, DateButtonsAndHelpHaveNamesAndTips) {
+TEST_F(DialogKeys, DateButtonsAndHelpHaveNamesTipsAndIcons) {
     InEach([](QDialog& dialog) {
         for (const QToolButton* button : dialog.findChildren<QToolButton*>()) {
             EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
+            EXPECT_FALSE(button->icon().isNull()) << button->objectName().toStdString();
             EXPECT_TRUE(button->toolTip().startsWith(button->accessibleName()))
                 << button->objectName().toStdString();
         }
