@@ -1,6 +1,7 @@
 // What the dialogs of the editors look like beyond the program's style.
 #include "editors/DialogLook.h"
 
+#include "planner/dates/DateHelpers.h"
 #include "platform/Formats.h"
 #include "toolkit/ProgramStyle.h"
 #include "toolkit/Text.h"
@@ -89,18 +90,27 @@ private:
     QComboBox* combo;
 };
 
-// Pixels of the longest date, whichever weekday falls on whichever month.
+// Pixels of the longest date, whichever weekday falls on whichever month: that of the longest month's longest
+// weekday, the months being compared on one weekday.
 int LongestDate(const QFontMetrics& metrics) {
-    constexpr int Year = 2009;
-    constexpr unsigned FirstDay = 22; // with two digits, as the six behind it
-    int longest = 0;
-    for (unsigned month = 1; month <= 12; ++month) {
-        for (unsigned day = FirstDay; day < FirstDay + 7; ++day) {
-            const Date date{std::chrono::year{Year} / std::chrono::month{month} / std::chrono::day{day}};
-            longest = std::max(longest, metrics.horizontalAdvance(FromScreen(FormatDate(date, "Long Date"))));
+    using namespace std::chrono;
+    const auto width = [&metrics](Date date) {
+        return metrics.horizontalAdvance(FromScreen(FormatDate(date, "Long Date")));
+    };
+    // With two digits of the day, as the six behind it.
+    const auto firstDate = [](unsigned number) { return Date{year{2009} / month{number} / day{22}}; };
+    const auto wednesday = [](Date date) { return date + (Wednesday - weekday{date}); };
+    Date longest = firstDate(1);
+    for (unsigned number = 2; number <= 12; ++number) {
+        if (width(wednesday(firstDate(number))) > width(wednesday(longest))) {
+            longest = firstDate(number);
         }
     }
-    return longest;
+    int pixels = 0;
+    for (int later = 0; later < DaysPerWeek; ++later) {
+        pixels = std::max(pixels, width(longest + days{later}));
+    }
+    return pixels;
 }
 
 // Follows the width of a label with a height that has room for its lines.

@@ -3,6 +3,7 @@
 
 #include "toolkit/WindowColors.h"
 
+#include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
@@ -101,6 +102,17 @@ void PaintItem(QPainter& painter, const DrawnItem& item) {
     }
 }
 
+// The family of each face that this machine has. One alone: the start searches the fonts for each that is
+// named.
+std::array<QString, FaceFamilies.size()> FamiliesHere() {
+    std::array<QString, FaceFamilies.size()> families;
+    std::ranges::transform(FaceFamilies, families.begin(), [](const FaceFamily& face) {
+        const QString family = QString::fromLatin1(face.family);
+        return QFontDatabase::hasFamily(family) ? family : QString::fromLatin1(face.substitute);
+    });
+    return families;
+}
+
 QColor Accent(int opacity) {
     QColor color = ToQColor(AccentColor);
     color.setAlpha(opacity);
@@ -126,10 +138,11 @@ void SetColor(QWidget* widget, QPalette::ColorRole role, int bgr) {
 }
 
 QFont ToQFont(const SurfaceFont& font) {
-    const FaceFamily& face = FaceFamilies[static_cast<std::size_t>(font.face)];
+    static const std::array<QString, FaceFamilies.size()> families = FamiliesHere();
+    const auto face = static_cast<std::size_t>(font.face);
     QFont result;
-    result.setFamilies({QString::fromLatin1(face.family), QString::fromLatin1(face.substitute)});
-    result.setStyleHint(face.hint);
+    result.setFamily(families[face]);
+    result.setStyleHint(FaceFamilies[face].hint);
     result.setPointSizeF(font.points);
     result.setBold(font.bold);
     return result;

@@ -1,6 +1,7 @@
 target_sources(window_tests PRIVATE
   toolkit/DialogFocusTest.cpp
   toolkit/ElidedLabelTest.cpp
+  toolkit/FacesTest.cpp
   toolkit/HelpTopicsTest.cpp
   toolkit/InputRulesTest.cpp
   toolkit/grid/ListAccessibleTest.cpp

@@ -254,8 +254,8 @@ TEST_F(Picker, TheMarkedDayIsBoldWhiteOnBlack) {
     EXPECT_TRUE(day->font().bold());
 }
 
-TEST_F(Picker, DaysHaveVerdanaAt8AndAQuarterPoints) {
-    EXPECT_EQ(picker->LabelCalDate[0]->font().families().value(0), "Verdana");
+TEST_F(Picker, DaysHaveTheFontOfTitlesAt8AndAQuarterPoints) {
+    EXPECT_EQ(picker->LabelCalDate[0]->font().family(), ToQFont({Face::Title, 8, false}).family());
     EXPECT_EQ(picker->LabelCalDate[0]->font().pointSizeF(), 8.25);
 }
 
