@@ -26,18 +26,6 @@ protected:
         return {"Planovarium", WillLoseExceptions, Buttons::YesNoCancel, Icon::Information};
     }
 
-    // By a press on its button and on a day of the month that opens.
-    void PickDate(const char* date) {
-        FireTimer(dialog->Picker->TimerCalendar);
-        Click(dialog->picButtonEventStartDate);
-        for (std::size_t cell = 0; cell < dialog->Picker->Cells.size(); ++cell) {
-            if (dialog->Picker->Cells[cell].date == DateValue(date)) {
-                return Click(dialog->Picker->LabelCalDate[cell]);
-            }
-        }
-        ADD_FAILURE() << date << " is not on the panel";
-    }
-
     void ExpectSeries(const char* recurs, const char* status) const {
         EXPECT_EQ(dialog->tempEventRecurrence, recurs);
         EXPECT_EQ(dialog->LabelRecurStatus->text(), status);

@@ -2,6 +2,7 @@
 // flow.
 #pragma once
 
+#include "core/DateText.h"
 #include "editors/EditorTest.h"
 #include "support/EventRecords.h"
 
@@ -32,6 +33,13 @@ protected:
         Click(dialog->ButtonOpenRecur);
     }
 
+    // By a press on the button of the date and on the day of the month that opens.
+    void PickDate(const char* date) { PickDay(*dialog->Picker, dialog->picButtonEventStartDate, date); }
+
+    void PickEndDate(const char* date) {
+        PickDay(*recurrence->Picker, recurrence->picButtonRepeatEndDate, date);
+    }
+
     // A dialog that has stayed open would hold what waits for it for ever.
     static void ExpectClosed(QDialog& left) {
         if (left.isVisible()) {
@@ -51,7 +59,21 @@ protected:
 
     frmEvent* dialog = nullptr;
     frmRecurrence* recurrence = nullptr;
+
+private:
+    static void PickDay(DatePicker& picker, QWidget* button, const char* date);
 };
+
+inline void EventTest::PickDay(DatePicker& picker, QWidget* button, const char* date) {
+    FireTimer(picker.TimerCalendar);
+    Click(button);
+    for (std::size_t cell = 0; cell < picker.Cells.size(); ++cell) {
+        if (picker.Cells[cell].date == DateValue(date)) {
+            return Click(picker.LabelCalDate[cell]);
+        }
+    }
+    ADD_FAILURE() << date << " is not on the panel";
+}
 
 inline void EventTest::OpenEdit(const EventTexts& record, std::string_view dateCaption) {
     dialog->tempEventStartDate = record.date;

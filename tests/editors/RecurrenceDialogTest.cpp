@@ -33,17 +33,6 @@ protected:
         recurrence->FrmRecDeleteExFlag = false;
     }
 
-    void PickEndDate(const char* date) {
-        FireTimer(recurrence->Picker->TimerCalendar);
-        Click(recurrence->picButtonRepeatEndDate);
-        for (std::size_t cell = 0; cell < recurrence->Picker->Cells.size(); ++cell) {
-            if (recurrence->Picker->Cells[cell].date == DateValue(date)) {
-                return Click(recurrence->Picker->LabelCalDate[cell]);
-            }
-        }
-        ADD_FAILURE() << date << " is not on the panel";
-    }
-
     std::vector<QCheckBox*> Days() const {
         return {recurrence->CheckBoxMonday,   recurrence->CheckBoxTuesday, recurrence->CheckBoxWednesday,
                 recurrence->CheckBoxThursday, recurrence->CheckBoxFriday,  recurrence->CheckBoxSaturday,
