@@ -159,6 +159,21 @@ TEST_F(RecurrenceDialogs, EachOpeningBeginsAtTheKindThatIsChosen) {
     EXPECT_EQ(recurrence->focusWidget(), recurrence->RadioRepeatDaily);
 }
 
+TEST_F(RecurrenceDialogs, ControlsHaveTheirHelpNumbers) {
+    ExpectTopics(*recurrence, {{"RadioRepeatNone", 881},
+                               {"RadioRepeatDaily", 882},
+                               {"RadioRepeatMonthly", 883},
+                               {"RadioRepeatYearly", 884},
+                               {"FrameDaily", 885},
+                               {"FrameMonthly", 886},
+                               {"FrameYearly", 887},
+                               {"CheckboxRepeatEndDate", 888},
+                               {"TextboxRepeatEndDate", 889},
+                               {"picButtonRepeatEndDate", 889},
+                               {"ButtonOK", 890},
+                               {"ButtonCancel", 891}});
+}
+
 // --- Clicks ------------------------------------------------------------------------------------------------
 
 TEST_F(RecurrenceDialogs, KindShowsItsPanelAndMakesItsControlsAvailable) {
