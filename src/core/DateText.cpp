@@ -134,6 +134,12 @@ Date FreeFormDate(std::string_view text) {
     return NoDate;
 }
 
+// NoDate for what is none.
+Date AnyDate(std::string_view text) {
+    const Date date = StoredFormDate(text);
+    return date == NoDate ? FreeFormDate(text) : date;
+}
+
 // Takes the number in front of the text off it; nothing when there is none of one or two digits.
 std::optional<int> TakeNumber(std::string_view& text) {
     const std::size_t length = std::min(text.find_first_not_of("0123456789"), text.size());
@@ -169,10 +175,7 @@ Value Required(std::optional<Value> value, std::string_view wanted, std::string_
 } // namespace
 
 std::optional<Date> DateIn(std::string_view text) {
-    Date date = StoredFormDate(text);
-    if (date == NoDate) {
-        date = FreeFormDate(text);
-    }
+    const Date date = AnyDate(text);
     if (date == NoDate) {
         return std::nullopt;
     }
@@ -226,7 +229,11 @@ bool IsTime(std::string_view text) {
 }
 
 Date DateValue(std::string_view text) {
-    return Required(DateIn(text), "Not a date", text);
+    const Date date = AnyDate(text);
+    if (date == NoDate) {
+        throw RunTimeError("Not a date", text);
+    }
+    return date;
 }
 
 TimeOfDay TimeValue(std::string_view text) {

@@ -15,6 +15,10 @@ namespace {
 constexpr int GreatestColor = 0xFFFFFF;
 constexpr std::size_t GreatestBareLength = 9;
 
+// As the program writes them.
+constexpr std::string_view True = "True";
+constexpr std::string_view False = "False";
+
 // Letters beyond ASCII whose lower-case form is another byte: 0xC0 to 0xDE but for the multiplication sign
 // are 32 apart, and the letters of windows-1252 stand singly.
 unsigned char FoldLatin(unsigned char byte) {
@@ -71,7 +75,7 @@ int WholeBetween(int least, int greatest, double number) {
     return static_cast<int>(rounded);
 }
 
-// What CompareFolded tells too, in half the time: the flags of every record are asked.
+// What CompareFolded tells too, in half the time.
 bool EqualsFolded(std::string_view text, std::string_view lowerCase) {
     return std::ranges::equal(text, lowerCase, [](char a, char b) {
         return Folded[static_cast<unsigned char>(a)] == static_cast<unsigned char>(b);
@@ -163,17 +167,17 @@ int ToColor(std::string_view text) {
 }
 
 bool IsTrue(std::string_view text) {
-    if (EqualsFolded(text, "true")) {
+    if (text == True || EqualsFolded(text, "true")) {
         return true;
     }
-    if (EqualsFolded(text, "false")) {
+    if (text == False || EqualsFolded(text, "false")) {
         return false;
     }
     throw RunTimeError("Neither True nor False", text);
 }
 
 std::string BooleanText(bool value) {
-    return value ? "True" : "False";
+    return std::string(value ? True : False);
 }
 
 unsigned char FoldByte(unsigned char byte) {
