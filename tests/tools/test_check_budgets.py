@@ -68,11 +68,11 @@ class Budgets(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertIn("Paint: has a budget and was not measured", text)
 
-    def test_are_stored_for_new_figures_alone_a_half_above_what_they_are(self):
+    def test_are_stored_for_new_figures_alone_at_twice_what_they_are(self):
         self.check([figure("Sort", 5), figure("Copy", 4), figure("Paint", 1), figure("SaveAll", 8)], store=True)
         rows = json.loads(self.budgets.read_text())["budgets"]
         self.assertEqual(rows, [{"figure": "Paint", "yardstick": "Sort", "ratio": 2},
-                                {"figure": "SaveAll", "yardstick": "Copy", "ratio": 3.0}])
+                                {"figure": "SaveAll", "yardstick": "Copy", "ratio": 4.0}])
 
 
 if __name__ == "__main__":
