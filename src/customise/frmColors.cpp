@@ -6,6 +6,7 @@
 #include "toolkit/FirstOpen.h"
 #include "toolkit/Modal.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowStyle.h"
 #include "toolkit/grid/ListInput.h"
 
 #include <QSignalBlocker>
@@ -35,7 +36,7 @@ frmColors* ColorsDialog = nullptr;
 
 frmColors::frmColors(QWidget* parent) : EditorDialog(parent) {
     setupUi(this);
-    picHelp->setIcon(QIcon(QStringLiteral(":/icons/picHelp.svg")));
+    picHelp->setIcon(ProgramIcon(QStringLiteral("picHelp.svg")));
     BuildList();
     BindAnswers(ButtonOK, ButtonCancel);
     connect(ButtonTextColor, &QPushButton::clicked, this,

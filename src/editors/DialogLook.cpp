@@ -5,6 +5,7 @@
 #include "platform/Formats.h"
 #include "toolkit/ProgramStyle.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -154,7 +155,7 @@ void SetupDateBoxes(std::initializer_list<DateBox> boxes) {
     const int longest = LongestDate(boxes.begin()->box->fontMetrics());
     for (const DateBox& date : boxes) {
         date.box->setMinimumWidth(longest + DateMargin);
-        date.button->setIcon(QIcon(QStringLiteral(":/icons/picButtonDate.svg")));
+        date.button->setIcon(ProgramIcon(QStringLiteral("picButtonDate.svg")));
         date.button->setToolTip(date.button->accessibleName());
     }
 }

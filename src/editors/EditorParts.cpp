@@ -5,6 +5,7 @@
 #include "platform/MessageBoxes.h"
 #include "toolkit/HelpTopics.h"
 #include "toolkit/PictureBox.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -200,7 +201,7 @@ void ShowDateField(std::string& field, QLineEdit* box, Date date) {
 }
 
 void SetupHelpButton(QToolButton* button) {
-    button->setIcon(QIcon(QStringLiteral(":/icons/picHelp.svg")));
+    button->setIcon(ProgramIcon(QStringLiteral("picHelp.svg")));
     button->setToolTip(button->accessibleName() + QStringLiteral(" (F1)"));
     QObject::connect(button, &QToolButton::clicked, button, [] { QWhatsThis::enterWhatsThisMode(); });
     AddKey(button->window(), Qt::Key_F1, Qt::WindowShortcut, button);

@@ -7,11 +7,26 @@
 
 #include <QApplication>
 
+#include <map>
+
 namespace {
 
 constexpr double WindowPoints = 9;
 
+std::map<QString, QIcon> icons; // by the names of their pictures
+
 } // namespace
+
+QIcon ProgramIcon(const QString& picture) {
+    if (icons.empty()) {
+        qAddPostRoutine([] { icons.clear(); }); // none may outlive the application
+    }
+    QIcon& icon = icons[picture];
+    if (icon.isNull()) {
+        icon = QIcon(QStringLiteral(":/icons/") + picture);
+    }
+    return icon;
+}
 
 QString TipWithKey(const QString& what, const QKeySequence& key) {
     return key.isEmpty() ? what : QStringLiteral("%1 (%2)").arg(what, key.toString(QKeySequence::NativeText));

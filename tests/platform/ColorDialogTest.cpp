@@ -2,6 +2,7 @@
 #include "platform/ColorDialog.h"
 
 #include "support/ChildProcess.h"
+#include "toolkit/Modal.h"
 #include "toolkit/PictureBox.h"
 
 #include <QApplication>
@@ -62,6 +63,20 @@ TEST(ColorDialog, GivesNothingWhenCancelled) {
         },
         [](QColorDialog& dialog) {
             dialog.setCurrentColor(Qt::black);
+            dialog.reject();
+        }));
+}
+
+TEST(ColorDialog, CountsAsAModalDialogAsLongAsItIsOpen) {
+    EXPECT_TRUE(HoldsFor(
+        [] {
+            CustomColors custom = NoCustomColors;
+            EXPECT_FALSE(ModalDialogIsOpen());
+            ChooseColor(Orange, custom);
+            EXPECT_FALSE(ModalDialogIsOpen());
+        },
+        [](QColorDialog& dialog) {
+            EXPECT_TRUE(ModalDialogIsOpen());
             dialog.reject();
         }));
 }

@@ -4,6 +4,7 @@
 #include "support/ChildProcess.h"
 #include "support/FileBytes.h"
 #include "support/TemporaryDrive.h"
+#include "toolkit/Modal.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -108,6 +109,18 @@ TEST_F(SaveDialog, OpensInTheFolderOnTheNameWithTheFilters) {
             dialog->reject();
             return true;
         }}));
+}
+
+TEST_F(SaveDialog, CountsAsAModalDialogAsLongAsItIsOpen) {
+    EXPECT_TRUE(HoldsFor([](const auto& /*chosen*/) { EXPECT_FALSE(ModalDialogIsOpen()); }, {[] {
+                             QFileDialog* const dialog = Dialog();
+                             if (dialog == nullptr) {
+                                 return false;
+                             }
+                             EXPECT_TRUE(ModalDialogIsOpen());
+                             dialog->reject();
+                             return true;
+                         }}));
 }
 
 TEST_F(SaveDialog, GivesThePlaceWithTheEndingBehindANameWithoutOne) {

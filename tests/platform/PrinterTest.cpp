@@ -2,6 +2,7 @@
 #include "platform/Printer.h"
 
 #include "support/ChildProcess.h"
+#include "toolkit/Modal.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -74,6 +75,20 @@ TEST(Printer, ProposesLandscapeAndOneCopy) {
             EXPECT_EQ(dialog.printer()->copyCount(), 1);
             EXPECT_EQ(dialog.fromPage(), 1);
             EXPECT_EQ(dialog.toPage(), 1);
+            dialog.reject();
+        }));
+}
+
+TEST(Printer, CountsAsAModalDialogAsLongAsItIsOpen) {
+    EXPECT_TRUE(HoldsFor(
+        [] {
+            PrintFields fields;
+            EXPECT_FALSE(ModalDialogIsOpen());
+            ShowPrinter(fields);
+            EXPECT_FALSE(ModalDialogIsOpen());
+        },
+        [](QPrintDialog& dialog) {
+            EXPECT_TRUE(ModalDialogIsOpen());
             dialog.reject();
         }));
 }

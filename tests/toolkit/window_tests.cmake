@@ -4,6 +4,7 @@ target_sources(window_tests PRIVATE
   toolkit/FacesTest.cpp
   toolkit/HelpTopicsTest.cpp
   toolkit/InputRulesTest.cpp
+  toolkit/ProgramIconsTest.cpp
   toolkit/grid/ListAccessibleTest.cpp
   toolkit/grid/ListInputTest.cpp
   toolkit/grid/ListPaintingTest.cpp

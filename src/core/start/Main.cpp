@@ -45,7 +45,7 @@ void SetApplicationProperties() {
     Application::setApplicationVersion(FromStore(ProgramVersion()));
     Application::setDesktopFileName(QStringLiteral("planovarium"));
     Application::setQuitOnLastWindowClosed(false);
-    Application::setWindowIcon(QIcon(QStringLiteral(":/icons/planovarium.svg")));
+    Application::setWindowIcon(ProgramIcon(QStringLiteral("planovarium.svg")));
 }
 
 // All that stands behind the program's name on the command line, joined by blanks.

@@ -6,6 +6,7 @@
 #include "platform/MessageBoxes.h"
 #include "toolkit/PictureBox.h"
 #include "toolkit/WindowColors.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -49,7 +50,7 @@ void frmSplash::HandOver() {
 void frmSplash::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(BarColor));
-    QIcon(QStringLiteral(":/icons/planovarium.svg")).paint(&painter, IconPlace);
+    ProgramIcon(QStringLiteral("planovarium.svg")).paint(&painter, IconPlace);
     painter.setPen(ToQColor(SplashNameColor));
     painter.setFont(ToQFont(NameFont));
     painter.drawText(NamePlace, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Planovarium"));

@@ -43,7 +43,8 @@ QString MonthPicture(bool up, bool pressed) {
 } // namespace
 
 DatePicker::DatePicker(QWidget* dialog) : QFrame(dialog) {
-    SetupCalendar();
+    SetupPanel();
+    SetupTimers();
     SetHelpTopic(this, CalendarTopic);
     hide();
     setEnabled(false);
@@ -60,6 +61,9 @@ void DatePicker::AddField(bool target, QWidget* box, QWidget* button, std::funct
 }
 
 void DatePicker::SetCalendarHeads(const std::string& startDayOfWeek) {
+    if (LabelMonth == nullptr) {
+        SetupCalendar();
+    }
     HideCalendar();
     firstDayOfWeek = startDayOfWeek;
     const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);

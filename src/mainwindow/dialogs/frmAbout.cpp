@@ -6,6 +6,7 @@
 #include "platform/Process.h"
 #include "toolkit/Pressable.h"
 #include "toolkit/Text.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -22,7 +23,7 @@ frmAbout* AboutDialog = nullptr;
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setupUi(this);
-    picIcon->setPixmap(QIcon(QStringLiteral(":/icons/planovarium.svg")).pixmap(PictureSize));
+    picIcon->setPixmap(ProgramIcon(QStringLiteral("planovarium.svg")).pixmap(PictureSize));
     QFont title = lblTitle->font();
     title.setBold(true);
     title.setPointSizeF(title.pointSizeF() * TitleScale);

@@ -4,6 +4,7 @@
 #include "editors/DialogLook.h"
 #include "editors/EditorParts.h"
 #include "toolkit/ProgramStyle.h"
+#include "toolkit/WindowStyle.h"
 
 #include <QCloseEvent>
 #include <QSignalBlocker>
@@ -13,7 +14,7 @@ frmGPA* GPADialog = nullptr;
 frmGPA::frmGPA(QWidget* parent) : QDialog(parent) {
     setupUi(this);
     SetupNames(ComboClassNameList);
-    picHelp->setIcon(QIcon(QStringLiteral(":/icons/picHelp.svg")));
+    picHelp->setIcon(ProgramIcon(QStringLiteral("picHelp.svg")));
     for (QLineEdit* box :
          {TextBoxCredits, TextboxPercent, TextboxGPA, TextboxAssignments, TextboxStudyTime}) {
         ShowAsReadOnly(box);

@@ -67,7 +67,7 @@ QString WithoutColon(std::string_view label) {
 
 QToolButton* SmallNewButton(const char* picture, const QAction* item) {
     auto* button = new QToolButton;
-    button->setIcon(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)));
+    button->setIcon(ProgramIcon(QLatin1String(picture)));
     button->setIconSize({SmallIcon, SmallIcon});
     button->setFixedHeight(SmallButtonHeight);
     const QString name = WithoutMnemonics(item->text());
@@ -78,7 +78,7 @@ QToolButton* SmallNewButton(const char* picture, const QAction* item) {
 }
 
 QPushButton* IconButton(const char* picture, const char* name) {
-    auto* button = new QPushButton(QIcon(QStringLiteral(":/icons/") + QLatin1String(picture)), QString());
+    auto* button = new QPushButton(ProgramIcon(QLatin1String(picture)), QString());
     button->setFixedSize(TimerButtonWidth, TimerButtonHeight);
     button->setToolTip(QLatin1String(name));
     button->setAccessibleName(QLatin1String(name));
@@ -280,12 +280,12 @@ QWidget* BuildCounters(frmMain& window) {
 
 QWidget* BuildAlerts(frmMain& window) {
     auto* panel = new QWidget;
+    panel->setStyleSheet(AlertButtonStyle());
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(AlertGap);
     for (QPushButton*& button : window.ButtonAlert) {
-        button = new QPushButton(QIcon(QStringLiteral(":/icons/picAlert.svg")), QString());
-        button->setStyleSheet(AlertButtonStyle());
+        button = new QPushButton(ProgramIcon(QStringLiteral("picAlert.svg")), QString());
         button->setFixedHeight(AlertHeight);
         button->hide();
         column->addWidget(button);

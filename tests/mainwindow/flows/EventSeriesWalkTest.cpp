@@ -22,7 +22,7 @@ using std::chrono::days;
 using std::chrono::months;
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr int SeriesOfAShare = 250;
+constexpr int SeriesOfAShare = 125;
 #else
 constexpr int SeriesOfAShare = 500;
 #endif
