@@ -96,6 +96,7 @@ struct FieldReading {
 
 std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
     std::vector<FieldFrame> frames;
+    frames.reserve(fields.size());
     for (const RecordField& field : fields) {
         frames.push_back({OpeningTag(field.tag), ClosingTag(field.tag)});
     }
