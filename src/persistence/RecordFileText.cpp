@@ -13,22 +13,6 @@ constexpr std::string_view Indentation = "  ";
 constexpr std::string_view NoDate = "//";
 constexpr std::size_t BlockSize = 65536; // bytes gathered before they are written
 
-// What stands around the value of a field.
-struct FieldFrame {
-    std::string opening;
-    std::string closing;
-};
-
-std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
-    std::vector<FieldFrame> frames;
-    frames.reserve(fields.size());
-    for (const RecordField& field : fields) {
-        frames.push_back(
-            {std::string(Indentation).append(OpeningTag(field.tag)), ClosingTag(field.tag).append(LineEnd)});
-    }
-    return frames;
-}
-
 // A text that is no date comes out three times, once for the year, the month and the day each. A text of
 // slashes is what an empty date became, and stays as it is so that the file does not grow from run to run.
 std::string FormattedDate(const std::string& text) {
@@ -51,6 +35,17 @@ std::string ClosingTag(std::string_view tag) {
     return std::string("</").append(tag).append(">");
 }
 
+std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields, std::string_view before,
+                                 std::string_view behind) {
+    std::vector<FieldFrame> frames;
+    frames.reserve(fields.size());
+    for (const RecordField& field : fields) {
+        frames.push_back(
+            {std::string(before).append(OpeningTag(field.tag)), ClosingTag(field.tag).append(behind)});
+    }
+    return frames;
+}
+
 std::string WithSlashes(std::string_view date) {
     std::string text(date);
     std::ranges::replace_if(
@@ -59,7 +54,7 @@ std::string WithSlashes(std::string_view date) {
 }
 
 void WriteRecords(OutputFile& output, const RecordFile& file, int records) {
-    const std::vector<FieldFrame> frames = FramesOf(file.fields);
+    const std::vector<FieldFrame> frames = FramesOf(file.fields, Indentation, LineEnd);
     const std::string recordStart = OpeningTag(file.record).append(LineEnd);
     const std::string recordEnd = ClosingTag(file.record).append(LineEnd);
     std::string block(Header);

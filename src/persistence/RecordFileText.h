@@ -7,6 +7,16 @@
 std::string OpeningTag(std::string_view tag);
 std::string ClosingTag(std::string_view tag);
 
+// What stands around the value of a field.
+struct FieldFrame {
+    std::string opening;
+    std::string closing;
+};
+
+// The tags of each field, with that text before the opening and behind the closing one.
+std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields, std::string_view before = {},
+                                 std::string_view behind = {});
+
 // The date with "/" in place of every "." and "-".
 std::string WithSlashes(std::string_view date);
 

@@ -82,26 +82,12 @@ bool IsRecordTag(const RecordFile& file, std::string_view line) {
     return trimmed == OpeningTag(file.record) || trimmed == ClosingTag(file.record);
 }
 
-struct FieldFrame {
-    std::string opening;
-    std::string closing;
-};
-
 // What the fields of a file have in common as they are read.
 struct FieldReading {
     std::vector<FieldFrame> frames; // of the fields in the order of the table
     std::size_t expected = 0;       // the place in the table of the field that should come next
     std::string text;               // of a field over several lines, kept from field to field for its memory
 };
-
-std::vector<FieldFrame> FramesOf(const std::vector<RecordField>& fields) {
-    std::vector<FieldFrame> frames;
-    frames.reserve(fields.size());
-    for (const RecordField& field : fields) {
-        frames.push_back({OpeningTag(field.tag), ClosingTag(field.tag)});
-    }
-    return frames;
-}
 
 // Reads a field that is what nearly all are: the next of the table, whole on its line. Gives false for any
 // other line, and takes nothing of it.
