@@ -24,7 +24,13 @@ Date DateOrOther(bool used, const std::string& text, Date other) {
 
 FrmTask* TaskDialog = nullptr;
 
-FrmTask::FrmTask(QWidget* parent) : ItemEditor(parent) {
+FrmTask::FrmTask(QWidget* parent) : ItemEditor(parent), Ui::FrmTask() {
+}
+
+void FrmTask::MakeControls() {
+    if (ButtonOK != nullptr) {
+        return;
+    }
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -89,6 +95,7 @@ void FrmTask::BindControls() {
 // --- Opening -----------------------------------------------------------------------------------------------
 
 void FrmTask::Fill() {
+    MakeControls();
     UpdateEstimateFlag = true;
     ComboType->clear();
     AddRows(ComboType, TaskTypeRows());

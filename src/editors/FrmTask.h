@@ -10,7 +10,11 @@ class FrmTask : public ItemEditor, public Ui::FrmTask {
     Q_OBJECT
 
 public:
+    // Has no control yet.
     explicit FrmTask(QWidget* parent);
+
+    // Makes the controls, once; the first filling does, so that the start does not wait for them.
+    void MakeControls();
 
     // Fills all controls, for "New" from tempClickedDate, for "Edit" from the fields; to be
     // called before each opening. Raises the run-time error where a flag is neither "True" nor "False", and

@@ -25,7 +25,13 @@ constexpr std::string_view TotalWanted = "Enter the total number of points possi
 
 frmAssignment* AssignmentDialog = nullptr;
 
-frmAssignment::frmAssignment(QWidget* parent) : ItemEditor(parent) {
+frmAssignment::frmAssignment(QWidget* parent) : ItemEditor(parent), Ui::frmAssignment() {
+}
+
+void frmAssignment::MakeControls() {
+    if (ButtonOK != nullptr) {
+        return;
+    }
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -85,6 +91,7 @@ void frmAssignment::BindControls() {
 // --- Opening -----------------------------------------------------------------------------------------------
 
 void frmAssignment::Fill() {
+    MakeControls();
     UpdateEstimateFlag = true;
     FillClasses();
     if (EditMode == "New") {

@@ -12,7 +12,11 @@ class frmAssignment : public ItemEditor, public Ui::frmAssignment {
     Q_OBJECT
 
 public:
+    // Has no control yet.
     explicit frmAssignment(QWidget* parent);
+
+    // Makes the controls, once; the first filling does, so that the start does not wait for them.
+    void MakeControls();
 
     // Fills all controls, for "New" from tempClickedDate, for "Edit" from the fields; to be
     // called before each opening. Raises the run-time error where a field holds no date or neither "True" nor

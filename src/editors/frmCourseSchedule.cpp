@@ -16,7 +16,13 @@ constexpr std::string_view CancelTermQuestion = "Cancel changes to this Term's C
 
 frmCourseSchedule* TermDialog = nullptr;
 
-frmCourseSchedule::frmCourseSchedule(QWidget* parent) : EditorDialog(parent) {
+frmCourseSchedule::frmCourseSchedule(QWidget* parent) : EditorDialog(parent), Ui::frmCourseSchedule() {
+}
+
+void frmCourseSchedule::MakeControls() {
+    if (ButtonOK != nullptr) {
+        return;
+    }
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -80,6 +86,7 @@ void frmCourseSchedule::BindControls() {
 // --- Opening -----------------------------------------------------------------------------------------------
 
 void frmCourseSchedule::Fill() {
+    MakeControls();
     const bool edited = EditMode == "Edit";
     setWindowTitle(edited ? QStringLiteral("Planovarium - Edit Term")
                           : QStringLiteral("Planovarium - New Term"));

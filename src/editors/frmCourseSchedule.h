@@ -16,7 +16,11 @@ class frmCourseSchedule : public EditorDialog, public Ui::frmCourseSchedule {
     Q_OBJECT
 
 public:
+    // Has no control yet.
     explicit frmCourseSchedule(QWidget* parent);
+
+    // Makes the controls, once; the first filling does, so that the start does not wait for them.
+    void MakeControls();
 
     // Fills all controls, for "New" with a term that begins today, for "NewBasedOn" and "Edit" from the
     // fields; to be called before each opening. Raises the run-time error where a field holds no date.

@@ -26,7 +26,13 @@ constexpr std::string_view DayLimitNote =
 
 frmEvent* EventDialog = nullptr;
 
-frmEvent::frmEvent(QWidget* parent) : EditorDialog(parent) {
+frmEvent::frmEvent(QWidget* parent) : EditorDialog(parent), Ui::frmEvent() {
+}
+
+void frmEvent::MakeControls() {
+    if (ButtonOK != nullptr) {
+        return;
+    }
     setupUi(this);
     SetupControls();
     SetTopics();
@@ -101,6 +107,7 @@ void frmEvent::BindControls() {
 // --- Opening -----------------------------------------------------------------------------------------------
 
 void frmEvent::Fill() {
+    MakeControls();
     DeleteExceptions = false;
     ComboType->clear();
     AddRows(ComboType, EventTypeRows());

@@ -16,7 +16,11 @@ class frmEvent : public EditorDialog, public Ui::frmEvent {
     Q_OBJECT
 
 public:
+    // Has no control yet.
     explicit frmEvent(QWidget* parent);
+
+    // Makes the controls, once; the first filling does, so that the start does not wait for them.
+    void MakeControls();
 
     // Fills all controls and those of frmRecurrence, for "New" from tempClickedDate and
     // EventClickedStartTime, for "Edit" from the fields; to be called before each opening. Raises the

@@ -64,15 +64,17 @@ bool IsFrame(const QWidget* widget) {
     return qobject_cast<const QFrame*>(widget) != nullptr && !widget->inherits("QComboBoxPrivateContainer");
 }
 
-struct BoxPicture {
-    QStyle::StandardPixmap box;
+struct OwnPicture {
+    QStyle::StandardPixmap standard;
     const char* picture;
 };
 
-constexpr std::array<BoxPicture, 3> BoxPictures{{
+// The menu bar asks for its arrow as it is made; the style's own would have all readers of pictures loaded.
+constexpr std::array<OwnPicture, 4> OwnPictures{{
     {QStyle::SP_MessageBoxInformation, ":/icons/boxInformation.svg"},
     {QStyle::SP_MessageBoxWarning, ":/icons/boxWarning.svg"},
     {QStyle::SP_MessageBoxCritical, ":/icons/boxError.svg"},
+    {QStyle::SP_ToolBarHorizontalExtensionButton, ":/icons/menuMore.svg"},
 }};
 
 class ProgramStyle : public QProxyStyle {
@@ -89,8 +91,8 @@ public:
 
     QIcon standardIcon(StandardPixmap standard, const QStyleOption* option,
                        const QWidget* widget) const override {
-        for (const BoxPicture& row : BoxPictures) {
-            if (row.box == standard) {
+        for (const OwnPicture& row : OwnPictures) {
+            if (row.standard == standard) {
                 return QIcon(QLatin1String(row.picture));
             }
         }

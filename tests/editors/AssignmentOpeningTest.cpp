@@ -40,6 +40,7 @@ using AssignmentOpening = AssignmentTest;
 }
 
 TEST_F(AssignmentOpening, CombosOfferTheirRows) {
+    dialog->MakeControls();
     ASSERT_EQ(dialog->ComboTypeList->count(), 7);
     EXPECT_EQ(dialog->ComboTypeList->itemText(6), "Project");
     EXPECT_EQ(dialog->ComboPercentComplete->count(), 5);
@@ -218,6 +219,7 @@ TEST_F(AssignmentOpening, ReminderTimeThatIsNoneOpensAndCountsAsNine) {
 }
 
 TEST_F(AssignmentOpening, ControlsHaveTheirHelpNumbers) {
+    dialog->MakeControls();
     ExpectTopics(*dialog,
                  {{"ButtonCancel", 201},       {"ButtonDelete", 202},     {"ButtonOK", 203},
                   {"CheckBoxDone", 204},       {"CheckBoxPriority", 205}, {"CheckboxReminder", 206},

@@ -97,6 +97,7 @@ TEST_F(DialogKeys, KeysOfButtonsAndTicksPressThem) {
 }
 
 TEST_F(DialogKeys, CaptionsAreTheToldWordsWithoutTheMarksOfTheKeys) {
+    MakeAllDialogs(*window);
     Open(*AssignmentDialog, "New");
     ExpectCaptions(*AssignmentDialog, {{"LabelClass", "Fall 2009 Classes "},
                                        {"LabelDateDue", "Due Date"},

@@ -232,6 +232,7 @@ TEST_F(EventEditor, EndDateThatIsNoneCountsAsTheEventsWhereThereIsNoEnd) {
 }
 
 TEST_F(EventEditor, ControlsHaveTheirHelpNumbers) {
+    dialog->MakeControls();
     ExpectTopics(*dialog, {{"ButtonCancel", 501},
                            {"ButtonDelete", 502},
                            {"ButtonOK", 503},

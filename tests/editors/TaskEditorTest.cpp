@@ -174,6 +174,7 @@ TEST_F(TaskEditor, OpeningWritesTheHeadsOfThePickerAndHidesIt) {
 }
 
 TEST_F(TaskEditor, CombosOfferTheirRows) {
+    dialog->MakeControls();
     const auto rowsOf = [](const QComboBox* combo) {
         QStringList rows;
         for (int row = 0; row < combo->count(); ++row) {
@@ -188,6 +189,7 @@ TEST_F(TaskEditor, CombosOfferTheirRows) {
 }
 
 TEST_F(TaskEditor, ControlsHaveTheirHelpNumbers) {
+    dialog->MakeControls();
     ExpectTopics(*dialog, {{"ButtonCancel", 601},
                            {"ButtonDelete", 602},
                            {"ButtonOK", 603},

@@ -59,6 +59,7 @@ TEST_F(TermEditor, ClassPanelIsClosedAtFirst) {
 }
 
 TEST_F(TermEditor, EveryControlHasItsHelpTopic) {
+    dialog->MakeControls();
     ExpectTopics(*dialog, {{"ButtonAddClass", 301},
                            {"ButtonCancel", 302},
                            {"ButtonCancelClass", 303},
@@ -102,6 +103,7 @@ TEST_F(TermEditor, OpeningWritesTheHeadsOfThePickerAndHidesIt) {
 }
 
 TEST_F(TermEditor, ExplanationsStandInTheWindows) {
+    dialog->MakeControls();
     const auto textsOf = [](const QDialog& shown) {
         QStringList texts;
         for (const QLabel* label : shown.findChildren<QLabel*>()) {

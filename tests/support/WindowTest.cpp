@@ -2,6 +2,13 @@
 #include "support/WindowTest.h"
 
 #include "core/Module1.h"
+#include "editors/FrmTask.h"
+#include "editors/frmAssignment.h"
+#include "editors/frmCourseSchedule.h"
+#include "editors/frmEvent.h"
+#include "mainwindow/dialogs/frmAbout.h"
+#include "mainwindow/dialogs/frmGPA.h"
+#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/frame/Load.h"
 #include "support/StoreRecords.h"
 
@@ -111,6 +118,16 @@ void WhenDialogOpens(const std::function<void(QWidget*)>& action) {
         action(dialog);
     });
     poll->start(1);
+}
+
+void MakeAllDialogs(frmMain& window) {
+    AssignmentDialog->MakeControls();
+    TermDialog->MakeControls();
+    TaskDialog->MakeControls();
+    EventDialog->MakeControls();
+    TipDialog = new frmTip(&window);
+    AboutDialog = new frmAbout(&window);
+    GPADialog = new frmGPA(&window);
 }
 
 void FireTimer(QTimer* timer) {

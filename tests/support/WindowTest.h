@@ -55,6 +55,9 @@ bool WaitUntil(const std::function<bool()>& condition);
 // meanwhile. Fails the test when no dialog opens within five seconds.
 void WhenDialogOpens(const std::function<void(QWidget*)>& action);
 
+// Makes the dialogs, and controls of dialogs, that come only when they are asked for.
+void MakeAllDialogs(frmMain& window);
+
 // Lets the timer's next tick come now.
 void FireTimer(QTimer* timer);
 

@@ -227,6 +227,7 @@ TEST_F(InputRules, EnterHeldDownPicksNoDay) {
 // --- The wheel ---
 
 TEST_F(InputRules, WheelOverAComboOfADialogWithoutTheFocusLeavesIt) {
+    MakeAllDialogs(*window);
     for (QDialog* dialog :
          std::initializer_list<QDialog*>{AssignmentDialog, TaskDialog, TermChooser, TermDialog}) {
         ShowAlone(*dialog);

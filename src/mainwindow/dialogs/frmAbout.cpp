@@ -19,7 +19,7 @@ constexpr int DescriptionWidth = 320;
 
 } // namespace
 
-frmAbout* AboutDialog = nullptr;
+QPointer<frmAbout> AboutDialog;
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setupUi(this);

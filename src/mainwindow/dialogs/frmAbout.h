@@ -3,6 +3,8 @@
 
 #include "ui_frmAbout.h"
 
+#include <QPointer>
+
 class frmAbout : public QDialog, public Ui::frmAbout {
     Q_OBJECT
 
@@ -17,5 +19,5 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 };
 
-// The one dialog, from the load of the main window on, which owns it.
-extern frmAbout* AboutDialog;
+// The one dialog, made as it is first asked for; the main window owns it.
+extern QPointer<frmAbout> AboutDialog;

@@ -9,7 +9,7 @@
 #include <QCloseEvent>
 #include <QSignalBlocker>
 
-frmGPA* GPADialog = nullptr;
+QPointer<frmGPA> GPADialog;
 
 frmGPA::frmGPA(QWidget* parent) : QDialog(parent) {
     setupUi(this);

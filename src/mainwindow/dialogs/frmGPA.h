@@ -5,6 +5,8 @@
 
 #include "ui_frmGPA.h"
 
+#include <QPointer>
+
 class frmGPA : public QDialog, public Ui::frmGPA {
     Q_OBJECT
 
@@ -33,5 +35,5 @@ private:
     GPATable table;
 };
 
-// The one dialog, from the load of the main window on, which owns it.
-extern frmGPA* GPADialog;
+// The one dialog, made as it is first asked for; the main window owns it.
+extern QPointer<frmGPA> GPADialog;

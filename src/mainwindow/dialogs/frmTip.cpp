@@ -14,7 +14,7 @@ constexpr double TitleScale = 1.3; // of the dialog's own letters
 
 } // namespace
 
-frmTip* TipDialog = nullptr;
+QPointer<frmTip> TipDialog;
 
 frmTip::frmTip(QWidget* parent) : QDialog(parent) {
     setupUi(this);

@@ -3,6 +3,8 @@
 
 #include "ui_frmTip.h"
 
+#include <QPointer>
+
 #include <string>
 
 class frmTip : public QDialog, public Ui::frmTip {
@@ -23,5 +25,5 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 };
 
-// The one dialog, from the load of the main window on, which owns it.
-extern frmTip* TipDialog;
+// The one dialog, made as it is first asked for; the main window owns it.
+extern QPointer<frmTip> TipDialog;

@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmAlert.h"
 #include "mainwindow/dialogs/frmGPA.h"
+#include "mainwindow/flows/help/HelpFlow.h"
 #include "mainwindow/frmMain.h"
 #include "planner/study/AlertMessage.h"
 #include "toolkit/FirstOpen.h"
@@ -27,6 +28,10 @@ void ShowAlertMessage(frmMain& window, std::size_t index) {
 }
 
 void ShowGPA(frmMain& window) {
+    if (GPADialog == nullptr) {
+        GPADialog = new frmGPA(&window);
+        QObject::connect(GPADialog, &frmGPA::HelpAsked, &window, [&window] { OpenHelp(window); });
+    }
     GPADialog->Fill();
     PlaceAtFirstOpen(*GPADialog, GPADBFirstOpen, window, ReadOffset);
     RunModally(*GPADialog);

@@ -10,9 +10,6 @@
 #include "editors/frmEvent.h"
 #include "editors/frmRecurrence.h"
 #include "editors/frmSelectCourseSchedule.h"
-#include "mainwindow/dialogs/frmAbout.h"
-#include "mainwindow/dialogs/frmGPA.h"
-#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/flows/PreferencesFlow.h"
 #include "mainwindow/flows/ReminderFlow.h"
 #include "mainwindow/flows/TermFlow.h"
@@ -71,7 +68,8 @@ void LoadReminders(frmMain& window) {
                      [] { delete std::exchange(ReminderListWindow, nullptr); });
 }
 
-// The dialogs are built once, in this order, and the main window owns them.
+// The dialogs are made once, in this order, and the main window owns them. The editors make their controls as
+// they are first filled.
 void LoadDialogs(frmMain& window) {
     AssignmentDialog = new frmAssignment(&window);
     TermChooser = new frmSelectCourseSchedule(&window);
@@ -82,10 +80,6 @@ void LoadDialogs(frmMain& window) {
     ColorsDialog = new frmColors(&window);
     ColorsNameDialog = new frmColorsName(&window);
     QObject::connect(ColorsDialog, &frmColors::HelpAsked, &window, [&window] { OpenHelp(window); });
-    TipDialog = new frmTip(&window);
-    AboutDialog = new frmAbout(&window);
-    GPADialog = new frmGPA(&window);
-    QObject::connect(GPADialog, &frmGPA::HelpAsked, &window, [&window] { OpenHelp(window); });
     LoadReminders(window);
     SetWindowTopics(window);
 }

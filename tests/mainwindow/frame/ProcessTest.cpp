@@ -2,6 +2,13 @@
 #include "platform/Process.h"
 #include "core/Module1.h"
 #include "core/RunTimeError.h"
+#include "editors/FrmTask.h"
+#include "editors/frmAssignment.h"
+#include "editors/frmCourseSchedule.h"
+#include "editors/frmEvent.h"
+#include "mainwindow/dialogs/frmAbout.h"
+#include "mainwindow/dialogs/frmGPA.h"
+#include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/flows/TaskFlow.h"
 #include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/flows/WindowFlow.h"
@@ -94,6 +101,30 @@ TEST_F(Process, LoadSetsEveryFirstOpenFlag) {
                 TaskDBFirstOpen && RecurrenceDBFirstOpen && EventDBFirstOpen && ColorsDBFirstOpen &&
                 ColorsNameDBFirstOpen && AboutDBFirstOpen && AlertDBFirstOpen && RemindersDBFirstOpen &&
                 GPADBFirstOpen);
+}
+
+TEST_F(Process, LoadLeavesTheControlsOfTheEditorsToTheirFirstOpening) {
+    LoadWindow();
+    const auto makesThemOnce = [](auto& editor) {
+        SCOPED_TRACE(editor.metaObject()->className());
+        EXPECT_TRUE(editor.template findChildren<QWidget*>().isEmpty());
+        editor.MakeControls();
+        const auto controls = editor.template findChildren<QWidget*>();
+        EXPECT_FALSE(controls.isEmpty());
+        editor.MakeControls();
+        EXPECT_EQ(editor.template findChildren<QWidget*>(), controls);
+    };
+    makesThemOnce(*AssignmentDialog);
+    makesThemOnce(*TermDialog);
+    makesThemOnce(*TaskDialog);
+    makesThemOnce(*EventDialog);
+}
+
+TEST_F(Process, LoadLeavesWhatIsOnlyReadUntilItIsAskedFor) {
+    LoadWindow();
+    EXPECT_EQ(TipDialog, nullptr);
+    EXPECT_EQ(AboutDialog, nullptr);
+    EXPECT_EQ(GPADialog, nullptr);
 }
 
 TEST_F(Process, LoadGivesTheModesTheirFirstFilters) {

@@ -77,6 +77,7 @@ std::vector<QWidget*> ControlsOf(const QWidget* window) {
 } // namespace
 
 TEST_F(WhatsThis, EveryControlOfEveryDialogHasAText) {
+    MakeAllDialogs(*window);
     std::set<std::string> seen;
     for (const QWidget* dialog : Windows()) {
         if (dialog == window.get()) {

@@ -31,6 +31,9 @@ void OpenDataFolder(frmMain& /*window*/) {
 }
 
 void ShowAbout(frmMain& window) {
+    if (AboutDialog == nullptr) {
+        AboutDialog = new frmAbout(&window);
+    }
     PlaceAtFirstOpen(*AboutDialog, AboutDBFirstOpen, window);
     RunModally(*AboutDialog);
     window.picGrid->setFocus();

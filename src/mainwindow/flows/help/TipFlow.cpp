@@ -27,6 +27,9 @@ void ShowTipOfTheDay(frmMain& window) {
     if (window.tempShowTipsAtStartup != "Yes") {
         return;
     }
+    if (TipDialog == nullptr) {
+        TipDialog = new frmTip(&window);
+    }
     frmTip& dialog = *TipDialog;
     dialog.ShowTips = window.tempShowTipsAtStartup;
     dialog.CurrentTip = window.tempCurrentTip;

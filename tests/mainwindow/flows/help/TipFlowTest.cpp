@@ -61,14 +61,14 @@ TEST_F(TipOfTheDay, DoesNotComeUpWhileTheWindowIsHidden) {
     Load("CurrentTip=7\n");
     window->hide();
     Tick();
-    EXPECT_TRUE(TipDialog->isHidden());
+    EXPECT_EQ(TipDialog, nullptr);
     EXPECT_EQ(window->tempCurrentTip, 7);
 }
 
 TEST_F(TipOfTheDay, DoesNotComeUpWhereNoneIsWanted) {
     Load("ShowTipsAtStartup=No\nCurrentTip=7\n");
     Tick();
-    EXPECT_TRUE(TipDialog->isHidden());
+    EXPECT_EQ(TipDialog, nullptr);
     EXPECT_EQ(window->tempCurrentTip, 7);
     EXPECT_EQ(window->tempShowTipsAtStartup, "No");
 }
@@ -85,6 +85,16 @@ TEST_F(TipOfTheDay, UntickedBoxEndsThemUntilTheMenuWantsThemAgain) {
     EXPECT_EQ(TipShownBy([this] { window->MenuShowTips->trigger(); }), FromStore(TipText(0)));
     EXPECT_EQ(window->tempShowTipsAtStartup, "Yes");
     EXPECT_EQ(window->tempCurrentTip, 1);
+}
+
+TEST_F(TipOfTheDay, HasOneWindow) {
+    Load("CurrentTip=7\n");
+    TipShownBy([this] { Tick(); });
+    const frmTip* first = TipDialog;
+    TipShownBy([this] { Tick(); });
+    EXPECT_EQ(TipDialog, first);
+    window.reset();
+    EXPECT_EQ(TipDialog, nullptr) << "it goes with the main window";
 }
 
 TEST_F(TipOfTheDay, NextOnesCountToo) {
