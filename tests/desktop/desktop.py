@@ -382,5 +382,8 @@ class DesktopTest(unittest.TestCase):
         self.desktop.click(left + width // 2, top + height // 2, button, repeat)
 
     def open_tray_menu(self):
+        """Later than the toolkit, which notices 0.1 s late that the program's last window has gone, and then closes
+        every menu."""
+        time.sleep(0.5)
         self.click_tray(button=3)
         wait_until(self.desktop.popup_menu, "the menu is open")
