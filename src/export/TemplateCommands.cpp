@@ -15,13 +15,14 @@ constexpr char CommandMark = '`';
 struct CommandWord {
     std::string_view word;
     Section section;
+    bool numbered; // the command begins with the word; else it is the word
 };
 
 constexpr std::array<CommandWord, 4> CommandWords{{
-    {"header", Section::Header},
-    {"row", Section::Row},
-    {"line", Section::Line},
-    {"footer", Section::Footer},
+    {"header", Section::Header, false},
+    {"row", Section::Row, true},
+    {"line", Section::Line, true},
+    {"footer", Section::Footer, false},
 }};
 
 // The text up to the first of the character, which is taken off with it.
@@ -47,11 +48,13 @@ std::optional<int> NumberOf(std::string_view text) {
 std::optional<TemplateCommand> CommandIn(std::string_view line) {
     TakeUpTo(line, CommandMark);
     std::string_view command = TakeUpTo(line, CommandMark);
-    const std::string_view word = TakeUpTo(command, ' ');
-    const auto* const found = std::ranges::find(CommandWords, word, &CommandWord::word);
+    const auto* const found = std::ranges::find_if(CommandWords, [command](const CommandWord& known) {
+        return known.numbered ? command.starts_with(known.word) : command == known.word;
+    });
     if (found == CommandWords.end()) {
         return std::nullopt;
     }
+    TakeUpTo(command, ' ');
     command = LeftTrim(command);
     return TemplateCommand{found->section, NumberOf(TakeUpTo(command, ' '))};
 }

@@ -12,6 +12,6 @@ struct TemplateCommand {
     std::optional<int> number; // behind the first blank; nothing where there is no number
 };
 
-// The command in the line; nothing where the first word behind the first backtick is none of the four, as
-// they are spelt.
+// The command in the line, which stands behind the first backtick up to the next one: it is "header" or
+// "footer", or begins with "row" or "line". Nothing for any other.
 std::optional<TemplateCommand> CommandIn(std::string_view line);

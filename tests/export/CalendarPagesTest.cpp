@@ -95,8 +95,9 @@ TEST_F(CalendarPageOf, TemplatesMayEndTheirLinesWithCarriageReturnAndLineFeed) {
 }
 
 TEST_F(CalendarPageOf, LinesOfCommandsAreNotWrittenAndOthersWithTheMarkAre) {
-    EXPECT_EQ(Tasks("a\n<!-- `row 1` -->\n`no command`\n`row 6`\n`row`\n`line`\n`line x`\n~\n`rows 2`\n~"),
-              "a\n`no command`\n5\n`rows 2`\n6\n")
+    EXPECT_EQ(Tasks("a\n<!-- `row 1` -->\n`no command`\n`row 6`\n`row`\n`row2`\n`line`\n`line x`\n~\n"
+                    "`footer of all`\n~\n`header `\n~\n`rows 2`\n~"),
+              "a\n`no command`\n5\n`footer of all`\n6\n`header `\n7\n12\n")
         << "a row without a week and a line without a number leave week and column as they are";
 }
 

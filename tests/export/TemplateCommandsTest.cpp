@@ -25,7 +25,13 @@ constexpr CommandCase Cases[] = {
     {"InAComment", "<!-- `row 3` -->", Section::Row, 3},
     {"WithoutTheSecondMark", "`line 4", Section::Line, 4},
     {"WithAThirdMark", "`line 4` and `line 5`", Section::Line, 4},
-    {"TextBehindTheHeader", "`header of all`", Section::Header},
+    {"TextBehindTheHeader", "`header of all`", Section::None},
+    {"TextBehindTheFooter", "`footers`", Section::None},
+    {"BlankBehindTheHeader", "`header `", Section::None},
+    {"HeaderWithoutTheSecondMark", "<!--`header", Section::Header},
+    {"RowsForRow", "`rows 2`", Section::Row, 2},
+    {"LinesForLine", "`lines of week 3`", Section::Line},
+    {"RowWithTheNumberAtOnce", "`row0`", Section::Row},
     {"TextBehindTheNumber", "`row 2 of six`", Section::Row, 2},
     {"SeveralBlanks", "`row   2  `", Section::Row, 2},
     {"LeadingZeros", "`line 007`", Section::Line, 7},
@@ -39,8 +45,9 @@ constexpr CommandCase Cases[] = {
     {"EmptyLine", "", Section::None},
     {"MarkAlone", "`", Section::None},
     {"TwoMarks", "``", Section::None},
-    {"OtherWord", "`rows 0`", Section::None},
-    {"NumberWithoutBlank", "`row0`", Section::None},
+    {"OtherWord", "`column 0`", Section::None},
+    {"PartOfAWord", "`ro 0`", Section::None},
+    {"WordBehindAnother", "`a row 0`", Section::None},
     {"Capitals", "`Row 0`", Section::None},
     {"BlankInFront", "` row 0`", Section::None},
     {"BehindTheSecondMark", "``row 0", Section::None},
@@ -51,7 +58,7 @@ constexpr CommandCase Cases[] = {
 
 class TemplateCommands : public testing::TestWithParam<CommandCase> {};
 
-TEST_P(TemplateCommands, AreToldByTheFirstWordBehindTheMark) {
+TEST_P(TemplateCommands, AreToldByWhatStandsBehindTheMark) {
     const std::optional<TemplateCommand> command = CommandIn(GetParam().line);
     EXPECT_EQ(command ? command->section : Section::None, GetParam().section);
     EXPECT_EQ(command ? command->number.value_or(-1) : -1, GetParam().number);
