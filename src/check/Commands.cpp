@@ -68,7 +68,7 @@ Request RequestIn(const std::vector<std::string>& arguments) {
         } else if (request.operands.size() < operands) {
             request.operands.push_back(argument);
         } else {
-            request.valid = request.valid && !hasDrive;
+            request.valid = request.valid && !hasDrive && !argument.empty();
             request.drive = argument;
             hasDrive = true;
         }
@@ -90,8 +90,10 @@ CommandResult Check(bool json) {
 }
 
 CommandResult ShowBackups(bool json) {
-    const std::vector<FileCopy> copies = AllCopies();
-    return {.status = CleanStatus, .output = json ? CopiesJson(copies) : CopiesText(copies)};
+    const DriveCopies all = AllCopies();
+    return {.status = all.lookedAtAll ? CleanStatus : FailedStatus,
+            .output = json ? CopiesJson(all.copies) : CopiesText(all.copies),
+            .errors = all.lookedAtAll ? "" : "Not all of the backups could be read.\n"};
 }
 
 std::string KeptText(const ChangeResult& change) {
@@ -107,7 +109,7 @@ template <class Change>
 CommandResult ChangeAndCheck(const std::string& fileName, std::string_view said, Change change) {
     const std::optional<RecordFile> file = RecordFileNamed(fileName);
     if (!file) {
-        return {.errors = Utf8(fileName) + " is no record file of the planner.\n"};
+        return {.errors = fileName + " is no record file of the planner.\n"};
     }
     if (const std::string why = WhyInUse(); !why.empty()) {
         return {.errors = why + "\n"};

@@ -65,15 +65,17 @@ std::vector<FileCopy> CopiesOf(const RecordFile& file) {
     return copies;
 }
 
-std::vector<FileCopy> AllCopies() {
+DriveCopies AllCopies() {
+    const TermsFound found = TermsWithAssignmentCopies();
     std::vector<FileCopy> all;
     AddCopies(all, TermFile());
     AddCopies(all, ClassFile());
-    for (const int term : TermsWithAssignmentCopies()) {
+    for (const int term : found.terms) {
         ActiveTermID = term;
         AddCopies(all, AssignmentFile());
     }
     AddCopies(all, TaskFile());
     AddCopies(all, EventFile());
-    return all;
+    const bool allRead = std::ranges::all_of(all, &FileCopy::readable);
+    return {std::move(all), found.all && allRead};
 }

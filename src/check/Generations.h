@@ -30,4 +30,9 @@ std::filesystem::path PathOfCopy(const RecordFile& file, const std::string& word
 std::vector<FileCopy> CopiesOf(const RecordFile& file);
 
 // Those of all record files, also of assignment files that only have copies.
-std::vector<FileCopy> AllCopies();
+struct DriveCopies {
+    std::vector<FileCopy> copies;
+    bool lookedAtAll = true; // false where a copy could not be read, or a folder not be listed
+};
+
+DriveCopies AllCopies();

@@ -99,7 +99,7 @@ ChangeResult RestoreFile(const RecordFile& file, const std::string& word) {
     const fs::path path = PathOfCopy(file, word);
     const std::optional<std::string> bytes = path.empty() ? std::nullopt : BytesOf(path);
     if (!bytes) {
-        return {.text = path.empty() ? "There is no generation \"" + word + "\": 1 to " +
+        return {.text = path.empty() ? "There is no generation \"" + PathText(word) + "\": 1 to " +
                                            std::to_string(Generations) + ", or " + WaitingWord
                                      : PathText(path.filename()) + " is not there or cannot be read"};
     }

@@ -17,6 +17,6 @@ struct ChangeResult {
 // Puts the copy of that word in the file's place.
 ChangeResult RestoreFile(const RecordFile& file, const std::string& word);
 
-// Takes the record at the position among the file's records, as its lines stand, out of the file and adds
-// them to the file that holds those set aside.
+// Takes the record at the position among the file's records out of the file; its lines, as they stand, go
+// into a file of their own.
 ChangeResult SetRecordAside(const RecordFile& file, int record);

@@ -4,12 +4,14 @@
 #include "check/Report.h"
 #include "support/ChildProcess.h"
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <sys/file.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -90,10 +92,63 @@ TEST_F(Command, EndsWithTwoWhereItCannotLook) {
     EXPECT_TRUE(Holds(result.output, "events.xml: the file cannot be read.")) << result.output;
 }
 
+TEST_F(Command, EndsWithTwoWhereTheFoldersCannotBeListed) {
+    SetDataFile("Backup/assignments_1_backup1.xml", DataFile("assignments_1.xml"));
+    EXPECT_TRUE(SucceedsInChild([] {
+        FailSystemCall(SYS_getdents64, EIO);
+        const CommandResult checked = Run({});
+        EXPECT_EQ(checked.status, 2);
+        EXPECT_TRUE(Holds(checked.output, "Data: the folder cannot be listed. Which assignment files are in "
+                                          "it is not known.\n"))
+            << checked.output;
+        EXPECT_TRUE(Holds(checked.output, "5 files with 12 records read, 1 fault found.\n"))
+            << checked.output;
+        const CommandResult backups = Run({"--backups"});
+        EXPECT_EQ(backups.status, 2);
+        EXPECT_EQ(backups.errors, "Not all of the backups could be read.\n");
+    }));
+    EXPECT_EQ(Run({"--backups"}).status, 0);
+}
+
+TEST_F(Command, EndsWithTwoWhereABackupCannotBeRead) {
+    fs::create_directory(BackupFolder / "tasks_backup2.xml");
+    const CommandResult result = Run({"--backups"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_TRUE(Holds(result.output, "  2: tasks_backup2.xml, written 20")) << result.output;
+    EXPECT_TRUE(Holds(result.output, ", cannot be read.\n")) << result.output;
+    EXPECT_EQ(result.errors, "Not all of the backups could be read.\n");
+    EXPECT_EQ(Json(Run({"--backups", "--json"}).output, "it[\"backups\"][0][\"readable\"]"), "False");
+}
+
+TEST_F(Command, OfADriveWithoutABackupFolderIsToBeLookedAtAllTheSame) {
+    fs::remove(BackupFolder);
+    EXPECT_EQ(Run({"--backups"}).status, 0);
+    SetDataFile("Backup", "a file");
+    EXPECT_EQ(Run({"--backups"}).status, 0);
+    EXPECT_EQ(Run({}).status, 0);
+}
+
+TEST_F(Command, TellsItsOwnWordsAsTheyWereTyped) {
+    EXPECT_EQ(Run({"--restore",
+                   "B\xC3\xBC"
+                   "cher",
+                   "1"})
+                  .errors,
+              "B\xC3\xBC"
+              "cher is no record file of the planner.\n");
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "tasks", "f\xC3\xBCnf"});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_TRUE(Holds(result.errors, "There is no generation \"f\xC3\xBCnf\": 1 to 3, or waiting.\n"))
+            << result.errors;
+    }));
+}
+
 TEST_F(Command, EndsWithTwoAndTheUsageAtWordsThatItDoesNotKnow) {
     for (const Texts& arguments :
-         {Texts{"--nonsense"}, Texts{"one", "two"}, Texts{"--restore", "tasks.xml"}, Texts{"--restore"},
-          Texts{"--set-aside", "tasks.xml"}, Texts{"--backups", "--restore", "tasks.xml", "1"}}) {
+         {Texts{"--nonsense"}, Texts{""}, Texts{"one", "two"}, Texts{"--restore", "tasks.xml", "1", ""},
+          Texts{"--restore", "tasks.xml"}, Texts{"--restore"}, Texts{"--set-aside", "tasks.xml"},
+          Texts{"--backups", "--restore", "tasks.xml", "1"}}) {
         const CommandResult result = Run(arguments);
         EXPECT_EQ(result.status, 2);
         EXPECT_TRUE(Holds(result.errors, "plancheck --restore FILE GENERATION")) << result.errors;

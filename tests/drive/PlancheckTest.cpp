@@ -65,4 +65,9 @@ TEST_P(Plancheck, TellsAFaultAndGetsABackupBack) {
     EXPECT_EQ(BytesOf(data / "Backup" / "tasks_replaced1.xml"), sound.substr(0, sound.size() / 2));
 }
 
+TEST_P(Plancheck, EndsWithTwoWhereItsAnswerCannotBeWritten) {
+    EXPECT_EQ(RunPlancheck("> /dev/full").status, 2);
+    EXPECT_EQ(RunPlancheck("--nonsense").status, 2);
+}
+
 INSTANTIATE_TEST_SUITE_P(LaidOut, Plancheck, testing::Values(LayoutDays[0], LayoutDays[1]), DayName);

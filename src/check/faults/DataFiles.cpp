@@ -36,8 +36,9 @@ std::optional<TermAndRest> TermIn(std::string_view name) {
     return TermAndRest{*id, name.substr(number.size())};
 }
 
+// False where the folder is there and cannot be listed to its end.
 template <class IsWanted>
-void AddTerms(std::set<int>& terms, const fs::path& folder, IsWanted isWanted) {
+bool AddTerms(std::set<int>& terms, const fs::path& folder, IsWanted isWanted) {
     std::error_code error;
     fs::directory_iterator entry(folder, error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
@@ -47,6 +48,7 @@ void AddTerms(std::set<int>& terms, const fs::path& folder, IsWanted isWanted) {
             terms.insert(found->term);
         }
     }
+    return !error || error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
 }
 
 } // namespace
@@ -116,18 +118,21 @@ Finding FindingAt(const ReadFile& read, std::size_t field, int position) {
             .field = std::string(read.file.fields[field].tag)};
 }
 
-std::vector<int> TermsWithAssignmentFiles() {
+TermsFound TermsWithAssignmentFiles() {
     std::set<int> terms;
-    AddTerms(terms, DataFolder,
-             [](std::string_view rest) { return rest == Extension || rest == WaitingExtension; });
-    return {terms.begin(), terms.end()};
+    const bool all = AddTerms(terms, DataFolder, [](std::string_view rest) {
+        return rest == Extension || rest == WaitingExtension;
+    });
+    return {{terms.begin(), terms.end()}, all};
 }
 
-std::vector<int> TermsWithAssignmentCopies() {
+TermsFound TermsWithAssignmentCopies() {
     std::set<int> terms;
-    AddTerms(terms, DataFolder, [](std::string_view rest) { return rest == WaitingExtension; });
-    AddTerms(terms, BackupFolder, [](std::string_view rest) { return rest.starts_with("_backup"); });
-    return {terms.begin(), terms.end()};
+    const bool allWaiting =
+        AddTerms(terms, DataFolder, [](std::string_view rest) { return rest == WaitingExtension; });
+    const bool allBackups =
+        AddTerms(terms, BackupFolder, [](std::string_view rest) { return rest.starts_with("_backup"); });
+    return {{terms.begin(), terms.end()}, allWaiting && allBackups};
 }
 
 std::optional<RecordFile> RecordFileNamed(std::string_view name) {

@@ -41,11 +41,17 @@ std::string NameOf(const RecordFile& file, int position);
 // A finding at the record and field, whose fault and meaning are still to be told.
 Finding FindingAt(const ReadFile& read, std::size_t field, int position);
 
-// The ids of the terms that have an assignment file in the data folder or one waiting there, ascending.
-std::vector<int> TermsWithAssignmentFiles();
+// The ids of terms, ascending, as the names of files tell them.
+struct TermsFound {
+    std::vector<int> terms;
+    bool all = true; // false where a folder could not be listed to its end
+};
 
-// The ids of the terms of whose assignment file there is a backup, or one that waits, ascending.
-std::vector<int> TermsWithAssignmentCopies();
+// The terms that have an assignment file in the data folder or one waiting there.
+TermsFound TermsWithAssignmentFiles();
+
+// The terms of whose assignment file there is a backup, or one that waits.
+TermsFound TermsWithAssignmentCopies();
 
 // The record file of that name ("tasks.xml", also without its extension); nothing for any other name. One of
 // assignments makes its term the active one.

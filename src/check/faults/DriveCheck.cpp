@@ -9,6 +9,7 @@
 #include "check/faults/StructureCheck.h"
 #include "check/faults/ValueCheck.h"
 #include "core/Preferences.h"
+#include "core/TextFiles.h"
 #include "persistence/SafeSave.h"
 
 namespace {
@@ -19,6 +20,13 @@ void TellUnreadable(const std::string& name, CheckResult& result) {
                                .fault = "the file cannot be read",
                                .meaning = "The planner cannot read it either. Whether something in it is at "
                                           "fault is not known."});
+}
+
+void TellUnlisted(CheckResult& result) {
+    result.lookedAtAll = false;
+    result.findings.push_back({.file = PathText(DataFolder.filename()),
+                               .fault = "the folder cannot be listed",
+                               .meaning = "Which assignment files are in it is not known."});
 }
 
 // What waits for a file: a save that was cut short behind its writing, or within it.
@@ -98,7 +106,11 @@ CheckResult CheckDrive(Moment now) {
     if (linksAreKnown) {
         CheckClassLinks(classes, result.findings);
     }
-    for (const int term : TermsWithAssignmentFiles()) {
+    const TermsFound found = TermsWithAssignmentFiles();
+    if (!found.all) {
+        TellUnlisted(result);
+    }
+    for (const int term : found.terms) {
         ActiveTermID = term;
         const ReadFile assignments = CheckFile(AssignmentFile(), now, result);
         if (linksAreKnown) {
