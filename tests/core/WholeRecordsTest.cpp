@@ -117,6 +117,23 @@ TEST_F(WholeRecordsTest, AloneAreFoundByTheirIds) {
     EXPECT_EQ(ReminderPosition(EventMode, "8"), 0);
 }
 
+TEST_F(WholeRecordsTest, AloneAreTakenOffTheListOfReminders) {
+    Store.EventRecord.reminder_list.Replace(7, "True");
+    Store.EventRecord.reminder_list.Replace(8, "True");
+    ReminderWindow window;
+    window.QuietTick();
+    Store.TaskRecord.notes.Remove(4);
+    Store.Assignment.notes.Remove(4);
+    Store.EventRecord.notes.Remove(8);
+    RemoveAllReminders(window.rows, window.flags);
+    for (const TextList* list : {&Store.TaskRecord.reminder_list, &Store.Assignment.reminderlist}) {
+        EXPECT_EQ(list->Item(3), "False");
+        EXPECT_EQ(list->Item(4), "True");
+    }
+    EXPECT_EQ(Store.EventRecord.reminder_list.Item(7), "False");
+    EXPECT_EQ(Store.EventRecord.reminder_list.Item(8), "True");
+}
+
 TEST_F(WholeRecordsTest, AloneAreMetByTheirLinks) {
     EXPECT_EQ(ClassPosition({1, 3}), 3);
     Store.ClassRecord.notes.Remove(3);

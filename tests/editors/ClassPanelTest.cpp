@@ -191,7 +191,7 @@ TEST_F(TermEditor, CreditsAreRefusedUnlessANumberOrNothing) {
                 "in calculating your total GPA.");
     OpenEdit();
     OpenClass(0);
-    for (const char* good : {"", "3", "1.5", "0", " 2 "}) {
+    for (const char* good : {"", "  ", "3", "1.5", "0", " 2 "}) {
         TypeAndLeave(dialog->TextBoxCredits, good);
         EXPECT_TRUE(Script.boxes.empty()) << good;
     }

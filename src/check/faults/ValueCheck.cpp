@@ -88,7 +88,7 @@ void Convert(ValueKind kind, const std::string& text) {
         }
         break;
     case ValueKind::Credits:
-        if (!text.empty()) {
+        if (!Trim(text).empty()) {
             ToDecimal(text);
         }
         break;

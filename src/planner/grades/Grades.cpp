@@ -134,7 +134,7 @@ std::string_view AverageLetter(const Decimal& average, bool chroma) {
 void AddRow(GPATable& table, const std::string& name, const std::string& id, const std::string& credits) {
     table.GPANames.Add(name);
     table.GPAClassIds.Add(id);
-    table.GPACredits.Add(credits.empty() ? "0" : credits);
+    table.GPACredits.Add(Trim(credits).empty() ? "0" : credits);
     table.GPAScores.Add({});
     table.GPATotals.Add({});
     table.GPALetters.Add(std::string(NoGrade));

@@ -138,6 +138,24 @@ TEST_F(GradePointAverage, AddsScoresAndTotalsEachForItself) {
     EXPECT_EQ(table.GPAPercents.Item(FirstClass), "51"); // 50.5 exactly
 }
 
+TEST_F(GradePointAverage, TakesBlanksForNoScoreNoTotalAndNoCredits) {
+    AddClassRecord({.id = "1", .credits = "  "}); // as the editor of classes lets them stand
+    AddScore("1", "  ", "50");
+    AddScore("1", "40", " ");
+    const GPATable table = BuildGPATable(Chroma);
+    EXPECT_EQ(table.GPAPercents.Item(FirstClass), "80");
+    EXPECT_EQ(table.GPACredits.values, (std::vector<std::string>{"0", "0"}));
+}
+
+TEST_F(GradePointAverage, GivesTwoClassesOfOneIdTheSameAssignmentsAndCountsThemTwice) {
+    AddGradedClass("1", "80");
+    AddClassRecord({.id = "1", .name = "Art", .credits = "1"});
+    const GPATable table = BuildGPATable(Chroma);
+    EXPECT_EQ(table.GPAPercents.values, (std::vector<std::string>{"2.70", "80", "80"}));
+    EXPECT_EQ(table.GPAAssignments.values, (std::vector<int>{2, 1, 1}));
+    EXPECT_EQ(table.GPAMinutes.values, (std::vector<int>{120, 60, 60}));
+}
+
 TEST_F(GradePointAverage, PassesOverDeletedAssignmentsAndThoseOfOtherClasses) {
     AddGradedClass("1", "80");
     AddAssignmentRecord({.class_ = "1", .desc = "DELETED RECORD", .score = "0", .total = "100"});
@@ -282,6 +300,13 @@ TEST_F(GradePointAverage, IsAnAAtExactlyFourAndNotAboveIt) {
     EXPECT_EQ(BuildGPATable(Plain).GPALetters.Item(1), "B");
 }
 
+TEST_F(GradePointAverage, IsThatOfTheGradedClassesWhereTheirCreditsAreBelowNothing) {
+    AddGradedClass("1", "95", "-1");
+    EXPECT_EQ(BuildGPATable(Chroma).GPAPercents.Item(1), "4.00");
+    EXPECT_EQ(BuildGPATable(Chroma).GPALetters.Item(1), "A");
+    EXPECT_EQ(BuildGPATable(Chroma).GPACredits.Item(1), "-1");
+}
+
 TEST_F(GradePointAverage, AboveNothingAndBelowTheLowestStepIsAnE) {
     AddGradedClass("1", "60", "1");
     AddGradedClass("2", "10", "1"); // 0.35 and 0.50
@@ -325,6 +350,19 @@ TEST_F(GradePointAverage, TakesTextsThatAreNoNumbersAsErrors) {
     EXPECT_NO_THROW(BuildGPATable(Chroma));
     Store.ClassRecord.credits.Replace(1, "three");
     EXPECT_THROW(BuildGPATable(Chroma), RunTimeError);
+}
+
+TEST_F(GradePointAverage, TellsWhichRecordHasTheCreditsThatAreNoNumber) {
+    AddClassRecord({.id = "9", .term = "2"});
+    AddClassRecord({.id = "1"});
+    AddClassRecord({.id = "2", .name = "DELETED RECORD"});
+    AddClassRecord({.id = "3", .credits = "three"});
+    try {
+        BuildGPATable(Chroma);
+        FAIL() << "no error";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.place, Store.ClassRecord.credits.Item(4).data());
+    }
 }
 
 TEST_F(GradePointAverage, ShowsTheTotalUnderItsOwnCaptions) {

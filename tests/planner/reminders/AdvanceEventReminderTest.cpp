@@ -89,6 +89,14 @@ TEST(SeriesSteps, OfOneDayNumberCountFromTheFirstDate) {
               "2009/02/28 2010/02/28 2011/02/28 2012/02/29 ");
 }
 
+TEST(SeriesSteps, OfOneDayNumberFromBeforeTheFirstDateBeginBehindIt) {
+    Store.EventRecord = {};
+    AddEventRecord({.date = "2009/03/31", .recurrence = "Month", .same_date = "True"});
+    for (const Date day : {Date{2009y / 1 / 15}, Date{2009y / 3 / 1}, Date{2009y / 3 / 31}}) {
+        EXPECT_EQ(StepSeries(ReadSeriesRule(1), Date{2009y / 3 / 31}, day), Date{2009y / 4 / 30});
+    }
+}
+
 TEST(SeriesSteps, OfTheLastDayAreTheLastOfEachMonth) {
     EXPECT_EQ(Steps(Monthly("2009/01/31", "Last", "Day"), 3), "2009/02/28 2009/03/31 2009/04/30 ");
     EventTexts yearly = Monthly("2011/02/28", "Last", "Day");
@@ -339,6 +347,15 @@ TEST_F(Advance, OfASeriesWithoutAnyFurtherDayDisarmsIt) {
         EXPECT_EQ(Field(&EventLists::reminder_list), "True");
         ExpectPresent("2009/10/14", "2009/10/14 08:30:00");
     }
+}
+
+TEST_F(Advance, RaisesAtAnAlarmBeforeTheCalendar) {
+    EventTexts event = EveryDay;
+    event.date = "0100/01/01";
+    AddArmedEvent(event);
+    Store.EventRecord.reminder_time.Replace(1, "3 Days");
+    EXPECT_THROW(AdvanceEventReminder(1, Moment{Date{100y / 1 / 1}} + 9h), RunTimeError);
+    ExpectNext("0100/01/01", "0100/01/01 08:30:00");
 }
 
 TEST_F(Advance, RaisesAtBadTexts) {
