@@ -53,7 +53,9 @@ bool FindBelow(const fs::path& path) {
             return SetFolders(path / below);
         }
     }
-    return (path.filename() == "Data" || HoldsData(path)) && IsFolder(path) && SetFolders(path);
+    std::error_code error;
+    const fs::path whole = fs::canonical(path, error); // without the "/" that a shell puts behind a folder
+    return (whole.filename() == "Data" || HoldsData(path)) && IsFolder(path) && SetFolders(path);
 }
 
 fs::path ProgramFolder() {

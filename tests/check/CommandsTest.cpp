@@ -71,6 +71,21 @@ TEST_F(Command, TakesTheDriveTheDocumentsTheDocumentFolderAndTheDataFolder) {
     }
 }
 
+TEST_F(Command, TakesADataFolderByItsNameAndACopyByItsFiles) {
+    const fs::path data = DataFolder;
+    const fs::path copy = drive.root / "copy of Monday";
+    fs::copy(data, copy, fs::copy_options::recursive);
+    EXPECT_EQ(Run({copy.string()}).status, 0);
+    EXPECT_EQ(DataFolder, fs::canonical(copy));
+    fs::remove_all(data);
+    fs::create_directory(data);
+    for (const std::string& name : {data.string(), data.string() + "/"}) {
+        DataFolder.clear();
+        EXPECT_EQ(Run({name}).status, 0) << name;
+        EXPECT_EQ(DataFolder, fs::canonical(data)) << name;
+    }
+}
+
 TEST_F(Command, EndsWithOneWhereSomethingIsAtFaultAndSaysWhere) {
     Edit("tasks.xml", "<date>2009/10/11", "<date>soon");
     const CommandResult result = Run({});
@@ -153,7 +168,10 @@ TEST_F(Command, EndsWithTwoAndTheUsageAtWordsThatItDoesNotKnow) {
         EXPECT_EQ(result.status, 2);
         EXPECT_TRUE(Holds(result.errors, "plancheck --restore FILE GENERATION")) << result.errors;
     }
-    EXPECT_EQ(Run({"--help"}).status, 0);
+    const CommandResult help = Run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(Holds(help.output, "plancheck --restore FILE GENERATION"));
+    EXPECT_EQ(help.errors, "");
 }
 
 TEST_F(Command, TellsTheFindingsAsJson) {
@@ -164,7 +182,32 @@ TEST_F(Command, TellsTheFindingsAsJson) {
     EXPECT_EQ(Json(json, "it[\"findings\"][0][\"file\"], it[\"findings\"][0][\"line\"]"), "tasks.xml 5");
     EXPECT_EQ(Json(json, "it[\"findings\"][0][\"record\"], it[\"findings\"][0][\"field\"]"), "1 date");
     EXPECT_EQ(Json(json, "ascii(it[\"findings\"][0][\"name\"])"), R"('"B\xfcro"\\ \t\u20ac')");
+    EXPECT_EQ(Json(json, "it[\"findings\"][0][\"fault\"]"), "\"so\"on\" is no date");
+    EXPECT_EQ(Json(json, "it[\"findings\"][0][\"meaning\"]"),
+              "The planner ends with an error as it shows the tasks of a day.");
     EXPECT_EQ(Json(json, "it[\"files\"], it[\"records\"], it[\"looked_at_all\"]"), "6 15 True");
+    fs::remove(DataFolder / "events.xml");
+    fs::create_directory(DataFolder / "events.xml");
+    EXPECT_EQ(Json(Run({"--json"}).output, "it[\"looked_at_all\"]"), "False");
+}
+
+TEST_F(Command, TellsHowABackupDiffersInWordsAndAsJson) {
+    SetDataFile("Backup/tasks_backup2.xml", DataFile("tasks.xml"));
+    Edit("tasks.xml", "<desc>Task 2", "<desc>Other");
+    Edit("tasks.xml", "<id>3</id>", "<id>4</id>");
+    Edit("tasks.xml", "<desc>Task 3", "<desc>Fourth");
+    EXPECT_TRUE(Holds(Run({"--backups"}).output,
+                      ", 3 records; the present file lacks \"Task 3\"; it lacks \"Fourth\" of the present "
+                      "file; 1 record differs.\n"));
+    const std::string json = Run({"--backups", "--json"}).output;
+    const std::string first = "it[\"backups\"][0]";
+    EXPECT_EQ(Json(json, first + "[\"file\"], " + first + "[\"name\"], " + first + "[\"generation\"]"),
+              "tasks.xml tasks_backup2.xml 2");
+    EXPECT_EQ(Json(json, first + "[\"readable\"], " + first + "[\"records\"], " + first + "[\"changed\"]"),
+              "True 3 1");
+    EXPECT_EQ(Json(json, first + "[\"only_here\"], " + first + "[\"only_in_present\"]"),
+              "['Task 3'] ['Fourth']");
+    EXPECT_EQ(Json(json, first + "[\"written\"][:2]"), "20");
 }
 
 TEST_F(Command, OfASoundDriveGivesJsonWithoutFindings) {
@@ -179,8 +222,12 @@ TEST_F(Command, ShowsTheBackupsWithWhatTheyHold) {
     Edit("tasks.xml", "<desc>Task 2", "<desc>Other");
     fs::copy(DataFolder / "events.xml", DataFolder / "events.xml.tmp");
     SetDataFile("Backup/assignments_4_backup2.xml", DataFile("assignments_1.xml"));
+    fs::copy(DataFolder / "assignments_1.xml", DataFolder / "assignments_7.xml.tmp");
+    SetDataFile("Backup/events_backup3.xml", DataFile("events.xml"));
     const CommandResult result = Run({"--backups"});
     EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(Holds(result.output, "assignments_7.xml\n  waiting: assignments_7.xml.tmp, written 20"));
+    EXPECT_TRUE(Holds(result.output, "\n  3: events_backup3.xml, written 20")) << result.output;
     EXPECT_TRUE(Holds(result.output, "tasks.xml\n  1: tasks_backup1.xml, written 20")) << result.output;
     EXPECT_TRUE(Holds(result.output, ", 3 records; 1 record differs.\n")) << result.output;
     EXPECT_TRUE(Holds(result.output, "events.xml\n  waiting: events.xml.tmp, written 20")) << result.output;
@@ -190,7 +237,8 @@ TEST_F(Command, ShowsTheBackupsWithWhatTheyHold) {
         << result.output;
     const std::string json = Run({"--backups", "--json"}).output;
     EXPECT_EQ(Json(json, "[b[\"name\"] for b in it[\"backups\"]]"),
-              "['assignments_4_backup2.xml', 'tasks_backup1.xml', 'events.xml.tmp']");
+              "['assignments_4_backup2.xml', 'assignments_7.xml.tmp', 'tasks_backup1.xml', 'events.xml.tmp', "
+              "'events_backup3.xml']");
     EXPECT_EQ(Json(json, "it[\"backups\"][0][\"only_here\"]"), "['Work 1', 'Work 2', 'Work 3']");
 }
 
@@ -262,6 +310,36 @@ TEST_F(Command, ToChangeAFileSaysWhichPlannerItCannotSee) {
                                          "tasks.xml: tasks_backup1.xml is in its place now.\n"))
             << result.output;
         EXPECT_TRUE(Holds(result.output, "no fault found.\n"));
+    }));
+}
+
+TEST_F(Command, ThatCannotReplaceAFileTellsWhatItKeptAllTheSame) {
+    SetDataFile("Backup/tasks_backup1.xml", DataFile("tasks.xml"));
+    fs::create_directory(DataFolder / "tasks.xml.tmp");
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--restore", "tasks.xml", "1"});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.output, "Kept in the folder Backup: tasks_replaced1.xml.\n");
+        EXPECT_TRUE(Holds(result.errors, "tasks.xml could not be replaced, and nothing is lost: "))
+            << result.errors;
+    }));
+}
+
+TEST_F(Command, ToSetARecordAsideTellsItsLinesAndTakesNoOtherWordThanANumber) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        const std::string before = DataFile("tasks.xml");
+        const CommandResult refused = RunCommand({"--set-aside", "tasks.xml", "first"});
+        EXPECT_EQ(refused.status, 2);
+        EXPECT_EQ(refused.output, "");
+        EXPECT_EQ(DataFile("tasks.xml"), before);
+    }));
+    EXPECT_TRUE(SucceedsInChild([] {
+        const CommandResult result = RunCommand({"--set-aside", "tasks.xml", "1"});
+        EXPECT_EQ(result.status, 0) << result.output << result.errors;
+        EXPECT_TRUE(Holds(result.output, "Kept in the folder Backup: tasks_set_aside.xml.\n"
+                                         "Kept in the folder Backup: tasks_replaced1.xml.\n"
+                                         "tasks.xml: lines 3 to 19 are taken out of it now.\n"))
+            << result.output;
     }));
 }
 

@@ -224,10 +224,35 @@ TEST_F(CheckedDrive, WithAssignmentsOfNoTermTellsTheFile) {
     EXPECT_EQ(result.findings[0].fault, "there is no term with the id 8");
 }
 
+TEST_F(CheckedDrive, WithAssignmentsOfADeletedTermTellsTheFile) {
+    ASSERT_NO_FATAL_FAILURE(Edit("terms.xml", "<name>Term 1", "<name>DELETED RECORD"));
+    const CheckResult result = Check();
+    ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+    EXPECT_EQ(result.findings[0].file, "assignments_1.xml");
+    EXPECT_EQ(result.findings[0].fault, "there is no term with the id 1");
+}
+
+TEST_F(CheckedDrive, WithHomeworkOfADeletedClassTellsThatItStays) {
+    ASSERT_NO_FATAL_FAILURE(Edit("classes.xml", "<name>Class 2", "<name>DELETED RECORD"));
+    const CheckResult result = Check();
+    ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+    EXPECT_TRUE(HasFinding(result.findings, "assignments_1.xml", 2, "class"));
+    EXPECT_EQ(result.findings[0].fault, "the term's class with the id \"2\" is deleted");
+    EXPECT_EQ(result.findings[0].meaning, "The planner shows the assignment without its class.");
+}
+
 TEST_F(CheckedDrive, WhoseTermsFailDoesNotCallEveryLinkAFault) {
     SetDataFile("terms.xml", "x\r\ny\r\n");
     const CheckResult result = Check();
     EXPECT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+}
+
+TEST_F(CheckedDrive, WhoseClassesWereCutDoesNotCallEveryLinkToThemAFault) {
+    const std::string classes = DataFile("classes.xml");
+    SetDataFile("classes.xml", classes.substr(0, classes.find("</class>") + 10));
+    const CheckResult result = Check();
+    ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+    EXPECT_EQ(result.findings[0].fault, "the file ends without </class_data>");
 }
 
 TEST_F(CheckedDrive, WithAFileThatCannotBeReadSaysThatItCouldNotLook) {

@@ -136,6 +136,35 @@ TEST_F(Restoring, NeverOverwritesWhatWasKept) {
     EXPECT_EQ(BackupFile("tasks_waiting2.xml"), "second");
 }
 
+TEST_F(Restoring, PassesOverANameThatLeadsNowhere) {
+    fs::create_symlink("nowhere", BackupFolder / "tasks_replaced1.xml");
+    EXPECT_EQ(RestoreFile(TaskFile(), "1").kept, Texts{"tasks_replaced2.xml"});
+    EXPECT_EQ(BackupFile("tasks_replaced2.xml"), present);
+}
+
+TEST_F(Restoring, OverAFileThatCannotBeReadLeavesItAsItIs) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        LetOthersIn();
+        fs::permissions(BackupFolder, fs::perms{0777});
+        fs::permissions(DataFolder, fs::perms{0777});
+        fs::permissions(DataFolder / "tasks.xml", fs::perms{0});
+        DropPrivileges();
+        const ChangeResult result = RestoreFile(TaskFile(), "1");
+        EXPECT_FALSE(result.done);
+        EXPECT_TRUE(result.text.starts_with("The file cannot be read: ")) << result.text;
+        EXPECT_EQ(result.kept, Texts{});
+    }));
+    fs::permissions(DataFolder / "tasks.xml", fs::perms{0644});
+    EXPECT_EQ(DataFile("tasks.xml"), present);
+    EXPECT_EQ(DataFile("tasks.xml.tmp"), NoFile);
+}
+
+TEST_F(Restoring, OfTheOldestGenerationIsPossible) {
+    SetDataFile("Backup/tasks_backup3.xml", "the oldest");
+    EXPECT_TRUE(RestoreFile(TaskFile(), "3").done);
+    EXPECT_EQ(DataFile("tasks.xml"), "the oldest");
+}
+
 TEST_F(Restoring, OfAFileThatIsGonePutsTheBackupThere) {
     fs::remove(DataFolder / "tasks.xml");
     const ChangeResult result = RestoreFile(TaskFile(), "1");
@@ -222,6 +251,22 @@ TEST_F(SettingAside, OfADateThatIsNoneMakesTheDriveSound) {
     ReadTasks();
     EXPECT_EQ(Store.TaskRecord.desc.values, (Texts{"Task 1", "Task 3"}));
     EXPECT_NE(BackupFile("tasks_set_aside.xml").find("<date>soon</date>"), std::string::npos);
+}
+
+TEST_F(SettingAside, OfTheLastLinesOfAFileWithoutALineEndTakesThemToTheirEnd) {
+    const std::size_t begin = present.rfind("<task>");
+    const std::size_t end = present.rfind("</task>") + 7;
+    SetDataFile("tasks.xml", present.substr(0, end));
+    EXPECT_TRUE(SetRecordAside(TaskFile(), 3).done);
+    EXPECT_EQ(DataFile("tasks.xml"), present.substr(0, begin));
+    EXPECT_EQ(BackupFile("tasks_set_aside.xml"), present.substr(begin, end - begin));
+}
+
+TEST_F(SettingAside, MakesTheBackupFolderWhereThereIsNone) {
+    fs::remove_all(BackupFolder);
+    const ChangeResult result = SetRecordAside(TaskFile(), 1);
+    EXPECT_TRUE(result.done) << result.text;
+    EXPECT_EQ(BackupFile("tasks_replaced1.xml"), present);
 }
 
 TEST_F(SettingAside, OfARecordThatIsNotThereOrNotClosedChangesNothing) {

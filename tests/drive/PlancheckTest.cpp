@@ -65,6 +65,14 @@ TEST_P(Plancheck, TellsAFaultAndGetsABackupBack) {
     EXPECT_EQ(BytesOf(data / "Backup" / "tasks_replaced1.xml"), sound.substr(0, sound.size() / 2));
 }
 
+TEST_P(Plancheck, TakesAShellThatStartedItForNoPlanner) {
+    const std::filesystem::path data = laidOut / "Documents" / "Planovarium" / "Data";
+    std::filesystem::create_directory(data / "Backup");
+    std::ofstream(data / "Backup" / "tasks_backup1.xml", std::ios::binary) << BytesOf(data / "tasks.xml");
+    const ProgramResult restored = RunPlancheck("--restore tasks.xml 1; exit $?");
+    EXPECT_EQ(restored.status, 0) << restored.output;
+}
+
 TEST_P(Plancheck, EndsWithTwoWhereItsAnswerCannotBeWritten) {
     EXPECT_EQ(RunPlancheck("> /dev/full").status, 2);
     EXPECT_EQ(RunPlancheck("--nonsense").status, 2);

@@ -63,17 +63,31 @@ std::set<int> SeriesIds(const ReadFile& events) {
 
 using LinkIds = std::pair<int, int>; // of a term and a class
 
-std::set<LinkIds> LivingClasses() {
+std::set<LinkIds> ClassIds(bool deletedToo) {
     const ClassLists& classes = Store.ClassRecord;
     std::set<LinkIds> links;
     for (int position = 1, records = WholeRecords(classes); position <= records; ++position) {
         const std::optional<int> id = IdIn(classes.id.Item(position));
         const std::optional<int> term = IdIn(classes.term.Item(position));
-        if (id && term && classes.name.Item(position) != DeletedRecord) {
+        if (id && term && (deletedToo || classes.name.Item(position) != DeletedRecord)) {
             links.insert({*term, *id});
         }
     }
     return links;
+}
+
+// A deleted class keeps its assignments, one that has gone does not.
+void TellAssignmentWithoutClass(const ReadFile& assignments, int position, bool deleted, Findings& findings) {
+    const std::string id = QuotedBeginning(Store.Assignment.class_.Item(position));
+    if (deleted) {
+        Tell(assignments, "class", position, "the term's class with the id " + id + " is deleted",
+             "The planner shows the assignment without its class.", findings);
+    } else {
+        Tell(assignments, "class", position, "the term has no class with the id " + id,
+             "The planner shows the assignment without its class, and takes it out with the next change "
+             "of the term.",
+             findings);
+    }
 }
 
 void TellFileWithoutTerm(const ReadFile& assignments, Findings& findings) {
@@ -156,22 +170,20 @@ void CheckAssignmentLinks(const ReadFile& assignments, Findings& findings) {
         TellFileWithoutTerm(assignments, findings);
         return;
     }
-    const std::set<LinkIds> classes = LivingClasses();
+    const std::set<LinkIds> living = ClassIds(false);
+    const std::set<LinkIds> all = ClassIds(true);
     for (int position = 1; position <= assignments.records; ++position) {
-        const std::string& text = Store.Assignment.class_.Item(position);
-        const std::optional<int> id = IdIn(text);
-        if (!IsDeleted(assignments, position) && (!id || !classes.contains({ActiveTermID, *id}))) {
-            Tell(assignments, "class", position, "the term has no class with the id " + QuotedBeginning(text),
-                 "The planner shows the assignment without its class, and takes it out with the next change "
-                 "of the term.",
-                 findings);
+        const std::optional<int> id = IdIn(Store.Assignment.class_.Item(position));
+        const LinkIds link{ActiveTermID, id.value_or(0)};
+        if (!IsDeleted(assignments, position) && (!id || !living.contains(link))) {
+            TellAssignmentWithoutClass(assignments, position, id && all.contains(link), findings);
         }
     }
 }
 
 void CheckEventLinks(const ReadFile& events, Findings& findings) {
     const std::set<int> series = SeriesIds(events);
-    const std::set<LinkIds> classes = LivingClasses();
+    const std::set<LinkIds> classes = ClassIds(false);
     for (int position = 1; position <= events.records; ++position) {
         if (!IsDeleted(events, position)) {
             CheckParent(events, series, position, findings);
