@@ -164,6 +164,15 @@ TEST_F(CalendarPageOf, TextsThatArePutInAreNotLookedAtAgain) {
     AddTaskRecord({.date = "2009/10/12", .desc = "~ xredbg"});
     EXPECT_EQ(Tasks("`row 2`\n`line 0`\n~.~"),
               "&nbsp;<a title=\"~ xredbg - 0% Complete\" href=\"#top\">~ xredbg</a>.~\n");
+    AddTaskRecord({.date = "2009/09/28", .desc = "class=xwhite2"});
+    EXPECT_EQ(
+        Tasks("`row 0`\n`line 0`\nclass=xwhite2 ~"),
+        "class=xgray2 &nbsp;<a title=\"class=xwhite2 - 0% Complete\" href=\"#top\">class=xwhite2</a>\n");
+    AddTasks(4, "2009/09/29");
+    AddTaskRecord({.date = "2009/09/29", .desc = "class=xwhite2"});
+    EXPECT_EQ(Tasks("`row 0`\n`line 4`\n~\nclass=xwhite2 ~"),
+              "&nbsp;\nclass=xgray3 &nbsp;<a title=\"class=xwhite2 - 0% Complete\" "
+              "href=\"#top\">class=xwhite2</a>\n");
 }
 
 TEST_F(CalendarPageOf, AWeekHasFiveLinesAtLeastAndThoseBeyondAreDropped) {

@@ -137,12 +137,17 @@ TEST_F(ListPageOf, HomeworkHasItsRowsByteForByte) {
 
 TEST_F(ListPageOf, StudySessionsHasItsRowsByteForByte) {
     AddClassRecord({.name = "Algebra"});
+    AddAssignmentRecord({.date = "2009/10/21", .desc = "Set 2"});
     AddAssignmentRecord({.date = "2009/10/20", .desc = "Set 1", .type = " Reading "});
     StudySessionLists& log = Store.StudySessionRecord;
-    log.id.Add("1");
-    log.assignment.Add("1");
-    log.time.Add("01 : 15");
-    log.date.Add("2009/10/12 10:00:00");
+    const auto addSession = [&log](const char* assignment, const char* time, const char* date) {
+        log.id.Add("1");
+        log.assignment.Add(assignment);
+        log.time.Add(time);
+        log.date.Add(date);
+    };
+    addSession("-1", "03 : 00", "2009/10/11 10:00:00");
+    addSession("2", "01 : 15", "2009/10/12 10:00:00");
     SelectStudyRows({"All", "Term", Today()});
     EXPECT_EQ(Rows(ListPage::StudySessions),
               RowStart + "  <td height=21 class=xl28 style='height:15.95pt'>Algebra</td>\n"

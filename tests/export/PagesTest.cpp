@@ -84,6 +84,7 @@ TEST(PageText, GivesReferencesForCharactersThatTheFilesLack) {
                         "dziernik"}),
               "pa&#378;dziernik");
     EXPECT_EQ(PageText({"11\xE6\x9C\x88"}), "11&#26376;");
+    EXPECT_EQ(PageText({"\xE0\xB8\xA1.\xE0\xB8\x84."}), "&#3617;.&#3588;.");
     EXPECT_EQ(PageText({"\xF0\x9F\x93\x85."}), "&#128197;.");
     EXPECT_EQ(PageText({"\xF0\x90\x81\x81"}), "&#65601;") << "and no A, of which it has the lower half";
 }

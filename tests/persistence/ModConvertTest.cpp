@@ -202,6 +202,15 @@ TEST_F(Conversion, TakesAnExactNameBeforeOneInOtherLetters) {
     EXPECT_EQ(Store.TaskRecord.desc.values, Texts{"Old task"});
 }
 
+TEST_F(Conversion, TakesTheFirstInTheOrderOfTheBytesOfTwoNamesInOtherLetters) {
+    Remove("Tasks.txt");
+    SetDataFile("tasks.TXT", LegacyTask({.desc = "of the second name"}));
+    SetDataFile("TASKS.txt", LegacyTask({.desc = "of the first name"}));
+    SetDataFile("tasks.txt", LegacyTask({.desc = "of the third name"}));
+    Start();
+    EXPECT_EQ(Store.TaskRecord.desc.values, Texts{"of the first name"});
+}
+
 TEST_F(Conversion, OfNoTermsConvertsEventsAndTasksOverWhatIsThere) {
     Remove("Terms.txt");
     SetDataFile("tasks.xml", "present");
@@ -292,6 +301,22 @@ TEST_F(Conversion, OfAFolderThatIsGoneDoesNothingAndSaysNothing) {
     EXPECT_EQ(Script.boxes, Boxes{});
 }
 
+TEST_F(Conversion, OfAFolderThatIsPulledAwayMeanwhileEndsWithoutAWord) {
+    const fs::path elsewhere = drive.root / "elsewhere";
+    Script.whileSyncing = [&elsewhere](const std::string& name) {
+        if (name == "classes.xml.tmp") {
+            fs::rename(DataFolder, elsewhere);
+        }
+    };
+    ConvertLegacyData();
+    EXPECT_EQ(Script.boxes, Boxes{});
+    EXPECT_FALSE(fs::exists(DataFolder));
+    EXPECT_TRUE(fs::exists(elsewhere / "terms.xml"));
+    for (const char* name : {"assignments_1.xml", "tasks.xml", "events.xml"}) {
+        EXPECT_FALSE(fs::exists(elsewhere / name)) << name;
+    }
+}
+
 TEST_F(Conversion, WritesNothingOnceAShutdownHasBegun) {
     fs::create_directory(DataFolder / "classes.xml.tmp");
     Script.whileBoxIsOpen = [](const ShownBox&) { ShuttingDown = true; };
@@ -308,13 +333,14 @@ TEST_F(Conversion, CarriesTombstonesOfTermsAndClassesAndDropsTheOthers) {
     SetDataFile("Assignments.txt", LegacyAssignment({}) +
                                        LegacyAssignment({.id = "2", .desc = "DELETED RECORD"}) +
                                        LegacyAssignment({.id = "3", .class_ = "2"}));
-    SetDataFile("Tasks.txt", LegacyTask({.desc = "DELETED RECORD"}) + LegacyTask({.id = "2"}));
+    SetDataFile("Tasks.txt", LegacyTask({.desc = "DELETED RECORD"}) + LegacyTask({.id = "2"}) +
+                                 LegacyTask({.id = "3", .desc = "Deleted record"}));
     SetDataFile("Events.txt", LegacyEvent({.desc = "DELETED RECORD"}) + LegacyEvent({.id = "2"}));
     Start();
     EXPECT_EQ(Store.Term.name.values, (Texts{"Fall 2009", "DELETED RECORD"}));
     EXPECT_EQ(Store.ClassRecord.name.values, (Texts{"Algebra", "DELETED RECORD"}));
     EXPECT_EQ(Store.Assignment.id.values, Texts{"1"});
-    EXPECT_EQ(Store.TaskRecord.id.values, Texts{"2"});
+    EXPECT_EQ(Store.TaskRecord.id.values, (Texts{"2", "3"})) << "the words in capitals alone";
     EXPECT_EQ(Store.EventRecord.id.values, Texts{"2"});
     EXPECT_EQ(DataFile("assignments_2.xml"), FileOf("assignment_data", "")) << "a file for a tombstone too";
 }
