@@ -36,8 +36,11 @@ QString FromScreen(const ScreenText& text) {
     return QString::fromStdString(text.utf8);
 }
 
+// A tab would set what stands behind it apart, as a menu does with keys.
 QString MenuText(std::string_view text) {
-    return FromStore(text).replace(QLatin1Char('&'), QLatin1String("&&"));
+    return FromStore(text)
+        .replace(QLatin1Char('&'), QLatin1String("&&"))
+        .replace(QLatin1Char('\t'), QLatin1Char(' '));
 }
 
 QString WithoutMnemonics(const QString& caption) {

@@ -127,6 +127,12 @@ TEST_F(WindowPlace, OfAMaximizedOrMinimizedWindowIsWrittenAsZeros) {
     EXPECT_TRUE(ReadData("Prefs.ini").starts_with(PlaceLines("1", {"0", "0", "0", "0"})));
 }
 
+TEST_F(WindowPlace, OfAMaximizedWindowThatIsMinimizedIsThatOfAMinimizedOne) {
+    LoadWindow();
+    window->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    EXPECT_EQ(WrittenPlace(), PlaceLines("1", {"0", "0", "0", "0"}));
+}
+
 TEST_F(WindowPlace, ThatALaterReadWouldStopAtIsWrittenAsZero) {
     LoadWindow();
     window->move(2185, 2184);

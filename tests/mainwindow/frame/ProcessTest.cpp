@@ -280,6 +280,15 @@ TEST_F(Process, TrayMenuRestoresTheMinimizedWindow) {
     EXPECT_EQ(window->windowState() & ~Qt::WindowActive, Qt::WindowMaximized);
 }
 
+TEST_F(Process, TrayMenuShowsTheWindowThatWasHiddenWhileItWasMinimized) {
+    LoadWindow();
+    window->setWindowState(Qt::WindowMinimized);
+    window->hide();
+    ASSERT_EQ(TrayMenu().size(), 4U);
+    Script.trayEvents.itemChosen(2);
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(Process, TrayMenuIsEmptyWhileADialogIsOpen) {
     LoadWindow();
     WhileEditorIsOpen([this] { EXPECT_EQ(TrayMenu(), std::vector<std::string>{}); });

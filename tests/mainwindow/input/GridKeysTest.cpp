@@ -1,5 +1,6 @@
 // The keys of the grid.
 #include "mainwindow/input/GridKeys.h"
+#include "mainwindow/flows/TermFlow.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
 
@@ -370,4 +371,36 @@ TEST_F(GridKeys, TheMenuKeyShowsTheHalfHourOfTheKeys) {
     MenuAfter(Qt::Key_Menu);
     EXPECT_TRUE(HalfHourIsFramed(1));
     EXPECT_EQ(window->picGrid->mapFromGlobal(window->PopupPoint).y(), SlotHeight);
+}
+
+TEST_F(GridKeys, TheMenuKeyOpensTheMenuOfTheModeWhateverTheListHolds) {
+    const std::array<std::pair<void (*)(frmMain&), QString>, ModeCount> modes{{
+        {&ShowHomeworkMode, "Add new assignment..."},
+        {&ShowStudySessionsMode, ""},
+        {&ShowTaskMode, "Add new task..."},
+        {&ShowReminderMode, ""},
+        {&ShowEventMode, "Add new event..."},
+        {&ShowCalendarMode, "Add new assignment..."},
+    }};
+    const auto expectMenus = [&](const char* state) {
+        for (const auto& [enter, first] : modes) {
+            enter(*window);
+            if (first.isEmpty()) {
+                Press(Qt::Key_Menu);
+                EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << state;
+                continue;
+            }
+            EXPECT_EQ(MenuAfter(Qt::Key_Menu).first(), first) << state;
+            Press(Qt::Key_Down);
+            EXPECT_EQ(MenuAfter(Qt::Key_Menu).first(), first) << state;
+        }
+    };
+    expectMenus("no rows");
+    AddAssignments(3);
+    AddTaskRecord({});
+    AddEventRecord({});
+    expectMenus("rows");
+    ResetStore();
+    SetActiveTerm(*window, "");
+    expectMenus("no term");
 }

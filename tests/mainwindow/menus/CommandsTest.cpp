@@ -1,6 +1,8 @@
 // The commands of the menu bar, the mode bar and the buttons.
+#include "mainwindow/dialogs/frmGPA.h"
 #include "mainwindow/input/GridTest.h"
 #include "mainwindow/modes/Modes.h"
+#include "reminders/frmReminders.h"
 #include "toolkit/Text.h"
 
 #include <QMenuBar>
@@ -30,6 +32,12 @@ protected:
             }
         }
         return captions.join(", ");
+    }
+
+    // Keys of items reach the active window alone.
+    void ComeBack() {
+        window->activateWindow();
+        ASSERT_TRUE(WaitUntil([this] { return QApplication::activeWindow() == window.get(); }));
     }
 
     void Press(Qt::Key key) { QTest::keyClick(window->picGrid, key, Qt::ControlModifier); }
@@ -184,6 +192,25 @@ TEST_F(Commands, KeysChooseTheModes) {
     EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
     Press(Qt::Key_1);
     EXPECT_EQ(window->CurrentMode(), Mode::Calendar);
+}
+
+TEST_F(Commands, KeysChooseTheItemsOfTheFileMenu) {
+    Press(Qt::Key_P);
+    EXPECT_EQ(Script.printDialogs.size(), 1U);
+    bool grades = false;
+    WhenDialogOpens([&grades](QWidget* dialog) {
+        grades = dialog == GPADialog;
+        dialog->close();
+    });
+    Press(Qt::Key_G);
+    EXPECT_TRUE(grades);
+    ComeBack();
+    Press(Qt::Key_5);
+    EXPECT_TRUE(ReminderListWindow->isVisible());
+    ReminderListWindow->hide();
+    ComeBack();
+    Press(Qt::Key_Q);
+    EXPECT_TRUE(window->isHidden());
 }
 
 TEST_F(Commands, NewEventsStartAtNine) {

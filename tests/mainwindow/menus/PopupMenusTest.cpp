@@ -212,6 +212,14 @@ TEST_F(PopupMenus, AnAmpersandIsShownAsItIs) {
               "(01:00 left)  Algebra - Q&A ...");
 }
 
+// A menu would set what stands behind a tab apart, as it does with keys.
+TEST_F(PopupMenus, ATabInADescriptionIsShownAsABlank) {
+    AddAssignmentRecord({.desc = "Page\t12"});
+    ShowCalendarMode(*window);
+    EXPECT_EQ(MenuOfClick(IconPoint(CalendarIcon::Homework), Qt::LeftButton).first(),
+              "(01:00 left)  Algebra - Page 12 ...");
+}
+
 TEST_F(PopupMenus, CommandsChangeTheMode) {
     ShowHomeworkMode(*window);
     MenuOfClick(Somewhere, Qt::RightButton, "See all tasks...");

@@ -35,6 +35,7 @@ void ShowAbout(frmMain& window) {
         AboutDialog = new frmAbout(&window);
     }
     PlaceAtFirstOpen(*AboutDialog, AboutDBFirstOpen, window);
+    AboutDialog->cmdOK->setFocus(); // and not the address, which Enter would open
     RunModally(*AboutDialog);
     window.picGrid->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "core/Module1.h"
 #include "mainwindow/dialogs/frmTip.h"
 #include "mainwindow/frmMain.h"
+#include "toolkit/FirstOpen.h"
 #include "toolkit/Modal.h"
 
 namespace {
@@ -29,8 +30,12 @@ void ShowTipOfTheDay(frmMain& window) {
     }
     if (TipDialog == nullptr) {
         TipDialog = new frmTip(&window);
+        TipDialog->move(window.pos() + FirstOpenOffset);
     }
     frmTip& dialog = *TipDialog;
+    if (dialog.isVisible()) {
+        return; // the menu was quicker than the timer
+    }
     dialog.ShowTips = window.tempShowTipsAtStartup;
     dialog.CurrentTip = window.tempCurrentTip;
     RunModally(dialog);

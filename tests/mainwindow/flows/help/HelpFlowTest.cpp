@@ -80,6 +80,7 @@ TEST_F(Help, PictureAndWordOfTheBarOpenTheHomeworkHelp) {
 
 TEST_F(Help, AboutStandsBesideTheWindowAtFirstAndThenWhereItWasLeft) {
     window->move(40, 30);
+    window->ButtonSelectTerm->setFocus();
     QPoint first, second;
     WhenDialogOpens([&first](QWidget* dialog) {
         EXPECT_EQ(dialog, AboutDialog);
@@ -97,4 +98,21 @@ TEST_F(Help, AboutStandsBesideTheWindowAtFirstAndThenWhereItWasLeft) {
     window->MenuAbout->trigger();
     EXPECT_EQ(second, QPoint(333, 222));
     EXPECT_EQ(window->focusWidget(), window->picGrid);
+}
+
+TEST_F(Help, AboutOpensOnItsButtonWhateverHadTheKeysTheLastTime) {
+    WhenDialogOpens([](QWidget* dialog) {
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(dialog->focusWidget(), AboutDialog->lblDescription);
+        dialog->close();
+    });
+    window->MenuAbout->trigger();
+    WhenDialogOpens([](QWidget* dialog) {
+        EXPECT_EQ(dialog->focusWidget(), AboutDialog->cmdOK);
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+        EXPECT_TRUE(dialog->isHidden());
+        dialog->close();
+    });
+    window->MenuAbout->trigger();
+    EXPECT_TRUE(Script.opened.empty());
 }

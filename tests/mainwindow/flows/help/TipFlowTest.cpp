@@ -51,6 +51,7 @@ TEST_F(TipOfTheDay, TimerIsStartedByTheLoadForHalfASecondAndOnce) {
 
 TEST_F(TipOfTheDay, ComesUpWithTheNumberThatThePreferencesHold) {
     Load("CurrentTip=7\n");
+    window->ButtonSelectTerm->setFocus();
     EXPECT_EQ(TipShownBy([this] { Tick(); }), FromStore(TipText(7)));
     EXPECT_EQ(window->tempCurrentTip, 8);
     EXPECT_EQ(window->tempShowTipsAtStartup, "Yes");
@@ -117,4 +118,36 @@ TEST_F(TipOfTheDay, ClosedByTheShutdownChangesNothing) {
     Tick();
     EXPECT_EQ(window->tempCurrentTip, 3);
     EXPECT_EQ(window->tempShowTipsAtStartup, "Yes");
+}
+
+// Chosen in the menu within the half second of the start.
+TEST_F(TipOfTheDay, TimerThatMeetsTheTipLeavesItAlone) {
+    Load("CurrentTip=3\n");
+    WhenDialogOpens([this](QWidget*) {
+        TipDialog->ButtonNextTip->click();
+        Tick();
+        EXPECT_TRUE(TipDialog->isVisible());
+        EXPECT_EQ(TipDialog->LabelTip->text(), FromStore(TipText(4)));
+        TipDialog->ButtonNextTip->click();
+        EXPECT_EQ(TipDialog->LabelTip->text(), FromStore(TipText(5)));
+        TipDialog->close();
+    });
+    window->MenuShowTips->trigger();
+    EXPECT_EQ(window->tempCurrentTip, 6);
+}
+
+TEST_F(TipOfTheDay, StandsBesideTheWindowAtFirstAndThenWhereItWasLeft) {
+    Load("CurrentTip=3\n");
+    window->move(40, 30);
+    WhenDialogOpens([this](QWidget* dialog) {
+        EXPECT_EQ(dialog->pos(), window->pos() + QPoint(250, 50));
+        dialog->move(333, 222);
+        dialog->close();
+    });
+    Tick();
+    WhenDialogOpens([](QWidget* dialog) {
+        EXPECT_EQ(dialog->pos(), QPoint(333, 222));
+        dialog->close();
+    });
+    Tick();
 }

@@ -159,6 +159,38 @@ TEST_F(ColorsFlow, ACutFileOfClassesLosesItsUnfinishedRecordBefore) {
     EXPECT_EQ(ReadData("Backup/classes_damaged.xml"), cut);
 }
 
+TEST_F(ColorsFlow, ACutFileOfTermsLosesItsUnfinishedRecordBefore) {
+    WriteTermsAndClasses();
+    const std::string whole = TermsFile({{}, {.id = 3, .name = "Winter 2010"}});
+    const std::string cut = whole.substr(0, whole.rfind("</name>")); // of the winter
+    WriteData("terms.xml", cut);
+    Store = {};
+    FileWrittenFlags = {};
+    ReadTermsAndClasses();
+    SetActiveTerm(*window, "Fall 2009");
+    InDialogAndOk([] {
+        ClickRow(AlgebraRow);
+        Choose(ColorsDialog->ButtonBGColor, 7);
+    });
+    EXPECT_EQ(Store.Term.id.values, std::vector<std::string>{"1"});
+    EXPECT_EQ(ReadData("terms.xml").find("<id>3</id>"), std::string::npos);
+    EXPECT_EQ(ReadData("Backup/terms_damaged.xml"), cut);
+}
+
+// A type of a category that is a class's would be there after an error in the dialog's flow.
+TEST_F(ColorsFlow, ClassesThatStandAmongTheTypesGoBeforeThoseOfTheTermCome) {
+    TypeTable.category.Add("Class");
+    TypeTable.key.Add("Latin");
+    TypeTable.customname.Add("");
+    TypeTable.forecolor.Add("0");
+    TypeTable.backcolor.Add("0");
+    InDialogAndOk([] {
+        EXPECT_EQ(ColorsDialog->RowCount, TypeRows + 2);
+        EXPECT_EQ(NameOfRow(AlgebraRow), "Algebra");
+    });
+    ExpectNoClassRows();
+}
+
 TEST_F(ColorsFlow, AFileThatCannotBeWrittenIsReported) {
     std::filesystem::create_directories(data / "classes.xml.tmp" / "in the way");
     InDialogAndOk([] {});
