@@ -226,6 +226,30 @@ TEST_F(ReminderTicks, DropTheRecordInWhichItsFileWasCutBeforeTheyWrite) {
     EXPECT_NE(ReadData("tasks.xml").find("<reminder_list>True"), std::string::npos);
 }
 
+TEST_F(ReminderTicks, DropTheRecordInWhichTheFileOfHomeworkOrOfEventsWasCut) {
+    for (const char* desc : {"one", "two"}) {
+        AddDueHomework(desc);
+        AddDueEvent(desc);
+    }
+    WriteAssignments();
+    WriteEvents();
+    for (const char* name : {"assignments_1.xml", "events.xml"}) {
+        WriteData(name, ReadData(name).substr(0, ReadData(name).rfind("</desc>")));
+    }
+    Store.Assignment = {};
+    Store.EventRecord = {};
+    FileWrittenFlags = {};
+    ReadAssignments();
+    ReadEvents();
+    Tick();
+    EXPECT_EQ(Standing().size(), 2U);
+    EXPECT_TRUE(FileWrittenFlags.assignments && FileWrittenFlags.events);
+    EXPECT_EQ(Store.Assignment.id.Count(), 1);
+    EXPECT_EQ(Store.EventRecord.id.Count(), 1);
+    EXPECT_EQ(ReadData("assignments_1.xml").find("two"), std::string::npos);
+    EXPECT_EQ(ReadData("events.xml").find("two"), std::string::npos);
+}
+
 TEST_F(ReminderTicks, WhoseSaveFailsAsTheShutdownComesShowNoWindow) {
     AddDueTask();
     const FailingFile failing = LetFail("tasks.xml");

@@ -121,6 +121,15 @@ TEST_F(ShownReminders, AreOnlyHiddenWhenTheStudentClosesThem) {
 
 // --- By hand -----------------------------------------------------------------------------------------------
 
+TEST_F(ShownReminders, TakeTheKeyboardByHandAlsoWhereTheyAreOnTheScreenAlready) {
+    AddDueTask();
+    Tick();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    list->ShowByHand();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(list));
+}
+
 TEST_F(ShownReminders, OpenFromTheFileMenu) {
     window->MenuPopupReminders->trigger();
     ExpectShownByHand();

@@ -190,6 +190,27 @@ TEST_F(ViewedReminder, OpensOnceWhereAnActivationComesToo) {
     EXPECT_EQ(editorsOpened, 1);
 }
 
+TEST_F(ViewedReminder, IsNamedToTheMainWindowAsTheButtonIsPressed) {
+    AddTaskRecord({.desc = "other"});
+    AddDueTask();
+    AddDueEvent();
+    QuietTick();
+    Select("Event 1");
+    CloseEditors();
+    Click(list->ButtonView);
+    EXPECT_TRUE(CalledFromReminders);
+    EXPECT_EQ(ReminderOpenMode, "Event");
+    EXPECT_EQ(ReminderIndex, 1);
+    Select("Task 2");
+    Click(list->ButtonView);
+    EXPECT_EQ(ReminderOpenMode, "Task");
+    EXPECT_EQ(ReminderIndex, 2);
+    EXPECT_TRUE(WaitUntil([this] { return editorsOpened > 0; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(editorsOpened, 1) << "the last one that was chosen";
+    EXPECT_EQ(window->CurrentMode(), Mode::Tasks);
+}
+
 TEST_F(ViewedReminder, IsLookedUpAgainAsItOpens) {
     AddDueTask("first");
     AddDueTask("second");

@@ -147,6 +147,16 @@ TEST_F(GPAWindow, SecondOpeningShowsWhatHasChanged) {
     EXPECT_EQ(Row().time, "13:45");
 }
 
+TEST_F(GPAWindow, SecondOpeningHasTheKeysInTheCombo) {
+    AddTwoClasses();
+    Open();
+    EXPECT_EQ(dialog.focusWidget(), dialog.ComboClassNameList);
+    dialog.ButtonOK->setFocus();
+    dialog.hide();
+    Open();
+    EXPECT_EQ(dialog.focusWidget(), dialog.ComboClassNameList);
+}
+
 TEST_F(GPAWindow, WithoutATermTotalStandsAlone) {
     ResetStore();
     Open();
