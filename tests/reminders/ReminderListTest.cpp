@@ -222,6 +222,14 @@ TEST_F(ReminderList, ArrowsHomeAndEndMoveTheSelection) {
     EXPECT_EQ(selectedBy(Qt::Key_Home), 1);
 }
 
+TEST_F(ReminderList, AnArrowThatIsHeldMovesTheSelectionOn) {
+    ShowThree();
+    Press(Qt::Key_Down);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(list->picGrid, &held);
+    EXPECT_EQ(list->ReminderSelectedRow, 2);
+}
+
 TEST_F(ReminderList, TheBarAndTheWheelMoveTheFirstRowAndLeaveTheSelection) {
     for (int i = 0; i < 100; ++i) {
         AddTaskRecord({.reminder_list = "True"});

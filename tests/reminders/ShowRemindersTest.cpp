@@ -4,6 +4,7 @@
 #include "reminders/RemindersTest.h"
 
 #include <QCloseEvent>
+#include <QWindow>
 
 namespace {
 
@@ -17,6 +18,13 @@ protected:
     QPoint BottomRight() const {
         const QRect frame = list->frameGeometry();
         return {frame.x() + frame.width(), frame.y() + frame.height()};
+    }
+
+    // As the window manager asks for it; gives whether the window has closed, and not only hidden itself.
+    bool PressCloseBox() const {
+        QCloseEvent event;
+        QCoreApplication::sendEvent(list->windowHandle(), &event);
+        return event.isAccepted();
     }
 
     void ExpectShownByHand() const {
@@ -117,6 +125,16 @@ TEST_F(ShownReminders, AreOnlyHiddenWhenTheStudentClosesThem) {
     Tick();
     EXPECT_TRUE(list->isVisible());
     EXPECT_EQ(Standing().size(), 2U);
+}
+
+TEST_F(ShownReminders, AreOnlyHiddenByTheirCloseBoxAndCloseWithAShutdown) {
+    list->ShowByHand();
+    EXPECT_FALSE(PressCloseBox());
+    EXPECT_FALSE(list->isVisible());
+    list->ShowByHand();
+    ShuttingDown = true;
+    EXPECT_TRUE(PressCloseBox()) << "the end of the session must not be refused";
+    EXPECT_FALSE(list->isVisible());
 }
 
 // --- By hand -----------------------------------------------------------------------------------------------

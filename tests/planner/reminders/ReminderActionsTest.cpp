@@ -61,6 +61,15 @@ TEST_F(ReminderButtons, SnoozingHomeworkOverMidnightMovesItsDay) {
     ExpectChanged(false, true, false);
 }
 
+TEST_F(ReminderButtons, SnoozingAtTheEndOfTheYearGoesToTheFirstMinutesOfTheNext) {
+    SetClock(2009, 12, 31, 23, 55);
+    Snooze("Task", "1", "5 Minutes");
+    Snooze("Task", "2", "15 Minutes");
+    EXPECT_EQ(Store.TaskRecord.reminder_date.values, (Texts{"2010/01/01", "2010/01/01"}));
+    EXPECT_EQ(Store.TaskRecord.reminder_time.values, (Texts{"12:00 AM", "12:10 AM"}));
+    EXPECT_EQ(Store.TaskRecord.reminder_alarm.values, (Texts{"2010/01/01 00:00:00", "2010/01/01 00:10:00"}));
+}
+
 TEST_F(ReminderButtons, SnoozingASingleEventSetsItsAlarm) {
     Snooze("Event", "1", "5 Minutes");
     EXPECT_EQ(Store.EventRecord.reminder.Item(1), "True");
@@ -90,6 +99,9 @@ TEST_F(ReminderButtons, SnoozingIsExactToTheSecondAndWritesTheMinute) {
 TEST_F(ReminderButtons, SnoozingRefusesWhatIsNoInterval) {
     EXPECT_THROW(Snooze("Task", "1", "soon"), RunTimeError);
     EXPECT_THROW(Snooze("Task", "1", "99999999 Days"), RunTimeError);
+    SetClock(9999, 12, 31, 23, 0);
+    EXPECT_THROW(Snooze("Task", "1", "1 Hour"), RunTimeError) << "the first moment behind the calendar";
+    EXPECT_EQ(Store.TaskRecord.reminder.Item(1), "False");
     EXPECT_EQ(Store.TaskRecord.reminder_list.Item(1), "True");
 }
 

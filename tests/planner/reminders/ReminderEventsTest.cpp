@@ -30,6 +30,7 @@ TEST_F(ReminderScan, FiresASingleEventOnce) {
     window.Tick();
     EXPECT_FALSE(window.flags.ReminderShowWindow);
     EXPECT_EQ(window.rows.ReminderWhens.Item(1), "23 Hours Ago");
+    EXPECT_EQ(window.rows.ReminderSortKeys.Item(1), -(23 * 60 + 40));
 }
 
 TEST_F(ReminderScan, ShowsTheLatestOfFiveMissedDaysInOneRow) {
