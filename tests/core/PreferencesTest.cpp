@@ -162,6 +162,14 @@ TEST_F(Preferences, EndAtACurrentTipThatIsNoNumber) {
     EXPECT_EQ(Script.boxes, Boxes{});
 }
 
+TEST_F(Preferences, KeepTheNumberOfATipThatThereIsNot) {
+    for (const int tip : {-32768, -3, 31, 32767}) {
+        const PreferenceValues values = Read({"CurrentTip=" + std::to_string(tip), "AutoStart=No"});
+        EXPECT_EQ(values.CurrentTip, tip);
+        EXPECT_EQ(values.AutoStart, "No");
+    }
+}
+
 TEST_F(Preferences, EndAtASizeThatIsNoNumber) {
     const PreferenceValues values = Read({"FormMainLocationX=10", "FormMainSizeX=abc", "FormMainSizeY=600",
                                           "ActiveTerm=Fall", "TaskCN_Home=Chores"});

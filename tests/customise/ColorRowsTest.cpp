@@ -74,6 +74,11 @@ TEST_F(ColorRowsTest, AColorThatIsNoneIsTheDefaultOfItsRow) {
     EXPECT_EQ(rows.tempColorsForeColorArray.Item(17), 0);
     EXPECT_EQ(TypesOf(rows).backcolor.Item(17), "55807");
     EXPECT_EQ(TypesOf(rows).forecolor.Item(17), "0");
+    TypeTable.forecolor.Replace(BiologyRow, "");
+    TypeTable.backcolor.Replace(BiologyRow, "");
+    const ColorRows withClass = ColorRowsOf(TypeTable);
+    EXPECT_EQ(withClass.tempColorsForeColorArray.Item(BiologyRow), 0);
+    EXPECT_EQ(withClass.tempColorsBackColorArray.Item(BiologyRow), 0xFFFFFF);
 }
 
 TEST_F(ColorRowsTest, AreSortedByEachColumnInBothDirections) {

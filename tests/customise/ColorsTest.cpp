@@ -114,6 +114,7 @@ TEST_F(Colors, OpensUnsortedOnTheFirstRowEachTime) {
             EXPECT_TRUE(IsFramed(1));
             EXPECT_EQ(ColorsDialog->focusWidget(), ColorsDialog->picGrid);
             EXPECT_FALSE(ColorsDialog->ChangeFlag);
+            EXPECT_FALSE(ColorsDialog->CancelledFlag) << "of the last opening";
             ClickTitle(2);
             ClickTitle(2);
             ClickRow(20);

@@ -46,11 +46,13 @@ TEST_F(About, KeysOpenTheHomePageFromTheDescriptionAlone) {
     EXPECT_EQ(Script.opened, home);
     QTest::keyClick(dialog.lblDescription, Qt::Key_Return);
     EXPECT_EQ(Script.opened.size(), 2U);
+    QTest::keyClick(dialog.lblDescription, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(Script.opened.size(), 3U);
     EXPECT_TRUE(dialog.isVisible());
     dialog.cmdOK->setFocus();
     QTest::keyClick(dialog.cmdOK, Qt::Key_Return);
     EXPECT_TRUE(dialog.isHidden());
-    EXPECT_EQ(Script.opened.size(), 2U);
+    EXPECT_EQ(Script.opened.size(), 3U);
 }
 
 TEST_F(About, OkEscapeAndTheCloseBoxHideIt) {

@@ -70,6 +70,16 @@ TEST_F(GPAFlow, CountsAnewAtEachOpeningAndShowsTheTotalsAgain) {
     });
 }
 
+TEST_F(GPAFlow, OpensWithTheKeysInTheListOfClassesEachTime) {
+    for (int opening = 1; opening <= 2; ++opening) {
+        LookFromMenu([] {
+            EXPECT_EQ(GPADialog->focusWidget(), GPADialog->ComboClassNameList);
+            GPADialog->CheckBoxChroma->setFocus();
+            ASSERT_EQ(GPADialog->focusWidget(), GPADialog->CheckBoxChroma);
+        });
+    }
+}
+
 TEST_F(GPAFlow, KeepsPlusAndMinusWithinTheRun) {
     LookFromMenu([] {
         EXPECT_FALSE(GPADialog->CheckBoxChroma->isChecked());

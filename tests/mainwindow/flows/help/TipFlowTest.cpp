@@ -66,6 +66,12 @@ TEST_F(TipOfTheDay, DoesNotComeUpWhileTheWindowIsHidden) {
     EXPECT_EQ(window->tempCurrentTip, 7);
 }
 
+TEST_F(TipOfTheDay, ComesUpWhileTheWindowIsMinimized) {
+    Load("CurrentTip=7\n");
+    window->showMinimized();
+    EXPECT_EQ(TipShownBy([this] { Tick(); }), FromStore(TipText(7)));
+}
+
 TEST_F(TipOfTheDay, DoesNotComeUpWhereNoneIsWanted) {
     Load("ShowTipsAtStartup=No\nCurrentTip=7\n");
     Tick();
