@@ -1,6 +1,7 @@
 // Drives with one fault each: the check names its file, line, record and field, and says what it would mean.
 #include "check/CheckedDrive.h"
 
+#include "check/faults/FileAge.h"
 #include "support/CutDrive.h"
 
 #include <chrono>
@@ -49,9 +50,13 @@ const std::vector<OneFault> Faults{
      "  <done>False</done>\r\n  <done>False</done>\r\n", "<task>", 1, 1, "done", "has this field 2 times",
      "out of step"},
     {"FieldUnknown", "tasks.xml", "<notes>", "<note></note>\r\n  <notes>", "<note>", 1, 1, "note",
-     "knows no field \"note\"", "drops"},
+     "knows no field \"note\"", "drops line 17 without"},
     {"FieldOutside", "tasks.xml", "<task>\r\n", "  <done>False</done>\r\n<task>\r\n", "<done>", 1, 0, "done",
      "outside of a record", "out of step"},
+    {"FieldBetweenRecords", "tasks.xml", "</task>\r\n", "</task>\r\n  <done>False</done>\r\n", "<done>", 2, 0,
+     "done", "outside of a record", "out of step"},
+    {"FieldUnknownOnTwoLines", "tasks.xml", "<notes>", "<note>\r\n</note>\r\n  <notes>", "<note>", 1, 1,
+     "note", "knows no field", "drops lines 17 to 18 without"},
     {"FieldNotClosed", "tasks.xml", "Task 3</desc>", "Task 3", "<desc>Task 3", 1, 3, "desc",
      "no line behind it ends with </desc>", "2 records of it"},
     {"BlanksBehindATag", "tasks.xml", "Task 1</desc>", "Task 1</desc> ", "<desc>Task 1", 1, 1, "desc",
@@ -188,15 +193,25 @@ TEST_F(Waiting, SaveIsToldWithItsAgeAndWhatTheFileLacks) {
     waiting.replace(waiting.find("Task 1", id), 6, "Task 4");
     waiting.replace(waiting.find("Task 2"), 6, "Other!");
     SetDataFile("tasks.xml.tmp", waiting);
-    Script.now = std::chrono::floor<std::chrono::seconds>(Script.now);
+    const Moment written = WrittenAt(DataFolder / "tasks.xml.tmp").value();
+    Script.now = written + std::chrono::hours{49};
     const CheckResult result = Check();
     ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
     EXPECT_EQ(result.findings[0].file, "tasks.xml.tmp");
-    EXPECT_NE(result.findings[0].fault.find("a save waits here since 2"), std::string::npos);
+    EXPECT_EQ(result.findings[0].fault, "a save waits here since " + WrittenText(written) + " (2 days)");
     EXPECT_EQ(
         result.findings[0].meaning,
         "The planner does not read it. It holds 4 records, of which the file lacks 1: \"Task 4\", and 1 "
         "that differ from the file's.");
+}
+
+TEST_F(Waiting, SaveThatCannotBeReadSaysThatItCouldNotLook) {
+    fs::create_directory(DataFolder / "tasks.xml.tmp");
+    const CheckResult result = Check();
+    EXPECT_FALSE(result.lookedAtAll);
+    ASSERT_EQ(result.findings.size(), 1U) << Shown(result.findings);
+    EXPECT_EQ(result.findings[0].file, "tasks.xml.tmp");
+    EXPECT_EQ(result.findings[0].fault, "the file cannot be read");
 }
 
 TEST_F(Waiting, SaveOfAFileThatIsGoneIsToldTogetherWithAllThatItHolds) {

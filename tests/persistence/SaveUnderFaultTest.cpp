@@ -132,6 +132,17 @@ TEST_F(Save, PassesOverARenameThatFailsWithTheRecordsInTheTmp) {
     EXPECT_TRUE(DataFile("tasks.xml.tmp").ends_with("</task_data>\r\n"));
 }
 
+TEST_F(Save, PassesOverARenameThatFailsBehindTheRemovalOfTheFile) {
+    EXPECT_TRUE(SucceedsInChild([] {
+        FailSystemCall(SYS_rename, EIO);
+        WriteTasks();
+        EXPECT_EQ(Script.boxes, Boxes{});
+        EXPECT_TRUE(FileWrittenFlags.tasks);
+    }));
+    EXPECT_EQ(DataFile("tasks.xml"), NoFile);
+    EXPECT_TRUE(DataFile("tasks.xml.tmp").ends_with("</task_data>\r\n"));
+}
+
 TEST_F(Save, LeavesAPartialTmpBehindWhenSpaceRunsOut) {
     EXPECT_TRUE(SucceedsInChild([] {
         LimitFileSize(300);
