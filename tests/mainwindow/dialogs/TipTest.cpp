@@ -65,7 +65,15 @@ TEST_F(Tips, WindowHasItsWords) {
     EXPECT_EQ(dialog.LabelVideo->text(), "Don't miss the Video Tutorials in the Help Menu!");
 }
 
-TEST_F(Tips, CloseEnterAndEscapeHideIt) {
+TEST_F(Tips, EnterShowsTheNextOne) {
+    dialog.CurrentTip = 4;
+    dialog.show();
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(Shown(), FromStore(TipText(5)));
+}
+
+TEST_F(Tips, CloseEscapeAndTheCloseBoxHideIt) {
     dialog.show();
     QTest::mouseClick(dialog.ButtonClose, Qt::LeftButton);
     EXPECT_TRUE(dialog.isHidden());

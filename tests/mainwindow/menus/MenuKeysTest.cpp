@@ -43,8 +43,8 @@ void ExpectKeys(const QList<QAction*>& items, const QString& menu) {
 } // namespace
 
 TEST_F(MenuKeys, EachItemOfTheMenuBarHasAKeyOfItsOwnInEveryMode) {
-    for (const auto enter :
-         {&ShowCalendarMode, &ShowHomeworkMode, &ShowTaskMode, &ShowEventMode, &ShowStudySessionsMode}) {
+    for (const auto enter : {&ShowCalendarMode, &ShowHomeworkMode, &ShowTaskMode, &ShowEventMode,
+                             &ShowStudySessionsMode, &ShowReminderMode}) {
         enter(*window);
         ExpectKeys(window->menuBar()->actions(), "menu bar");
     }
