@@ -50,7 +50,7 @@ void frmReminders::RemoveItem() {
         RemoveReminder(item.mode, item.id, *this);
         WriteChangedFiles();
         TakeOutSelectedRow();
-        SetReminderTitle();
+        SetReminderTitle(ReminderIds.Count());
     }
     SetReminderButtons();
 }

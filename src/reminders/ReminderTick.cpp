@@ -7,6 +7,8 @@
 
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace {
 
 void WriteIf(bool& changed, RecordFile (*file)(), void (*write)()) {
@@ -30,18 +32,20 @@ void frmReminders::Tick() {
 }
 
 // What was selected stays so when nothing has fired. The files are written before the rows are drawn; a box
-// may come then, and a shutdown with it.
+// may come then, and a shutdown with it. Until they are drawn the rows stay those that the list shows.
 void frmReminders::ReminderTick() {
     const ReminderItem selected = ItemOfRow(*this, ReminderSelectedRow);
-    CheckReminders(Now(), *this, *this);
-    SortReminderListRows(*this, {SortColumn, SortDirection});
-    if (ReminderSelectedRow != 0) {
-        ReminderSelectedRow = RowOfItem(*this, selected);
-    }
-    SetReminderTitle();
+    ReminderListRows rows;
+    CheckReminders(Now(), *this, rows);
+    SetReminderTitle(rows.ReminderIds.Count());
     WriteChangedFiles();
     if (ShuttingDown) {
         return;
+    }
+    SortReminderListRows(rows, {SortColumn, SortDirection});
+    static_cast<ReminderListRows&>(*this) = std::move(rows);
+    if (ReminderSelectedRow != 0) {
+        ReminderSelectedRow = RowOfItem(*this, selected);
     }
     DrawSortedRows();
     SetReminderButtons();
@@ -54,7 +58,7 @@ void frmReminders::LeaveTerm() {
     const int rows = ReminderIds.Count();
     TakeOutTermRows(*this, *this);
     if (ReminderIds.Count() != rows) {
-        SetReminderTitle();
+        SetReminderTitle(ReminderIds.Count());
         DrawSortedRows();
         SetReminderButtons();
     }

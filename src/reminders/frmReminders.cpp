@@ -157,8 +157,8 @@ void frmReminders::SetReminderButtons() {
     }
 }
 
-void frmReminders::SetReminderTitle() {
-    setWindowTitle(FromStore(ReminderTitle(ReminderIds.Count())));
+void frmReminders::SetReminderTitle(int rows) {
+    setWindowTitle(FromStore(ReminderTitle(rows)));
 }
 
 // --- Keys and entries --------------------------------------------------------------------------------------

@@ -59,7 +59,7 @@ public:
     // Selects the row; 0 selects none.
     void SelectReminder(int row);
 
-    void SetReminderTitle();
+    void SetReminderTitle(int rows);
 
     // --- The buttons (ReminderButtons.cpp) ---
     void ViewItem();
