@@ -31,7 +31,7 @@ constexpr std::array<KindRules, 5> RulesOfKinds{{
 }};
 
 // What a text of the kind has to be, in the order of ValueKind.
-constexpr std::array<std::string_view, 13> Wanted{
+constexpr auto Wanted = std::to_array<std::string_view>({
     "is neither True nor False",
     "is no date",
     "has a text that is no date",
@@ -42,10 +42,11 @@ constexpr std::array<std::string_view, 13> Wanted{
     "is no time before such as 30 Minutes",
     "is no colour",
     "is no number",
-    "is no number",
     "is no percentage",
     "is no number of 16 bits",
-};
+});
+
+static_assert(Wanted.size() == static_cast<std::size_t>(ValueKind::WholeNumber) + 1);
 
 void ConvertAll(std::string_view dates) {
     while (TakeException(dates)) {
@@ -83,11 +84,6 @@ void Convert(ValueKind kind, const std::string& text) {
         ToColor(text);
         break;
     case ValueKind::Points:
-        if (!Trim(text).empty()) {
-            ToDecimal(text);
-        }
-        break;
-    case ValueKind::Credits:
         if (!Trim(text).empty()) {
             ToDecimal(text);
         }

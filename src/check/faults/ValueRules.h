@@ -17,7 +17,6 @@ enum class ValueKind {
     LeadTime,
     Color,
     Points,
-    Credits,
     Percentage,
     WholeNumber
 };
@@ -53,7 +52,7 @@ inline constexpr std::array<ValueRule, 3> TermRules{{
 
 inline constexpr std::array<ValueRule, 4> ClassRules{{
     {"id", ValueKind::WholeNumber, Asked::Living, "as the term and its classes are opened"},
-    {"credits", ValueKind::Credits, Asked::Living, "as it computes the grades"},
+    {"credits", ValueKind::Points, Asked::Living, "as it computes the grades"},
     {"forecolor", ValueKind::Color, Asked::Living, InViews},
     {"backcolor", ValueKind::Color, Asked::Living, InViews},
 }};
