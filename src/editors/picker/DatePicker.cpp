@@ -43,8 +43,7 @@ QString MonthPicture(bool up, bool pressed) {
 } // namespace
 
 DatePicker::DatePicker(QWidget* dialog) : QFrame(dialog) {
-    SetupPanel();
-    SetupTimers();
+    SetupCalendar();
     SetHelpTopic(this, CalendarTopic);
     hide();
     setEnabled(false);
@@ -61,9 +60,6 @@ void DatePicker::AddField(bool target, QWidget* box, QWidget* button, std::funct
 }
 
 void DatePicker::SetCalendarHeads(const std::string& startDayOfWeek) {
-    if (LabelMonth == nullptr) {
-        SetupCalendar();
-    }
     HideCalendar();
     firstDayOfWeek = startDayOfWeek;
     const std::array<std::string_view, DaysPerWeek> heads = WeekdayHeads(startDayOfWeek);

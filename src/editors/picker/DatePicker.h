@@ -27,8 +27,7 @@ public:
     // A dialog with one field names it true.
     void AddField(bool target, QWidget* box, QWidget* button, std::function<Date()> date);
 
-    // Makes the controls of the panel at the first call, closes it, and writes the heads of the columns from
-    // the first day of the week on.
+    // Closes the panel, and writes the heads of the columns from the first day of the week on.
     void SetCalendarHeads(const std::string& startDayOfWeek);
 
     // Opens the panel below the target's box on the target's date.
@@ -85,7 +84,6 @@ private:
         std::function<Date()> date;
     };
 
-    void SetupPanel();
     void SetupCalendar();
     void SetupTimers();
     QWidget* BuildMonthName();

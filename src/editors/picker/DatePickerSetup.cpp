@@ -21,15 +21,13 @@ void SetGround(QWidget* widget, int ground, int edge) {
 
 } // namespace
 
-void DatePicker::SetupPanel() {
+void DatePicker::SetupCalendar() {
     setObjectName(QStringLiteral("picCalendar"));
     setFrameShape(QFrame::Box);
     setFocusPolicy(Qt::ClickFocus);
     setFixedWidth(PanelWidth);
     SetGround(this, SurfaceColor, AccentColor);
-}
 
-void DatePicker::SetupCalendar() {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(PanelPadding, PanelPadding, PanelPadding, PanelPadding);
     grid->setSpacing(1);
@@ -54,6 +52,7 @@ void DatePicker::SetupCalendar() {
     }
     connect(LabelToday, &ClickLabel::Clicked, this, [this] { Pick(TodayDate); });
     connect(LabelTomorrow, &ClickLabel::Clicked, this, [this] { Pick(TomorrowDate); });
+    SetupTimers();
     ReleaseMonthButton();
 }
 
